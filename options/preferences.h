@@ -1,0 +1,134 @@
+// The Options dialog: the window, its buttons and the maps that the walk of the option tree fills.
+#pragma once
+
+#include "host/ref.h"
+#include "host/xstring.h"
+#include "options/pages/std_dir_item.h"
+#include "options/tree_item.h"
+
+#include <QDialog>
+#include <QList>
+#include <QMap>
+#include <vector>
+
+class CollapseWidget;
+class IParam;
+class QAbstractButton;
+class QButtonGroup;
+class QComboBox;
+class QLabel;
+class QLayout;
+class QLineEdit;
+class QPrefWidget;
+class QPushButton;
+class QRadioButton;
+class QTextEdit;
+class QToolButton;
+class QTreeWidget;
+class SearchingLineEdit;
+struct PaperFormat;
+class RasterFormat;
+
+class Preferences : public QDialog {
+    Q_OBJECT
+public:
+    explicit Preferences(QWidget* parent, Qt::WindowFlags flags = {});
+    ~Preferences() override; // writes nothing
+
+    // The walk (option_walk.cpp).
+    void rebuildTree(bool fromConfiguration);
+    void buildNode(IParam* node, const char* nodeName, TreeItem* parentItem);
+    QPrefWidget* makeRow(int position, TreeItem* item, QWidget* editor, bool cutAtAngleBracket,
+                         int doubleClickEnabled);
+    void forgetItem(TreeItem* item); // takes a row that goes away, and all below it, out of every map
+
+    // The rules (preferences_rules.cpp, row_moves.cpp).
+    void refreshButtons(TreeItem* item);
+    void showDescription(TreeItem* item); // description pane, tool bar and search marks for one item
+    void addToCurrent();
+    void modifyCurrent();
+    void deleteCurrent();
+    void moveCurrent(int step); // -1 up, 1 down
+    void showContextMenu(QWidget* label, const QPoint& position);
+
+    // Values (apply.cpp).
+    void applyChanges();
+    void applyItem(TreeItem* item);
+    void writeCursorFlag(bool value);
+    void saveExpandedSections();
+
+    // Editors, by row kind (editors_*.cpp). Each makes the editor, reads the value and makes the row.
+    void buildCheck(TreeItem* item, IParam* node);
+    void buildRadio(TreeItem* item, IParam* node);
+    void buildColor(TreeItem* item, IParam* node, int nodeType);
+    void buildEditInt(TreeItem* item, IParam* node);
+    void buildEditReal(TreeItem* item, IParam* node);
+    void buildFileEdit(TreeItem* item, IParam* node, int id);
+    void buildEdit(TreeItem* item, IParam* node);
+    void buildDirEdit(TreeItem* item, IParam* node);
+    void buildCombo(TreeItem* item, IParam* node, int id);
+    void setChildrenDisabled(TreeItem* item, bool disable);
+    void updateGroupLabel(TreeItem* item, TreeItem* parentItem);
+    void pickColor(QToolButton* button, TreeItem* item);
+    IParam* parentNode(TreeItem* item) const; // node of the parent item, null if the map has none
+
+    QTreeWidget* tree = nullptr;
+    CollapseWidget* collapseWidget = nullptr;
+    QPushButton* okButton = nullptr;
+    QPushButton* cancelButton = nullptr;
+    QPushButton* applyButton = nullptr;
+    QPushButton* helpButton = nullptr;
+    QToolButton* profileButton = nullptr;
+    QToolButton* addButton = nullptr;
+    QToolButton* deleteButton = nullptr;
+    QToolButton* upButton = nullptr;
+    QToolButton* downButton = nullptr;
+    QTextEdit* description = nullptr;
+    SearchingLineEdit* searchEdit = nullptr;
+    QComboBox* profileCombo = nullptr;
+    QList<TreeItem*> expandedItems;
+    QMap<TreeItem*, QButtonGroup*> buttonGroups; // key: the parent of the radio rows
+    QMap<TreeItem*, QPrefWidget*> rowWidgets;
+    QMap<TreeItem*, QRadioButton*> radioButtons;
+    QMap<TreeItem*, QList<QRadioButton*>> radioLists; // key: the parent of the radio rows
+    QString currentProfile;
+    CXString cursorColorKey;
+    CXString cursorSection;
+    TreeItem* cursorColorItem = nullptr;
+    TreeItem* paperRootItem = nullptr;
+    QList<RasterFormat*> rasterFormats;     // owned
+    std::vector<CStdDirItem> stdDirs;
+    std::vector<PaperFormat*> paperFormats; // owned
+    QMap<TreeItem*, IParam*> optionItems;   // borrowed: the configuration tree owns the nodes
+
+signals:
+    void themeChanged();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void buildButtons();
+    void buildToolBar();
+    void buildSearch();
+    QLayout* layOutRightColumn();
+    QLayout* layOutBottomRows();
+    void layOut();
+    void connectAll();
+    void clearTree();
+    void makeRoot();
+    void walkConfiguration();
+    void groupRadioButtons();
+    void fillProfiles();
+    void runIdRule(int id, TreeItem* item);
+    void buildEditorOf(TreeItem* item, IParam* node, int typeNumber, int id);
+    void restoreExpansion(TreeItem* item);
+    void applyChildren(TreeItem* item);
+    void onItemExpanded(QTreeWidgetItem* item);
+    void onCurrentItemChanged(QTreeWidgetItem* current);
+    void onThemeClicked();
+    void setThemeIcons();
+
+    class QToolBar* toolBar = nullptr;
+    QLabel* configurationLabel = nullptr;
+};

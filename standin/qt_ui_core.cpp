@@ -1,0 +1,83 @@
+// Message boxes, combo box, icons and dialog parent of the host.
+#include "host/qt_ui_core.h"
+
+#include "standin/registry.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QMessageBox>
+#include <QPainter>
+#include <QWheelEvent>
+
+using standin::MessageKind;
+using standin::registry;
+
+namespace {
+
+EV_MB_RET showBox(MessageKind kind, const QString& title, const QString& text, EV_MB_RET buttons) {
+    if (registry().messageBox)
+        return registry().messageBox(kind, title, text, buttons);
+    QMessageBox box(kind == MessageKind::Critical ? QMessageBox::Critical : QMessageBox::Question, title,
+                    text, QMessageBox::StandardButtons(int(buttons)), host_qt_ui_core::parentForDialog());
+    box.setTextFormat(Qt::PlainText);
+    return EV_MB_RET(box.exec());
+}
+
+QPixmap faded(const QPixmap& source) {
+    QPixmap result(source.size());
+    result.setDevicePixelRatio(source.devicePixelRatio());
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.setOpacity(0.35);
+    painter.drawPixmap(0, 0, QPixmap::fromImage(source.toImage().convertToFormat(QImage::Format_ARGB32)));
+    return result;
+}
+
+} // namespace
+
+namespace host_qt_ui_core {
+
+ParentWrapper parentForDialog() {
+    return ParentWrapper(registry().dialogParent ? registry().dialogParent : QApplication::activeWindow());
+}
+
+EV_MB_RET QHostMessageBox::critical(const QString& title, const QString& text, EV_MB_RET buttons) {
+    return showBox(MessageKind::Critical, title, text, buttons);
+}
+
+EV_MB_RET QHostMessageBox::question(const QString& title, const QString& text, EV_MB_RET buttons) {
+    return showBox(MessageKind::Question, title, text, buttons);
+}
+
+EV_MB_RET QHostMessageBox::question(const QString& text, EV_MB_RET buttons) {
+    return showBox(MessageKind::Question, QCoreApplication::applicationName(), text, buttons);
+}
+
+QHostComboBox::QHostComboBox(QWidget* parent) : QComboBox(parent) {}
+QHostComboBox::~QHostComboBox() = default;
+
+void QHostComboBox::disableMouseWheel(bool disable) { wheelDisabled = disable; }
+
+void QHostComboBox::wheelEvent(QWheelEvent* event) {
+    if (wheelDisabled)
+        event->ignore();
+    else
+        QComboBox::wheelEvent(event);
+}
+
+QIcon createHostDisableIcon(const QString& path) {
+    if (!QFile::exists(path))
+        return {};
+    QIcon icon(path);
+    for (const QSize& size : icon.availableSizes())
+        icon.addPixmap(faded(icon.pixmap(size)), QIcon::Disabled);
+    return icon;
+}
+
+} // namespace host_qt_ui_core
+
+QIcon hostIconResource::get(const QString& baseName) {
+    const bool dark = hostGetQtStyleManager()->themeNumber() == 0;
+    return QIcon((dark ? QStringLiteral(":/res/dark/") : QStringLiteral(":/res/light/")) + baseName +
+                 QStringLiteral(".ico"));
+}
