@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QHash>
 #include <QMessageBox>
 #include <QPainter>
 #include <QWheelEvent>
@@ -77,7 +78,10 @@ QIcon createHostDisableIcon(const QString& path) {
 } // namespace host_qt_ui_core
 
 QIcon hostIconResource::get(const QString& baseName) {
+    static QHash<QString, QIcon> loaded; // thousands of rows share a few pictures
     const bool dark = hostGetQtStyleManager()->themeNumber() == 0;
-    return QIcon((dark ? QStringLiteral(":/res/dark/") : QStringLiteral(":/res/light/")) + baseName +
-                 QStringLiteral(".ico"));
+    const QString path = (dark ? QStringLiteral(":/res/dark/") : QStringLiteral(":/res/light/")) + baseName +
+                         QStringLiteral(".ico");
+    const auto found = loaded.constFind(path);
+    return found != loaded.constEnd() ? *found : *loaded.insert(path, QIcon(path));
 }

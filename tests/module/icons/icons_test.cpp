@@ -1,0 +1,81 @@
+// The icon table, its resources in both themes, and the two look-ups.
+#include "module/icons/icons.h"
+
+#include "host/qt_ui_core.h"
+#include "module/icons/icon_table.h"
+#include "standin/registry.h"
+
+#include <QFile>
+#include <QImage>
+#include <gtest/gtest.h>
+
+namespace {
+
+class ThemeOf : public HostQtStyleManager {
+public:
+    explicit ThemeOf(int themeToShow) : number(themeToShow) { standin::registry().styles = this; }
+    ~ThemeOf() override { standin::registry().styles = nullptr; }
+    hostui::qt::style::hostQtThemeChangeWatcher* themeWatcher() override { return &watcher; }
+    int themeNumber() override { return number; }
+
+private:
+    int number;
+    hostui::qt::style::hostQtThemeChangeWatcher watcher;
+};
+
+QImage pictureOf(const QIcon& icon, int size = 24) { return icon.pixmap(size, size).toImage(); }
+
+} // namespace
+
+TEST(IconTable, HoldsThirtySevenNumbersWithoutNineteen) {
+    EXPECT_EQ(iconTable().size(), 37);
+    EXPECT_FALSE(iconTable().contains(19));
+    EXPECT_EQ(iconTable().value(1), "paper");
+    EXPECT_EQ(iconTable().value(18), "mail");
+    EXPECT_EQ(iconTable().value(20), "imp_exp");
+    EXPECT_EQ(iconTable().value(38), "underl");
+}
+
+TEST(IconTable, EveryNameHasAPictureOfEverySizeInBothThemes) {
+    for (const QString& name : iconTable()) {
+        for (const QString theme : {"dark", "light"}) {
+            const QString path = ":/res/" + theme + "/" + name + ".ico";
+            ASSERT_TRUE(QFile::exists(path)) << path.toStdString();
+            const QList<QSize> sizes = QIcon(path).availableSizes();
+            for (int size : {16, 24, 32, 48})
+                EXPECT_TRUE(sizes.contains(QSize(size, size))) << path.toStdString() << " lacks " << size;
+        }
+    }
+}
+
+TEST(IconTable, TheTwoThemesShowDifferentPictures) {
+    for (const QString& name : iconTable())
+        EXPECT_NE(pictureOf(QIcon(":/res/dark/" + name + ".ico")),
+                  pictureOf(QIcon(":/res/light/" + name + ".ico")))
+            << name.toStdString();
+}
+
+TEST(TreeIcon, UnknownNumberGivesThePictureOfRow33) {
+    const ThemeOf dark(0);
+    EXPECT_EQ(pictureOf(treeIcon(19)), pictureOf(treeIcon(33)));
+    EXPECT_EQ(pictureOf(treeIcon(0)), pictureOf(treeIcon(33)));
+    EXPECT_NE(pictureOf(treeIcon(32)), pictureOf(treeIcon(33)));
+}
+
+TEST(ToolIcon, UnknownNumberGivesAPathWithAnEmptyBaseName) {
+    EXPECT_EQ(toolIconPath(19, 0), ":/res/dark/.ico");
+    EXPECT_EQ(toolIconPath(-1, 1), ":/res/light/.ico");
+    EXPECT_TRUE(toolIcon(19).isNull());
+}
+
+TEST(ToolIcon, ThemeZeroIsDarkAndEveryOtherIsLight) {
+    EXPECT_EQ(toolIconPath(32, 0), ":/res/dark/add.ico");
+    EXPECT_EQ(toolIconPath(32, 1), ":/res/light/add.ico");
+    EXPECT_EQ(toolIconPath(32, 2), ":/res/light/add.ico");
+}
+
+TEST(ToolIcon, HasAGreyedFormForTheDisabledState) {
+    const ThemeOf light(1);
+    const QIcon icon = toolIcon(32);
+    EXPECT_NE(icon.pixmap(24, 24, QIcon::Normal).toImage(), icon.pixmap(24, 24, QIcon::Disabled).toImage());
+}
