@@ -1,0 +1,24 @@
+// The page of standard directories: one section item for each of the host's lists, one item for each path.
+// Edits change the lists that the dialog holds; the host hears of them on Apply.
+#pragma once
+
+class Preferences;
+class QString;
+class TreeItem;
+
+// Builds the sections and paths under `parent`; leaves the page out when the host doesn't offer the lists.
+void loadStdDirs(Preferences& preferences, TreeItem* parent);
+void storeStdDirs(Preferences& preferences);
+// Gives back the references that the path items below the page hold; call it before the tree is cleared.
+void releaseStdDirs(Preferences& preferences);
+
+// The operations on a row. `path` has node type 14; `item` of addPath may be a path or a section (15). A move
+// does the whole of it: texts, rows, current item and focus.
+void addPath(Preferences& preferences, TreeItem* item);
+void modifyPath(Preferences& preferences, TreeItem* path);
+void deletePath(Preferences& preferences, TreeItem* path);         // without a question
+void movePath(Preferences& preferences, TreeItem* path, int step); // -1 up, 1 down
+
+// Whether the path may be stored in the section; tells the user why not.
+bool validatePath(Preferences& preferences, const QString& path, const QString& sectionTitle,
+                  int sectionIndex);
