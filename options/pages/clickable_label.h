@@ -1,0 +1,20 @@
+// The label of an option row: a label that tells when it was double-clicked.
+#pragma once
+
+#include <QLabel>
+#include <cstdint>
+
+class ClickableLabel : public QLabel {
+    Q_OBJECT
+public:
+    ClickableLabel(const QString& text, QWidget* parent, int doubleClickEnabled);
+
+signals:
+    void doubleClicked();
+
+protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    std::int32_t doubleClickEnabled; // non-zero: the signal is emitted
+};

@@ -1,0 +1,34 @@
+// The editor of a real number.
+#include "options/pages/double_spin_box.h"
+
+#include "options/pages/small_editor.h"
+
+#include <QLocale>
+#include <QWheelEvent>
+
+DoubleSpinBox::DoubleSpinBox(QTreeWidgetItem* item, QTreeWidget* tree, QWidget* parent)
+    : QDoubleSpinBox(parent), item(item), tree(tree) {
+    small_editor::selectAllByTimer<QAbstractSpinBox>(this, selectionTimer);
+    setLocale(QLocale(QLocale::C));
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void DoubleSpinBox::wheelEvent(QWheelEvent* event) {
+    if (hasFocus())
+        QDoubleSpinBox::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+void DoubleSpinBox::keyPressEvent(QKeyEvent* event) {
+    if (small_editor::isReturn(event))
+        small_editor::finishEditing(this);
+    else
+        QDoubleSpinBox::keyPressEvent(event);
+}
+
+void DoubleSpinBox::focusInEvent(QFocusEvent* event) {
+    QDoubleSpinBox::focusInEvent(event);
+    selectionTimer.start();
+    small_editor::makeCurrent(item, tree);
+}
