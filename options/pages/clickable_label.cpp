@@ -3,8 +3,8 @@
 
 #include <QMouseEvent>
 
-ClickableLabel::ClickableLabel(const QString& text, QWidget* parent, int doubleClickEnabled)
-    : QLabel(text, parent), doubleClickEnabled(doubleClickEnabled) {}
+ClickableLabel::ClickableLabel(const QString& text, QWidget* parent, int enabled)
+    : QLabel(text, parent), doubleClickEnabled(enabled) {}
 
 void ClickableLabel::mouseDoubleClickEvent(QMouseEvent* event) {
     if (doubleClickEnabled && event->button() == Qt::LeftButton)

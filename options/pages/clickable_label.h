@@ -7,7 +7,7 @@
 class ClickableLabel : public QLabel {
     Q_OBJECT
 public:
-    ClickableLabel(const QString& text, QWidget* parent, int doubleClickEnabled);
+    ClickableLabel(const QString& text, QWidget* parent, int enabled);
 
 signals:
     void doubleClicked();

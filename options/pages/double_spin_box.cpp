@@ -6,8 +6,8 @@
 #include <QLocale>
 #include <QWheelEvent>
 
-DoubleSpinBox::DoubleSpinBox(QTreeWidgetItem* item, QTreeWidget* tree, QWidget* parent)
-    : QDoubleSpinBox(parent), item(item), tree(tree) {
+DoubleSpinBox::DoubleSpinBox(QTreeWidgetItem* rowItem, QTreeWidget* rowTree, QWidget* parent)
+    : QDoubleSpinBox(parent), item(rowItem), tree(rowTree) {
     small_editor::selectAllByTimer<QAbstractSpinBox>(this, selectionTimer);
     setLocale(QLocale(QLocale::C));
     setFocusPolicy(Qt::StrongFocus);

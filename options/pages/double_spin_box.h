@@ -11,7 +11,7 @@ class QTreeWidgetItem;
 class DoubleSpinBox : public QDoubleSpinBox {
 public:
     // Both may be null; they are not owned.
-    DoubleSpinBox(QTreeWidgetItem* item, QTreeWidget* tree, QWidget* parent);
+    DoubleSpinBox(QTreeWidgetItem* rowItem, QTreeWidget* rowTree, QWidget* parent);
 
 protected:
     void wheelEvent(QWheelEvent* event) override;

@@ -6,8 +6,8 @@
 #include <QLocale>
 #include <QWheelEvent>
 
-IntSpinBox::IntSpinBox(QTreeWidgetItem* item, QTreeWidget* tree, QWidget* parent)
-    : QSpinBox(parent), item(item), tree(tree) {
+IntSpinBox::IntSpinBox(QTreeWidgetItem* rowItem, QTreeWidget* rowTree, QWidget* parent)
+    : QSpinBox(parent), item(rowItem), tree(rowTree) {
     small_editor::selectAllByTimer<QAbstractSpinBox>(this, selectionTimer);
     setLocale(QLocale(QLocale::C));
     setFocusPolicy(Qt::StrongFocus);

@@ -11,7 +11,7 @@ class QTreeWidgetItem;
 class IntSpinBox : public QSpinBox {
 public:
     // Both may be null; they are not owned.
-    IntSpinBox(QTreeWidgetItem* item, QTreeWidget* tree, QWidget* parent);
+    IntSpinBox(QTreeWidgetItem* rowItem, QTreeWidget* rowTree, QWidget* parent);
 
 protected:
     void wheelEvent(QWheelEvent* event) override;

@@ -3,8 +3,8 @@
 
 #include "options/pages/small_editor.h"
 
-LineEdit::LineEdit(QTreeWidgetItem* item, QTreeWidget* tree, const QString& text, QWidget* parent)
-    : QLineEdit(text, parent), item(item), tree(tree) {
+LineEdit::LineEdit(QTreeWidgetItem* rowItem, QTreeWidget* rowTree, const QString& text, QWidget* parent)
+    : QLineEdit(text, parent), item(rowItem), tree(rowTree) {
     small_editor::selectAllByTimer<QLineEdit>(this, selectionTimer);
 }
 

@@ -10,7 +10,7 @@ class QTreeWidgetItem;
 class LineEdit : public QLineEdit {
 public:
     // Item and tree may be null; they are not owned.
-    LineEdit(QTreeWidgetItem* item, QTreeWidget* tree, const QString& text, QWidget* parent);
+    LineEdit(QTreeWidgetItem* rowItem, QTreeWidget* rowTree, const QString& text, QWidget* parent);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
