@@ -1,0 +1,21 @@
+// The application object of the tests.
+#include "tests/support/test_application.h"
+
+OdRxObjectPtr TestServices::newContext(int, int) {
+    ++contextsMade;
+    return OdRxObjectPtr(new OdRxObject);
+}
+
+OdSmartPtr<OdDbDatabase> TestServices::readFile(const OdString&, int, int, int, const OdString&) {
+    throw OdError(eCantOpenFile);
+}
+
+QObject* TestApplication::extension(const QString& id) {
+    return offersConsole && id == QStringLiteral("oda.IqConsole") ? &console : nullptr;
+}
+
+TestApplication* TestApplication::self() {
+    return static_cast<TestApplication*>(QCoreApplication::instance());
+}
+
+#include "moc_test_application.cpp"

@@ -1,0 +1,11 @@
+// The main function of every test binary: an application object as the host has one, then the tests.
+#include "tests/support/test_application.h"
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    TestApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("tests"));
+    return RUN_ALL_TESTS();
+}
