@@ -1,0 +1,65 @@
+// The search box of the Options dialog. Return filters the tree to the rows whose label or description
+// matches and marks the matches; emptying the box ends the search.
+#pragma once
+
+#include "options/pages/tree_expansion_state.h"
+
+#include <QLineEdit>
+#include <QList>
+
+class QAction;
+class QIcon;
+class QLabel;
+class QTextEdit;
+class QTreeWidget;
+
+class SearchingLineEdit : public QLineEdit {
+    Q_OBJECT
+public:
+    // `tree` and `description` are not owned. The colours are names that go into the marks as they stand.
+    SearchingLineEdit(QTreeWidget* tree, QTextEdit* description, QWidget* parent,
+                      const QString& highlightBackground, const QString& highlightForeground);
+
+    void setClearIcon(const QIcon& icon);
+    void refreshDescription(QTreeWidgetItem* item); // after the item's description went into the pane
+    void removeHighlight(QString& text) const;      // for every reader of a label's text as data
+
+    QLabel* statusLabel = nullptr; // made without a parent; the dialog puts it into its layout
+
+signals:
+    void focusGained();
+    void focusOut();
+    void searchStarted();
+    void searchFinished();
+    void noFound();
+    void smthFound();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void buildClearAction();
+    void connectAll();
+    bool holdsNothing() const; // empty, or the bare star
+    void setTextQuietly(const QString& text);
+
+    void startSearch();
+    void runSearch(const QString& text);
+    void clearHighlights(QTreeWidgetItem* item);
+    void searchItems(QTreeWidgetItem* parent, const QString& text);
+    void showAllBelow(QTreeWidgetItem* item);
+    void showBelowFoundItems();
+    void reset(const QString& newText);
+
+    void highlightDescription(const QString& text);
+
+    QAction* clearAction = nullptr;
+    TreeExpansionState savedExpansion;  // from before Return was pressed
+    QList<QTreeWidgetItem*> foundItems; // kept by the running search, empty between searches
+    QTreeWidget* tree;
+    QTextEdit* description;
+    QString highlightBackground;
+    QString highlightForeground;
+};
