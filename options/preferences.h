@@ -13,16 +13,15 @@
 
 class CollapseWidget;
 class IParam;
-class QAbstractButton;
 class QButtonGroup;
 class QComboBox;
 class QLabel;
 class QLayout;
-class QLineEdit;
 class QPrefWidget;
 class QPushButton;
 class QRadioButton;
 class QTextEdit;
+class QToolBar;
 class QToolButton;
 class QTreeWidget;
 class SearchingLineEdit;
@@ -42,7 +41,7 @@ public:
                          int doubleClickEnabled);
     void forgetItem(TreeItem* item); // takes a row that goes away, and all below it, out of every map
 
-    // The rules (preferences_rules.cpp, row_moves.cpp).
+    // The rules (preferences_rules.cpp, row_operations.cpp, row_moves.cpp).
     void refreshButtons(TreeItem* item);
     void showDescription(TreeItem* item); // description pane, tool bar and search marks for one item
     void addToCurrent();
@@ -96,7 +95,7 @@ public:
     CXString cursorSection;
     TreeItem* cursorColorItem = nullptr;
     TreeItem* paperRootItem = nullptr;
-    QList<RasterFormat*> rasterFormats;     // owned
+    QList<RasterFormat*> rasterFormats; // owned
     std::vector<CStdDirItem> stdDirs;
     std::vector<PaperFormat*> paperFormats; // owned
     QMap<TreeItem*, IParam*> optionItems;   // borrowed: the configuration tree owns the nodes
@@ -108,27 +107,43 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    // Construction (preferences.cpp, preferences_layout.cpp, preferences_connections.cpp).
+    void build();
+    void buildTree();
     void buildButtons();
     void buildToolBar();
+    void buildProfileRow();
     void buildSearch();
-    QLayout* layOutRightColumn();
-    QLayout* layOutBottomRows();
+    QToolButton* addTool(const char* name, int icon, const QString& toolTip);
     void layOut();
+    QLayout* layOutConfiguration();
+    QWidget* layOutRightColumn();
+    QWidget* layOutBottomRows();
     void connectAll();
+    void connectButtons();
+    // The walk (option_walk.cpp, tree_rows.cpp, profile_list.cpp).
     void clearTree();
-    void makeRoot();
-    void walkConfiguration();
+    void forgetWidgets(TreeItem* item);
+    TreeItem* makeRoot();
+    void walkConfiguration(TreeItem* root);
     void groupRadioButtons();
     void fillProfiles();
     void runIdRule(int id, TreeItem* item);
-    void buildEditorOf(TreeItem* item, IParam* node, int typeNumber, int id);
+    void buildRow(TreeItem* item, IParam* node, int typeNumber, int id);
     void restoreExpansion(TreeItem* item);
-    void applyChildren(TreeItem* item);
+    void startDisabledWhereTold(TreeItem* item, QPrefWidget* row);
+    // The rules.
     void onItemExpanded(QTreeWidgetItem* item);
     void onCurrentItemChanged(QTreeWidgetItem* current);
     void onThemeClicked();
     void setThemeIcons();
-
-    class QToolBar* toolBar = nullptr;
+    void focusOkButton();
+    QString labelText(TreeItem* item) const; // of the item's row, without search marks
+    void movePaperRow(TreeItem* item, int step);
+    void moveRow(TreeItem* item, int step, QWidget* editor);
+    void applyChildren(TreeItem* item);
+    QToolBar* toolBar = nullptr;
     QLabel* configurationLabel = nullptr;
+    QLabel* configurationValue = nullptr;
+    QLabel* profileLabel = nullptr;
 };

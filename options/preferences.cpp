@@ -1,0 +1,120 @@
+// Construction of the Options dialog: the controls in the order in which they come to be, then the layout,
+// and all connections last, so that nothing reacts while the dialog is being built.
+#include "options/preferences.h"
+
+#include "module/icons/icons.h"
+#include "options/configuration_name.h"
+#include "options/icon_numbers.h"
+#include "options/pages/collapse_widget.h"
+#include "options/pages/paper_page.h"
+#include "options/pages/raster_page.h"
+#include "options/pages/searching_line_edit.h"
+#include "options/pages/std_dirs_page.h"
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTextEdit>
+#include <QToolBar>
+#include <QToolButton>
+#include <QTreeWidget>
+
+namespace {
+
+template <class Control> Control* named(Control* control, const char* name) {
+    control->setObjectName(QLatin1String(name));
+    return control;
+}
+
+} // namespace
+
+Preferences::Preferences(QWidget* parent, Qt::WindowFlags flags) : QDialog(parent, flags) {
+    build();
+    layOut();
+    okButton->setDefault(true);
+    focusOkButton();
+    connectAll();
+}
+
+// The tree goes while the rest of the dialog still stands: an editor that loses the focus by being destroyed
+// still reports to it.
+Preferences::~Preferences() {
+    disconnect(tree, nullptr, this, nullptr);
+    releaseStdDirs(*this);
+    delete tree;
+    releaseRasterFormats(*this);
+    releasePaperFormats(*this);
+}
+
+void Preferences::build() {
+    setMinimumSize(700, 650);
+    buildTree();
+    description = named(new QTextEdit(this), "description");
+    description->setReadOnly(true);
+    profileCombo = named(new QComboBox(this), "profileCombo");
+    cursorColorItem = nullptr;
+    paperRootItem = nullptr;
+    rebuildTree(true);
+    for (TreeItem* item : qAsConst(expandedItems))
+        item->setExpanded(true);
+    buildButtons();
+    buildToolBar();
+    buildProfileRow();
+    buildSearch();
+}
+
+void Preferences::buildTree() {
+    tree = named(new QTreeWidget(this), "tree");
+    tree->setHeaderHidden(true);
+    tree->setColumnCount(1);
+    tree->header()->setStretchLastSection(true);
+}
+
+void Preferences::buildButtons() {
+    okButton = named(new QPushButton(tr("OK"), this), "okButton");
+    cancelButton = named(new QPushButton(tr("Cancel"), this), "cancelButton");
+    applyButton = named(new QPushButton(tr("Apply"), this), "applyButton");
+    helpButton = named(new QPushButton(tr("Help"), this), "helpButton");
+}
+
+void Preferences::buildToolBar() {
+    toolBar = named(new QToolBar(this), "toolBar");
+    addButton = addTool("addButton", kToolAdd, tr("Add"));
+    deleteButton = addTool("deleteButton", kToolDelete, tr("Delete"));
+    upButton = addTool("upButton", kToolUp, tr("Up"));
+    downButton = addTool("downButton", kToolDown, tr("Down"));
+}
+
+QToolButton* Preferences::addTool(const char* name, int icon, const QString& toolTip) {
+    QToolButton* const tool = named(new QToolButton(this), name);
+    tool->setEnabled(false);
+    tool->setIcon(toolIcon(icon));
+    tool->setToolTip(toolTip);
+    toolBar->addWidget(tool);
+    return tool;
+}
+
+void Preferences::buildProfileRow() {
+    const QString configuration = currentConfigurationName();
+    configurationLabel = named(new QLabel(tr("Current configuration:"), this), "configurationLabel");
+    configurationValue = named(new QLabel(this), "configurationValue");
+    configurationValue->setStyleSheet(QStringLiteral("font-weight: bold;"));
+    configurationValue->setText(configuration.isEmpty() ? tr("Default") : configuration);
+
+    // The list and the button show the profiles and no more: neither has a connection, and that is meant.
+    profileButton = named(new QToolButton(this), "profileButton");
+    profileButton->setIcon(treeIcon(kIconProfile));
+    profileButton->setToolTip(tr("Profiles"));
+    profileLabel = named(new QLabel(tr("Current profile:"), this), "profileLabel");
+}
+
+void Preferences::buildSearch() {
+    searchEdit = named(
+        new SearchingLineEdit(tree, description, this, QStringLiteral("green"), QStringLiteral("white")),
+        "searchEdit");
+    searchEdit->setClearIcon(treeIcon(kIconClear));
+    collapseWidget = named(new CollapseWidget(tree, searchEdit, this), "collapseWidget");
+}
+
+#include "moc_preferences.cpp"

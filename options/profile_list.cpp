@@ -1,0 +1,38 @@
+// The list of profiles beside the tree. It shows them and no more.
+#include "options/preferences.h"
+
+#include "host/app.h"
+#include "host/param.h"
+#include "host/typed_reads.h"
+
+#include <QComboBox>
+
+namespace {
+
+// What stands behind the first "/" of the full name, unless the name begins with it.
+QString profileNameOf(const QString& fullName) {
+    const int slash = fullName.indexOf(QLatin1Char('/'));
+    return slash > 0 ? fullName.mid(slash + 1) : fullName;
+}
+
+Ref<IParam> openProfiles() {
+    const Ref<IAppInterior> interior = appService<IAppInterior>();
+    if (!interior)
+        return {};
+    const auto profile = Ref<IProfile>::take(new_IProfileByRootDir(CXStringW(interior->rootDirectory())));
+    return openChild(profile.get(), "Profiles");
+}
+
+} // namespace
+
+void Preferences::fillProfiles() {
+    profileCombo->clear();
+    const Ref<IParam> profiles = openProfiles();
+    currentProfile = profileNameOf(QStringLiteral("default"));
+    profileCombo->addItem(currentProfile);
+    for (const std::string& child : childNames(profiles.get())) {
+        const QString name = QString::fromLocal8Bit(child.c_str());
+        if (name.compare(currentProfile, Qt::CaseInsensitive) != 0)
+            profileCombo->addItem(name);
+    }
+}

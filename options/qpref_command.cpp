@@ -1,0 +1,27 @@
+// Runs the Options dialog over the current document.
+#include "options/qpref_command.h"
+
+#include "host/documents.h"
+#include "host/modal_runner.h"
+#include "options/preferences.h"
+
+#include <QApplication>
+
+namespace {
+
+QWidget* firstTopLevelWidget() {
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    return widgets.isEmpty() ? nullptr : widgets.first();
+}
+
+} // namespace
+
+int QPREF::Run(IParam*) {
+    if (!HostDocManager()->currentDocument())
+        return 0;
+    Preferences preferences(firstTopLevelWidget());
+    preferences.setWindowFlags(Qt::Window | Qt::WindowCloseButtonHint);
+    preferences.setWindowTitle(QObject::tr("Options"));
+    runModal(preferences);
+    return 0;
+}

@@ -1,0 +1,88 @@
+// The row widgets of the tree's items and the bookkeeping of what stands on which item.
+#include "options/preferences.h"
+
+#include "host/typed_reads.h"
+#include "options/pages/clickable_label.h"
+#include "options/pages/paper_page.h"
+#include "options/pages/pref_widget.h"
+#include "options/pages/raster_page.h"
+#include "options/pages/std_dirs_page.h"
+
+#include <QButtonGroup>
+#include <QRadioButton>
+#include <QTreeWidget>
+
+namespace {
+
+const int kStateDisabled = 8; // bit of a node's `State`
+
+} // namespace
+
+QPrefWidget* Preferences::makeRow(int position, TreeItem* item, QWidget* editor, bool cutAtAngleBracket,
+                                  int doubleClickEnabled) {
+    auto* const row = new QPrefWidget(item, position, editor, cutAtAngleBracket, doubleClickEnabled, this);
+    ClickableLabel* const label = row->label();
+    connect(label, &QWidget::customContextMenuRequested, this,
+            [this, label](const QPoint& clicked) { showContextMenu(label, clicked); });
+    connect(label, &ClickableLabel::doubleClicked, this, [this] { modifyCurrent(); });
+    connect(this, &Preferences::themeChanged, row, [row] { row->applyToolTipStyle(); });
+    rowWidgets[item] = row;
+    tree->setItemWidget(item, 0, row);
+    startDisabledWhereTold(item, row);
+    return row;
+}
+
+void Preferences::startDisabledWhereTold(TreeItem* item, QPrefWidget* row) {
+    const TreeItem* const parent = item->parentItem();
+    const bool parentIsOff = parent && (!parent->isEnabled() || parent->state == 0);
+    int state = 0;
+    readValue(optionItems.value(item), "State", &state);
+    if (parentIsOff || (state & kStateDisabled)) {
+        item->setEnabledFlag(false);
+        row->setEnabled(false);
+    }
+}
+
+void Preferences::clearTree() {
+    releaseStdDirs(*this); // the path items hold references
+    tree->clear();
+    qDeleteAll(buttonGroups);
+    qDeleteAll(radioButtons);
+    qDeleteAll(rowWidgets);
+    releasePaperFormats(*this);
+    releaseRasterFormats(*this);
+    stdDirs.clear();
+    expandedItems.clear();
+    buttonGroups.clear();
+    rowWidgets.clear();
+    radioButtons.clear();
+    radioLists.clear();
+    optionItems.clear();
+    cursorColorItem = nullptr;
+    paperRootItem = nullptr;
+}
+
+// A new item may come to lie at the address of one that is gone, so nothing may remember that.
+void Preferences::forgetItem(TreeItem* item) {
+    for (int i = 0; i < item->childCount(); ++i)
+        forgetItem(item->childItem(i));
+    forgetWidgets(item);
+    radioLists.remove(item);
+    delete buttonGroups.take(item);
+    optionItems.remove(item);
+    expandedItems.removeAll(item);
+    if (cursorColorItem == item)
+        cursorColorItem = nullptr;
+    if (paperRootItem == item)
+        paperRootItem = nullptr;
+}
+
+// The rows of the item and of all below it: they go when the item leaves the tree.
+void Preferences::forgetWidgets(TreeItem* item) {
+    for (int i = 0; i < item->childCount(); ++i)
+        forgetWidgets(item->childItem(i));
+    rowWidgets.remove(item);
+    QRadioButton* const button = radioButtons.take(item);
+    if (button && radioLists.contains(item->parentItem()))
+        radioLists[item->parentItem()].removeOne(button);
+}
