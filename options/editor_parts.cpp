@@ -1,0 +1,27 @@
+// The parts that the line edits and the other editors have in common.
+#include "options/editor_parts.h"
+
+#include "module/icons/icons.h"
+#include "options/pages/line_edit.h"
+#include "options/preferences.h"
+
+#include <QAction>
+
+void nameEditor(QWidget* editor, const TreeItem* item) {
+    editor->setObjectName(QString::fromUtf8(item->nodeName));
+}
+
+void addBrowseAction(Preferences& preferences, LineEdit* edit, QAction* action) {
+    action->setObjectName(QStringLiteral("browseAction"));
+    action->setIcon(treeIcon(2));
+    edit->addAction(action, QLineEdit::TrailingPosition);
+    QObject::connect(&preferences, &Preferences::themeChanged, action,
+                     [action] { action->setIcon(treeIcon(2)); });
+}
+
+void showText(LineEdit* edit, const QString& text) {
+    edit->setText(text);
+    edit->setToolTip(text);
+}
+
+IParam* Preferences::parentNode(TreeItem* item) const { return optionItems.value(item->parentItem()); }

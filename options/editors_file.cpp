@@ -1,0 +1,78 @@
+// The line edit of one or several files, separated by semicolons.
+#include "options/preferences.h"
+
+#include "host/app.h"
+#include "host/qt_ui_core.h"
+#include "host/std_dirs.h"
+#include "host/text.h"
+#include "options/editor_parts.h"
+#include "options/file_filters.h"
+#include "options/option_values.h"
+#include "options/pages/line_edit.h"
+
+#include <QAction>
+#include <QFileDialog>
+
+namespace {
+
+// One row's line edit with what its two slots need.
+struct FileRow {
+    Preferences* preferences;
+    LineEdit* edit;
+    TreeItem* item;
+    int id;
+    QString* lastText; // the text that was accepted last
+};
+
+// Every "/" becomes "\", also in the paths of a system that doesn't separate with it. That is meant.
+void takeFiles(const FileRow& row, QString joined) {
+    joined.replace(QLatin1Char('/'), QLatin1Char('\\'));
+    showText(row.edit, joined);
+    row.item->textValue = joined;
+    *row.lastText = joined;
+}
+
+void pickFiles(const FileRow& row) {
+    QString filter;
+    QStringList extensions;
+    QString start = fileDialogSetup(row.id, &filter, &extensions);
+    if (start.isEmpty())
+        start = QFileInfo(row.edit->text()).absoluteFilePath();
+    const QStringList files = QFileDialog::getOpenFileNames(row.preferences, QString(), start, filter);
+    const QString joined = filterByExtension(files, extensions);
+    if (!joined.isEmpty())
+        takeFiles(row, joined);
+}
+
+void acceptFiles(const FileRow& row) {
+    QString filter;
+    QStringList extensions;
+    fileDialogSetup(row.id, &filter, &extensions);
+    const QStringList files = row.edit->text().split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    const QString joined = filterByExtension(files, extensions);
+    if (joined.isEmpty())
+        row.edit->setText(*row.lastText);
+    else
+        takeFiles(row, joined);
+}
+
+} // namespace
+
+void Preferences::buildFileEdit(TreeItem* item, IParam* node, int id) {
+    const QString value = hostqt::qString(textOrDefault(node, parentNode(item)));
+    auto* edit = new LineEdit(item, tree, value, nullptr);
+    nameEditor(edit, item);
+    edit->setToolTip(value);
+    item->textValue = value;
+    item->buttonMask = kMaskModify;
+    edit->setCursorPosition(0);
+    auto* browse = new QAction;
+    connect(edit, &QObject::destroyed, browse, [browse] { delete browse; });
+    addBrowseAction(*this, edit, browse);
+    // The row's two slots share the last text, which nobody frees: that is meant.
+    const FileRow row{this, edit, item, id, new QString(edit->text())};
+    connect(browse, &QAction::triggered, edit, [row] { pickFiles(row); });
+    connect(
+        edit, &QLineEdit::editingFinished, edit, [row] { acceptFiles(row); }, Qt::DirectConnection);
+    makeRow(1, item, edit, false, 1);
+}
