@@ -2,13 +2,9 @@
 // of such named parameter values.
 #pragma once
 
+#include "host/dir_list.h"
 #include "host/ref.h"
-#include "host/std_dirs.h"
 #include "host/xstring.h"
-
-template <class T, class E> class CTListEnum;
-template <class L> class _TWrapper;
-using StdDirList = CTListEnum<IStdDirInfo*, IStdDirInfo*>;
 
 // The value travels as a CKWVariant. Load and Store go through the IParam that `source` offers, under `key`;
 // both return 0 when `source` has no such interface or the value can't be read or written.
@@ -27,13 +23,6 @@ public:
 // Load and Store go through IStdDirs, under the same rules.
 class CStdDirItem : public CStdParamItem<_TWrapper<StdDirList>> {
 public:
-    CStdDirItem();
-    CStdDirItem(const CStdDirItem& other); // shares the list
-    CStdDirItem(CStdDirItem&& other) noexcept;
-    CStdDirItem& operator=(const CStdDirItem& other);
-    CStdDirItem& operator=(CStdDirItem&& other) noexcept;
-    ~CStdDirItem() override;
-
     void SetValue(const CKWVariant& value) override; // an empty variant or a null object leaves no list
     int GetValue(CKWVariant& value) override;        // always 1
     void ClearValue() override;                      // a new empty list

@@ -1,0 +1,35 @@
+#include "options/pages/page_rows.h"
+
+#include "options/pages/clickable_label.h"
+#include "options/pages/pref_widget.h"
+#include "options/pages/searching_line_edit.h"
+#include "options/preferences.h"
+
+#include <QCheckBox>
+#include <QIcon>
+#include <QTreeWidget>
+
+QIcon iconOf(const TreeItem* item) { return item->data(0, Qt::DecorationRole).value<QIcon>(); }
+
+QString labelText(const Preferences& preferences, TreeItem* item) {
+    const QPrefWidget* row = preferences.rowWidgets.value(item);
+    return row ? row->label()->text() : QString();
+}
+
+QString plainLabelText(const Preferences& preferences, TreeItem* item) {
+    QString text = labelText(preferences, item);
+    preferences.searchEdit->removeHighlight(text);
+    return text;
+}
+
+void takeOffRow(Preferences& preferences, TreeItem* item) {
+    preferences.tree->setItemWidget(item, 0, nullptr);
+    preferences.forgetItem(item);
+}
+
+QCheckBox* makeCheckRow(Preferences& preferences, TreeItem* item, bool checked) {
+    auto* check = new QCheckBox;
+    check->setChecked(checked);
+    preferences.makeRow(0, item, check, false, 1);
+    return check;
+}

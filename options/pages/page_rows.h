@@ -1,0 +1,19 @@
+// What the rows of the list pages have in common: their icon, and how a row leaves the tree.
+#pragma once
+
+class Preferences;
+class QCheckBox;
+class QIcon;
+class QString;
+class TreeItem;
+
+// The icon of an item, or an empty one when its decoration is something else.
+QIcon iconOf(const TreeItem* item);
+// A row's text as its label shows it, with the marks of a search in it.
+QString labelText(const Preferences& preferences, TreeItem* item);
+// The same without the marks.
+QString plainLabelText(const Preferences& preferences, TreeItem* item);
+// Takes the row's widget off and the item out of the dialog's maps; the item is then ready to be deleted.
+void takeOffRow(Preferences& preferences, TreeItem* item);
+// Gives the item a row with a check box, double click on.
+QCheckBox* makeCheckRow(Preferences& preferences, TreeItem* item, bool checked);

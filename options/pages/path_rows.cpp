@@ -1,0 +1,28 @@
+#include "options/pages/path_rows.h"
+
+#include "host/std_dirs.h"
+#include "host/text.h"
+#include "options/preferences.h"
+
+#include <QIcon>
+#include <utility>
+
+TreeItem* makePathItem(Preferences& preferences, TreeItem* section, const QIcon& icon,
+                       const Ref<IStdDirInfo>& info, int doubleClickEnabled) {
+    auto* item = new TreeItem(section);
+    item->setText(0, hostqt::qString(info->GetPath()));
+    item->setIcon(0, icon);
+    item->nodeType = kNodePath;
+    item->buttonMask = kMaskDelete | kMaskModify | kMaskAdd | kMaskUp | kMaskDown;
+    item->numberValue = section->numberValue;
+    item->description = section->description;
+    item->payload = Ref<IStdDirInfo>(info).detach();
+    preferences.makeRow(2, item, nullptr, true, doubleClickEnabled);
+    return item;
+}
+
+IStdDirInfo* payloadOf(const TreeItem* item) { return static_cast<IStdDirInfo*>(item->payload); }
+
+void releasePayload(TreeItem* item) {
+    Ref<IStdDirInfo>::take(static_cast<IStdDirInfo*>(std::exchange(item->payload, nullptr)));
+}
