@@ -1,0 +1,58 @@
+// Takes the lines that the console has when no command runs, and runs the commands that they name.
+#pragma once
+
+#include "sdk/ed/command.h"
+
+#include <QObject>
+#include <QStringList>
+#include <functional>
+#include <map>
+
+namespace standin {
+
+class Console;
+
+struct OwnCommand {
+    QString name; // in capitals
+    QString description;
+    std::function<void()> run;
+};
+
+class CommandLoop : public QObject {
+    Q_OBJECT
+public:
+    explicit CommandLoop(Console& commandConsole, QObject* parent = nullptr);
+    ~CommandLoop() override;
+
+    // Commands of the application itself; those of modules are on odedRegCmds().
+    void add(OwnCommand command);
+    QString descriptionOf(const QString& name) const;
+    QStringList names() const;                               // all of them, sorted
+    QStringList completions(const QString& beginning) const; // none for an empty beginning
+    // Asked for a line that names no command; true when it was taken.
+    std::function<bool(const QString& line)> otherwise;
+
+    bool isRunning() const { return !runningName.isEmpty(); }
+    // The console reads the next line at once: a prompt is open, or no command runs and nothing waits.
+    bool isReady() const;
+    QString prompt() const; // what the user is asked now; empty while a command asks for nothing
+    QString lastCommand() const { return last; }
+
+signals:
+    void commandStarted(const QString& name);
+    void commandEnded(const QString& name);
+
+private:
+    void takeLines();
+    void takeLine(const QString& line);
+    void runNamed(const QString& name);
+    void execute(const QString& name, const std::function<void()>& body);
+    bool isKnown(const QString& name) const;
+
+    Console& console;
+    std::map<QString, OwnCommand> ownCommands;
+    QString runningName, last;
+    bool taking = false;
+};
+
+} // namespace standin

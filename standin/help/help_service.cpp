@@ -1,0 +1,75 @@
+#include "standin/help/help_service.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QTextBrowser>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace standin {
+
+namespace {
+
+// A topic is a file name; what could lead out of the folder is replaced.
+QString pageName(QString topic) {
+    return topic.replace(QRegularExpression(QStringLiteral("[^\\w\\[\\]-]")), QStringLiteral("_")) +
+           QStringLiteral(".html");
+}
+
+} // namespace
+
+HelpWindow::HelpWindow(const QString& pageFolder, QWidget* parent)
+    : QWidget(parent, Qt::Window), folder(pageFolder) {
+    setObjectName(QStringLiteral("helpWindow"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(tr("Help"));
+    build();
+    layOut();
+    resize(680, 560);
+}
+
+HelpWindow::~HelpWindow() = default;
+
+void HelpWindow::build() {
+    pageBrowser = new QTextBrowser(this);
+    pageBrowser->setObjectName(QStringLiteral("pageBrowser"));
+    pageBrowser->setOpenExternalLinks(true);
+    pageBrowser->document()->setDocumentMargin(14);
+}
+
+void HelpWindow::layOut() {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(pageBrowser);
+}
+
+void HelpWindow::showTopic(const QString& topic) {
+    const QFileInfo page(folder + QLatin1Char('/') + pageName(topic));
+    if (page.isFile())
+        pageBrowser->setSource(QUrl::fromLocalFile(page.absoluteFilePath()));
+    else
+        pageBrowser->setPlainText(tr("There is no help page \"%1\".").arg(topic));
+    const QString title = pageBrowser->documentTitle();
+    setWindowTitle(title.isEmpty() ? tr("Help") : tr("Help - %1").arg(title));
+}
+
+HelpService::HelpService(QString pageFolder) : folder(std::move(pageFolder)) {}
+
+HelpService::~HelpService() { delete helpWindow; }
+
+// A window that isn't a child of the modal dialog would not take any click.
+void HelpService::showTopic(const char* topicId) {
+    QWidget* parent = QApplication::activeModalWidget();
+    if (helpWindow && helpWindow->parentWidget() != parent)
+        delete helpWindow;
+    if (!helpWindow)
+        helpWindow = new HelpWindow(folder, parent);
+    helpWindow->showTopic(QString::fromUtf8(topicId));
+    helpWindow->show();
+    helpWindow->raise();
+}
+
+} // namespace standin
+
+#include "moc_help_service.cpp"

@@ -1,0 +1,41 @@
+// The help of the host: a window that shows the pages of the data folder.
+#pragma once
+
+#include "host/help.h"
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+class QTextBrowser;
+
+namespace standin {
+
+class HelpWindow : public QWidget {
+    Q_OBJECT
+public:
+    HelpWindow(const QString& pageFolder, QWidget* parent);
+    ~HelpWindow() override;
+    void showTopic(const QString& topic);
+
+private:
+    void build();
+    void layOut();
+    QString folder;
+    QTextBrowser* pageBrowser = nullptr;
+};
+
+class HelpService : public CKWUnknownImpl<IHelpService> {
+public:
+    explicit HelpService(QString pageFolder); // with the pages <topic>.html
+    ~HelpService() override;
+    // Shows the page in a window that can be used beside a modal dialog, one window at a time.
+    void showTopic(const char* topicId) override;
+    HelpWindow* window() const { return helpWindow; }
+
+private:
+    QString folder;
+    QPointer<HelpWindow> helpWindow;
+};
+
+} // namespace standin

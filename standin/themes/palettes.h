@@ -1,0 +1,14 @@
+// The colours of the two themes of the house.
+#pragma once
+
+#include <QPalette>
+
+namespace standin {
+
+QPalette darkPalette();
+QPalette lightPalette();
+
+// Contrast of two colours as the ratio of their luminances, 1 to 21; 4.5 is needed for reading.
+double contrastRatio(const QColor& a, const QColor& b);
+
+} // namespace standin

@@ -1,0 +1,40 @@
+#include "standin/themes/style_manager.h"
+
+#include "standin/registry.h"
+#include "standin/themes/palettes.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+#include <QToolTip>
+
+namespace standin {
+
+StyleManager::StyleManager() : systemPalette(QApplication::palette()) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    apply();
+    registry().styles = this;
+}
+
+StyleManager::~StyleManager() {
+    if (registry().styles == this)
+        registry().styles = nullptr;
+}
+
+void StyleManager::setTheme(int number) {
+    const int wanted = number == kThemeDark || number == kThemeLight ? number : int{kThemeSystem};
+    if (wanted == theme)
+        return;
+    theme = wanted;
+    apply();
+    emit watcher.clicked();
+}
+
+void StyleManager::apply() {
+    const QPalette palette = theme == kThemeDark    ? darkPalette()
+                             : theme == kThemeLight ? lightPalette()
+                                                    : systemPalette;
+    QApplication::setPalette(palette);
+    QToolTip::setPalette(palette);
+}
+
+} // namespace standin

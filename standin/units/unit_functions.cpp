@@ -1,0 +1,66 @@
+// The host's functions for typed lengths and angles, on the units of the current drawing.
+#include "host/command_io.h"
+
+#include "host/documents.h"
+#include "host/text.h"
+#include "standin/units/unit_text.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace standin {
+
+namespace {
+
+const double radiansPerDegree = 3.14159265358979323846 / 180;
+
+double drawingValue(const wchar_t* name, double otherwise) {
+    HostDocumentManager* documents = HostDocManager();
+    HostVarService* variables = documents ? documents->varService() : nullptr;
+    OdResBufPtr value;
+    if (!variables || variables->getVar(name, &value, nullptr, 0) == kVarUnavailable)
+        return otherwise;
+    return value->getDouble();
+}
+
+} // namespace
+
+LengthUnits currentLengthUnits() {
+    LengthUnits units;
+    units.style = static_cast<int>(drawingValue(L"LUNITS", units.style));
+    units.precision = std::clamp(static_cast<int>(drawingValue(L"LUPREC", units.precision)), 0, 8);
+    return units;
+}
+
+AngleUnits currentAngleUnits() {
+    AngleUnits units;
+    units.style = static_cast<int>(drawingValue(L"AUNITS", units.style));
+    units.base = drawingValue(L"ANGBASE", 0) * radiansPerDegree;
+    units.clockwise = drawingValue(L"ANGDIR", 0) != 0;
+    return units;
+}
+
+} // namespace standin
+
+bool hostdbDisToF(const OdString& text, int unitStyle, double& value) {
+    const int style = unitStyle == -1 ? standin::currentLengthUnits().style : unitStyle;
+    const auto read = standin::lengthFromText(hostqt::qString(text), style);
+    value = read.value_or(value);
+    return read.has_value();
+}
+
+bool hostdbAngToF(const OdString& text, int unitStyle, double& value, int) {
+    standin::AngleUnits units = standin::currentAngleUnits();
+    if (unitStyle != -1)
+        units.style = unitStyle;
+    const auto read = standin::angleFromText(hostqt::qString(text), units);
+    value = read.value_or(value);
+    return read.has_value();
+}
+
+void hostdbRToS(double value, int unitStyle, int, OdString& text, int, int) {
+    standin::LengthUnits units = standin::currentLengthUnits();
+    if (unitStyle != -1)
+        units.style = unitStyle;
+    text = hostqt::odString(standin::lengthText(value, units));
+}
