@@ -95,9 +95,9 @@ def check_folders(report, folders):
         for name in ("Name", "Description"):
             report.expect(isinstance(section.get(name), Wide) and section[name], f"{key}: {name} is no wide text")
     for key, entries in folders["Lists"].items():
-        paths = [entry["path"].lower() for entry in entries]
+        paths = [entry["path"].lower() for entry in entries.values()]
         report.expect(paths and len(set(paths)) == len(paths), f"{key}: no path, or one that is listed twice")
-        for entry in entries:
+        for entry in entries.values():
             report.expect(set(entry) == {"path", "key", "editable"} and entry["editable"] in (0, 1)
                           and ";" not in entry["path"] and re.match(r"(\$\{(data|root)\}(/|$)|/)", entry["path"]),
                           f"{key}: a wrong entry {entry}")
@@ -107,7 +107,7 @@ def check_folders(report, folders):
 
 def check_shipped_folders(report, folders, data):
     """What the lists promise below the data folder is there."""
-    paths = [entry["path"] for entries in folders["Lists"].values() for entry in entries]
+    paths = [entry["path"] for entries in folders["Lists"].values() for entry in entries.values()]
     for path in paths + list(folders["Dirs"].values()):
         if path.startswith("${data}"):
             report.expect(os.path.isdir(path.replace("${data}", data)), f"{path} is not shipped")

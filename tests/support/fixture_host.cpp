@@ -1,6 +1,8 @@
 // Puts the fixture host in place and takes it away again.
 #include "tests/support/fixture_host.h"
 
+#include "standin/params/yaml_tree.h"
+
 #include <stdexcept>
 
 namespace {
@@ -16,13 +18,14 @@ FixtureHost::FixtureHost()
       papersRules(newRules()), configRoot(standin::newTree<IConfigParam>(configRules)),
       profileRoot(standin::newTree<IProfile>(profileRules)), ioRoot(standin::newTree<IIOParams>(ioRules)),
       plainRoot(standin::newTree<IParam>(plainRules)), papersRoot(made(new FixturePapers(papersRules))),
-      interior(made(new FixtureInterior)), help(made(new FixtureHelp)), events(made(new FixtureEvents)),
-      hub(made(new standin::ServiceHub)), savedRegistry(standin::registry()), savedApplication(theOnlyIApp) {
+      dirs(made(new FixtureStdDirs)), interior(made(new FixtureInterior)), help(made(new FixtureHelp)),
+      events(made(new FixtureEvents)), hub(made(new standin::ServiceHub)), savedRegistry(standin::registry()),
+      savedApplication(theOnlyIApp) {
     interior->root = CXStringW(root.path().toStdWString().c_str());
     plainRoot->section().openSection("StdDirsDescriptions", true);
     // The plain tree comes first: the others answer IParam too.
     for (const Ref<IKWUnknown>& service : std::initializer_list<Ref<IKWUnknown>>{
-             interior, plainRoot, configRoot, profileRoot, ioRoot, papersRoot})
+             interior, plainRoot, configRoot, profileRoot, ioRoot, papersRoot, dirs})
         hub->add(service);
     documents.vars = &vars;
     installRegistry();
@@ -76,4 +79,11 @@ standin::TreeRules& FixtureHost::rules(IParam& tree) {
         if (known == &tree)
             return *treeRules;
     throw std::invalid_argument("no root of the fixture host");
+}
+
+void FixtureHost::load(IParam& tree, const std::string& yaml) {
+    const standin::YamlResult parsed = standin::parseYaml(yaml, "test");
+    if (parsed.problem)
+        throw std::invalid_argument(parsed.problem->text());
+    Param_CopyTo(parsed.tree.get(), &tree);
 }

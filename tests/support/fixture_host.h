@@ -23,6 +23,11 @@ public:
     IParam& ioParams() { return *ioRoot; }
     IParam& plain() { return *plainRoot; }
     FixturePapers& papers() { return *papersRoot; }
+    FixtureStdDirs& stdDirs() { return *dirs; }
+    // Puts the tree that a YAML text describes into the option tree's root (or another one), over what is
+    // there. Throws with the reason when the text is no tree.
+    void loadConfig(const std::string& yaml) { load(config(), yaml); }
+    void load(IParam& root, const std::string& yaml);
     // Each store asks its `mayChange` before a change and calls `changed` after it; a test may make one
     // refuse, or fail after some changes. `root` is one of the five above.
     standin::TreeRules& rules(IParam& root);
@@ -67,6 +72,7 @@ private:
     Ref<standin::ParamOf<IIOParams>> ioRoot;
     Ref<standin::MemParam> plainRoot;
     Ref<FixturePapers> papersRoot;
+    Ref<FixtureStdDirs> dirs;
     Ref<FixtureInterior> interior;
     Ref<FixtureHelp> help;
     Ref<FixtureEvents> events;

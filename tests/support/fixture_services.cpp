@@ -63,3 +63,41 @@ int FixtureEvents::notify(int kind, const wchar_t* text, int, int buttons) {
     notices.push_back({kind, QString::fromWCharArray(text), buttons});
     return answer;
 }
+
+bool FixtureStdDirs::GetDir(const char* key, tagKWVARIANT* out, int) {
+    const auto found = dirs.find(key);
+    if (found == dirs.end())
+        return false;
+    KWVariantCopy(out, CKWVariant(CXStringW(found->second.c_str())));
+    return true;
+}
+
+bool FixtureStdDirs::GetDirList(const char* key, CKWVariant* out) {
+    const auto found = lists.find(key);
+    if (found == lists.end())
+        return false;
+    const Ref<StdDirList> copy = standin::copyOfList(found->second.get());
+    *out = static_cast<IKWUnknown*>(copy.get());
+    return true;
+}
+
+bool FixtureStdDirs::SetDirList(const char* key, const CKWVariant& value) {
+    stored.push_back(key);
+    lists[key] = standin::copyOfList(stdDirListOf(value).get());
+    return true;
+}
+
+void FixtureStdDirs::set(const std::string& key, const std::vector<std::wstring>& paths) {
+    Ref<StdDirList>& list = lists[key] = Ref<StdDirList>::share(new StdDirList);
+    for (const std::wstring& path : paths)
+        list->append(standin::newDirEntry(".Local", path.c_str(), 1).get());
+}
+
+std::vector<std::wstring> FixtureStdDirs::paths(const std::string& key) const {
+    std::vector<std::wstring> found;
+    const auto list = lists.find(key);
+    if (list != lists.end())
+        for (const auto& element : standin::elementsOf(list->second.get()))
+            found.push_back(element->GetPath());
+    return found;
+}

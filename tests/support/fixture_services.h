@@ -6,6 +6,7 @@
 #include "host/help.h"
 #include "host/std_papers.h"
 #include "host/style.h"
+#include "standin/params/dir_entry.h"
 #include "standin/params/mem_param.h"
 
 #include <QString>
@@ -89,6 +90,23 @@ public:
     }
     std::function<bool(QWidget* parent)> onAdd;
     std::function<bool(const QString& rowText, QWidget* parent)> onModify;
+};
+
+// Lists of standard directories by section; GetDirList hands out copies.
+class FixtureStdDirs : public CKWUnknownImpl<IStdDirs> {
+public:
+    bool GetDir(const char* key, tagKWVARIANT* out, int) override;
+    bool GetDirList(const char* key, CKWVariant* out) override;
+    bool SetDirList(const char* key, const CKWVariant& value) override;
+
+    // Replaces a section's list by editable entries with the key ".Local".
+    void set(const std::string& key, const std::vector<std::wstring>& paths);
+    void setNoList(const std::string& key) { lists[key] = nullptr; } // success, but a null object
+    std::vector<std::wstring> paths(const std::string& key) const;
+
+    std::map<std::string, Ref<StdDirList>> lists;
+    std::map<std::string, std::wstring> dirs; // what GetDir finds
+    std::vector<std::string> stored;          // the keys given to SetDirList
 };
 
 class FixtureDocuments : public HostDocumentManager {
