@@ -1,0 +1,208 @@
+// Papers as the page reads, shows and writes them. What the user does to the rows is in papers_edit_test.cpp.
+#include "options/pages/page_rows.h"
+#include "options/pages/paper_format.h"
+#include "options/pages/paper_page.h"
+#include "tests/options/pages/paper_fixture.h"
+
+#include <QIcon>
+#include <QLocale>
+#include <cmath>
+
+namespace {
+
+using Papers = PaperFixture;
+
+PaperFormat filled(tagRSIZE size) {
+    PaperFormat paper;
+    paper.size = size;
+    paper.presentFlags = kPaperSize;
+    paper.fillDefaults();
+    return paper;
+}
+
+} // namespace
+
+TEST_F(Papers, ASectionWithoutValuesIsAnUnnamedPaperOfNoSizeThatIsChecked) {
+    section("Anything");
+    open();
+    ASSERT_EQ(rowsBelow(page()), QStringList{"<<Unnamed paper>> (0.00 x 0.00 mm)"});
+    EXPECT_TRUE(checkBoxOf(page()->childItem(0))->isChecked());
+    EXPECT_EQ(preferences->paperFormats.front()->presentFlags, 255u);
+    EXPECT_EQ(preferences->paperFormats.front()->internalFrame, 0);
+}
+
+TEST_F(Papers, LandscapeIsTheSizeTurnedAndTheOriginIsZeroWhenNothingElseIsGiven) {
+    const PaperFormat paper = filled({297, 210});
+    EXPECT_EQ(paper.portraitSize.cx, 297);
+    EXPECT_EQ(paper.portraitSize.cy, 210);
+    EXPECT_EQ(paper.landscapeSize.cx, 210);
+    EXPECT_EQ(paper.landscapeSize.cy, 297);
+    EXPECT_EQ(paper.paperOriginPoint.x, 0);
+    EXPECT_EQ(paper.paperOriginPoint.y, 0);
+}
+
+TEST_F(Papers, ThePrintableAreaIsCentredOnTheSheet) {
+    const Ref<IParam> paper = section("A");
+    setValue(paper, "Size", tagRSIZE{100, 200});
+    setValue(paper, "PortraitSize", tagRSIZE{80, 180});
+    open();
+    EXPECT_EQ(preferences->paperFormats[0]->paperOriginPoint.x, 10);
+    EXPECT_EQ(preferences->paperFormats[0]->paperOriginPoint.y, 10);
+    EXPECT_EQ(preferences->paperFormats[0]->landscapeSize.cx, 200) << "from the size, not the printable size";
+}
+
+TEST_F(Papers, AnOriginOfTheStoreIsKeptEvenWhenItNoLongerFits) {
+    const Ref<IParam> paper = section("A");
+    setValue(paper, "Size", tagRSIZE{100, 200});
+    setValue(paper, "PaperOriginPoint", tagRPOINT{500, -3});
+    open();
+    EXPECT_EQ(preferences->paperFormats[0]->paperOriginPoint.x, 500);
+    EXPECT_EQ(preferences->paperFormats[0]->paperOriginPoint.y, -3);
+}
+
+TEST_F(Papers, ARowShowsNameAndSizeWithTwoDecimals) {
+    addPaper("P", L"A4", 210, 297);
+    addPaper("Q", L"Odd", 1.005, 2.346);
+    open();
+    EXPECT_EQ(rowsBelow(page()), (QStringList{"A4 (210.00 x 297.00 mm)", "Odd (1.00 x 2.35 mm)"}));
+}
+
+TEST_F(Papers, TheDecimalPointIsAPointInEveryLocale) {
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    EXPECT_EQ(filled({1.5, 2}).rowText(), "<<Unnamed paper>> (1.50 x 2.00 mm)");
+    QLocale::setDefault(before);
+}
+
+TEST_F(Papers, UnitsAreShownTranslatedAndKeptAsTheyAre) {
+    host.translations[L"in"] = L"Zoll";
+    setValue(addPaper("P", L"Letter", 8.5, 11), "Units", "in");
+    setValue(addPaper("Q", L"Field", 3, 4), "Units", "furlong");
+    open();
+    EXPECT_EQ(rowsBelow(page()), (QStringList{"Letter (8.50 x 11.00 Zoll)", "Field (3.00 x 4.00 furlong)"}));
+    apply();
+    EXPECT_EQ(textOf(valueOf(host.papers(), "Paper00000001", "Units")), "in");
+    EXPECT_EQ(textOf(valueOf(host.papers(), "Paper00000002", "Units")), "furlong");
+}
+
+TEST_F(Papers, NamesInAnyScriptAndOfAnyFormAreShownAsTheyAre) {
+    addPaper("P", L"\u7d19 %1 \"x\" %s", 1, 2);
+    open();
+    EXPECT_EQ(rowsBelow(page()).front(), QString::fromUtf8("紙 %1 \"x\" %s (1.00 x 2.00 mm)"));
+}
+
+TEST_F(Papers, ValuesOfAWrongTypeCountAsMissing) {
+    const Ref<IParam> paper = section("P");
+    setValue(paper, "Name", 5);
+    setValue(paper, "Size", tagSIZE{1, 2});
+    setValue(paper, "Units", L"in");
+    setValue(paper, "Used", "0");
+    setValue(paper, "PaperOriginPoint", 1.0);
+    open();
+    EXPECT_EQ(rowsBelow(page()), QStringList{"<<Unnamed paper>> (0.00 x 0.00 mm)"});
+    EXPECT_EQ(preferences->paperFormats[0]->used, 1);
+}
+
+TEST_F(Papers, AnEmptyNameGivesTheDefaultName) {
+    addPaper("P", L"", 1, 2);
+    open();
+    EXPECT_EQ(rowsBelow(page()), QStringList{"<<Unnamed paper>> (1.00 x 2.00 mm)"});
+}
+
+TEST_F(Papers, SizesThatMakeNoSenseAreShownAndSurviveApply) {
+    addPaper("P", L"Minus", -5, 0);
+    addPaper("Q", L"Nothing", std::nan(""), 1);
+    open();
+    EXPECT_EQ(rowsBelow(page()).front(), "Minus (-5.00 x 0.00 mm)");
+    EXPECT_TRUE(rowsBelow(page()).back().contains("nan"));
+    apply();
+    EXPECT_EQ(static_cast<tagRSIZE>(valueOf(host.papers(), "Paper00000001", "Size")).cx, -5);
+    EXPECT_TRUE(std::isnan(static_cast<tagRSIZE>(valueOf(host.papers(), "Paper00000002", "Size")).cx));
+}
+
+TEST_F(Papers, TheRootOffersAddAndItsRowsOfferEverything) {
+    addPaper("P", L"A4", 210, 297);
+    open();
+    EXPECT_EQ(page()->buttonMask, 4u);
+    EXPECT_EQ(page()->nodeType, kNodePaperRoot);
+    EXPECT_EQ(preferences->paperRootItem, page());
+    const TreeItem* paper = page()->childItem(0);
+    EXPECT_EQ(paper->buttonMask, 31u);
+    EXPECT_EQ(paper->nodeType, kNodePaper);
+    EXPECT_EQ(paper->description, "About the page");
+    EXPECT_EQ(paper->payload, preferences->paperFormats[0]);
+    EXPECT_EQ(iconOf(paper).cacheKey(), iconOf(page()).cacheKey());
+    EXPECT_FALSE(iconOf(paper).isNull());
+}
+
+TEST_F(Papers, RowsStandInTheOrderOfTheStore) {
+    addPaper("Zeta", L"Z", 1, 1);
+    addPaper("Paper00000001", L"A", 1, 1);
+    addPaper("Mid", L"M", 1, 1);
+    open();
+    EXPECT_EQ(names(), (QStringList{"Z", "A", "M"}));
+}
+
+TEST_F(Papers, AWriteRenamesEverySectionByPosition) {
+    addPaper("Zeta", L"Z", 1, 1);
+    addPaper("Alpha", L"A", 1, 1);
+    open();
+    apply();
+    EXPECT_EQ(childrenOf(host.papers()), (QStringList{"Paper00000001", "Paper00000002"}));
+    EXPECT_EQ(textOf(valueOf(host.papers(), "Paper00000001", "Name")), "Z");
+}
+
+TEST_F(Papers, EveryValueIsWrittenAndUnknownOnesSurvive) {
+    const Ref<IParam> paper = addPaper("P", L"A4", 210, 297);
+    setValue(paper, "Used", 7);
+    setValue(paper, "InternalFrame", 3);
+    setValue(paper, "Vendor", L"somebody");
+    setValue(sectionOf(*paper, "Margins"), "Left", 2.5);
+    open();
+    apply();
+    const char* written = "Paper00000001";
+    EXPECT_EQ(static_cast<int>(valueOf(host.papers(), written, "Used")), 1) << "0 or 1, whatever was read";
+    EXPECT_EQ(static_cast<int>(valueOf(host.papers(), written, "InternalFrame")), 3);
+    EXPECT_EQ(static_cast<tagRSIZE>(valueOf(host.papers(), written, "LandscapeSize")).cx, 297);
+    EXPECT_EQ(static_cast<tagRSIZE>(valueOf(host.papers(), written, "PortraitSize")).cx, 210);
+    EXPECT_EQ(valueOf(host.papers(), written, "PaperOriginPoint").vt, kVtRPoint);
+    EXPECT_EQ(textOf(valueOf(host.papers(), written, "Vendor")), "somebody");
+    EXPECT_EQ(static_cast<double>(valueOf(host.papers(), "Paper00000001\\Margins", "Left")), 2.5);
+}
+
+TEST_F(Papers, AMissingStoreLeavesThePageEmptyAndSaysNothing) {
+    addPaper("P", L"A4", 210, 297);
+    host.withhold(typeid(IStdPapersParam));
+    open();
+    EXPECT_EQ(page()->childCount(), 0);
+    EXPECT_EQ(page()->buttonMask, 4u);
+    apply();
+    EXPECT_TRUE(host.messages.empty());
+    EXPECT_EQ(childrenOf(host.papers()), QStringList{"P"});
+}
+
+TEST_F(Papers, WritingWithoutAnApplicationDoesNothing) {
+    std::vector<PaperFormat*> papers;
+    section("P");
+    storePaperFormats(nullptr, papers);
+    EXPECT_EQ(childrenOf(host.papers()), QStringList{"P"});
+}
+
+TEST_F(Papers, AMissingRecordLeavesAnEmptySectionAndAGapInNothing) {
+    PaperFormat paper;
+    std::vector<PaperFormat*> papers{nullptr, &paper};
+    storePaperFormats(theOnlyIApp, papers);
+    EXPECT_EQ(childrenOf(host.papers()), (QStringList{"Paper00000001", "Paper00000002"}));
+    EXPECT_EQ(valueOf(host.papers(), "Paper00000001", "Name").vt, kVtEmpty);
+    EXPECT_EQ(textOf(valueOf(host.papers(), "Paper00000002", "Name")), "<<Unnamed paper>>");
+}
+
+TEST_F(Papers, TenThousandPapersOpenAndApply) {
+    for (int i = 0; i < 10000; ++i)
+        addPaper(("P" + std::to_string(i)).c_str(), L"Sheet", i, 1);
+    open();
+    EXPECT_EQ(page()->childCount(), 10000);
+    apply();
+    EXPECT_EQ(childrenOf(host.papers()).size(), 10000);
+    EXPECT_EQ(static_cast<tagRSIZE>(valueOf(host.papers(), "Paper00010000", "Size")).cx, 9999);
+}
