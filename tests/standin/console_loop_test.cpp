@@ -1,0 +1,166 @@
+// The command loop: which command a line names, and what happens around it.
+#include "host/documents.h"
+#include "standin/console/command_loop.h"
+#include "standin/console/history.h"
+#include "standin/registry.h"
+#include "tests/standin/console_driver.h"
+#include "tests/support/poll.h"
+
+#include <gtest/gtest.h>
+
+using standin::CommandHistory;
+using standin::CommandLoop;
+
+namespace {
+
+class CountingCommand : public OdStaticRxObject<OdEdCommand> {
+public:
+    const OdString groupName() const override { return L"TESTS"; }
+    const OdString globalName() const override { return L"COUNTUP"; }
+    void execute(OdEdCommandContext* ctx) override {
+        setCtx(ctx);
+        ++runs;
+        hadContext = ctx != nullptr;
+        if (fails)
+            throw OdError(L"the count is full");
+        setCtx(nullptr);
+    }
+    int runs = 0;
+    bool hadContext = false, fails = false;
+};
+
+struct ConsoleLoopTest : testing::Test, ConsoleDriver {
+    ConsoleLoopTest() { odedRegCmds()->addCommand(&counting); }
+    ~ConsoleLoopTest() override { odedRegCmds()->removeCmd(&counting); }
+    void run(std::initializer_list<const char*> lines) {
+        type(lines);
+        EXPECT_TRUE(waitUntil([&] { return loop.isReady() && !console.hasInput(); }));
+    }
+    CountingCommand counting;
+    CommandLoop loop{console};
+};
+
+TEST_F(ConsoleLoopTest, RegisteredCommandRunsWithAContext) {
+    run({"countup"});
+    EXPECT_EQ(counting.runs, 1);
+    EXPECT_TRUE(counting.hadContext);
+    EXPECT_EQ(console.transcript(), QStringList({"Command: countup"}));
+}
+
+TEST_F(ConsoleLoopTest, EnterRunsTheLastCommandAgain) {
+    run({"COUNTUP", "", ""});
+    EXPECT_EQ(counting.runs, 3);
+    EXPECT_EQ(lastLine(), "Command: COUNTUP");
+}
+
+TEST_F(ConsoleLoopTest, EnterAtFirstDoesNothing) {
+    run({""});
+    EXPECT_EQ(counting.runs, 0);
+    EXPECT_EQ(console.transcript(), QStringList({"Command: "}));
+}
+
+TEST_F(ConsoleLoopTest, LeadingUnderscoreNamesTheSameCommand) {
+    run({"_countup", ".COUNTUP"});
+    EXPECT_EQ(counting.runs, 2);
+}
+
+TEST_F(ConsoleLoopTest, UnknownCommandIsTold) {
+    run({"frobnicate"});
+    EXPECT_EQ(lastLine(), "Unknown command \"frobnicate\". HELP lists the commands.");
+    run({""});
+    EXPECT_EQ(counting.runs, 0);
+}
+
+TEST_F(ConsoleLoopTest, LineThatNamesNoCommandIsOfferedElsewhere) {
+    QString offered;
+    loop.otherwise = [&](const QString& line) {
+        offered = line;
+        return true;
+    };
+    run({"pickbox"});
+    EXPECT_EQ(offered, "pickbox");
+    EXPECT_EQ(lastLine(), "Command: pickbox");
+}
+
+TEST_F(ConsoleLoopTest, ErrorOfACommandIsToldAndItsContextTakenAway) {
+    counting.fails = true;
+    run({"COUNTUP"});
+    EXPECT_EQ(lastLine(), "COUNTUP: the count is full");
+    EXPECT_EQ(standin::registry().commandContext, nullptr);
+    EXPECT_FALSE(loop.isRunning());
+    counting.fails = false;
+    run({"COUNTUP"});
+    EXPECT_EQ(counting.runs, 2);
+}
+
+TEST_F(ConsoleLoopTest, OwnCommandAsksThroughTheConsole) {
+    OdString answer;
+    loop.add({"ASK", "Asks.", [&] { console.getInput(L"Name?", nullptr, 6, &answer, 0); }});
+    run({"ask", "chairs", "countup"});
+    EXPECT_EQ(answer, OdString(L"chairs"));
+    EXPECT_EQ(counting.runs, 1);
+    EXPECT_EQ(console.transcript(), QStringList({"Command: ask", "Name? chairs", "Command: countup"}));
+}
+
+TEST_F(ConsoleLoopTest, LoopIsReadyAtAPromptAndWhenIdle) {
+    bool readyAtPrompt = false;
+    loop.add({"ASK", "Asks.", [&] { console.getInput(L"Name?", nullptr, 6, nullptr, 0); }});
+    QObject::connect(&console, &standin::Console::promptChanged, &loop, [&] {
+        if (console.openPrompt())
+            readyAtPrompt = loop.isReady() && loop.isRunning() && loop.prompt() == "Name? ";
+    });
+    EXPECT_TRUE(loop.isReady());
+    EXPECT_EQ(loop.prompt(), "Command: ");
+    run({"ASK"});
+    EXPECT_TRUE(waitUntil([&] { return !loop.isRunning(); }));
+    EXPECT_TRUE(readyAtPrompt);
+    EXPECT_EQ(unanswered, 1);
+}
+
+TEST_F(ConsoleLoopTest, CommandsAreCompletedFromTheirBeginning) {
+    loop.add({"COPY", "Copies.", [] {}});
+    EXPECT_EQ(loop.completions("co"), QStringList({"COPY", "COUNTUP"}));
+    EXPECT_EQ(loop.completions("cou"), QStringList({"COUNTUP"}));
+    EXPECT_TRUE(loop.completions("").isEmpty());
+}
+
+TEST(ConsoleHistory, ArrowsWalkThroughTheLinesAndBackToWhatWasTyped) {
+    CommandHistory history;
+    for (const char* line : {"QPREF", "SETVAR", "HELP"})
+        history.add(line);
+    EXPECT_EQ(history.older(""), "HELP");
+    EXPECT_EQ(history.older("HELP"), "SETVAR");
+    EXPECT_EQ(history.newer("SETVAR"), "HELP");
+    EXPECT_EQ(history.newer("HELP"), "");
+}
+
+TEST(ConsoleHistory, WalkKeepsToTheLinesThatBeginWithWhatWasTyped) {
+    CommandHistory history;
+    for (const char* line : {"SETVAR", "QPREF", "SAVE", "HELP"})
+        history.add(line);
+    EXPECT_EQ(history.older("s"), "SAVE");
+    EXPECT_EQ(history.older("SAVE"), "SETVAR");
+    EXPECT_EQ(history.older("SETVAR"), "SETVAR");
+    EXPECT_EQ(history.newer("SETVAR"), "SAVE");
+    EXPECT_EQ(history.newer("SAVE"), "s");
+}
+
+TEST(ConsoleHistory, RepeatedAndEmptyLinesAreKeptOnce) {
+    CommandHistory history;
+    for (const char* line : {"QPREF", "QPREF", "", "  "})
+        history.add(line);
+    EXPECT_EQ(history.all(), QStringList({"QPREF"}));
+}
+
+TEST(ConsoleHistory, OldestLinesGoAtTheLimit) {
+    CommandHistory history;
+    history.setLimit(2);
+    for (const char* line : {"A", "B", "C"})
+        history.add(line);
+    EXPECT_EQ(history.all(), QStringList({"B", "C"}));
+    history.setLimit(0);
+    EXPECT_TRUE(history.all().isEmpty());
+    EXPECT_EQ(history.older("x"), "x");
+}
+
+} // namespace

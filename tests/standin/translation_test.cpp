@@ -1,0 +1,70 @@
+// Texts of the option data in the user's language.
+#include "standin/translation/translation.h"
+
+#include "host/app.h"
+#include "standin/registry.h"
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <gtest/gtest.h>
+
+using standin::Catalogues;
+
+namespace {
+
+// Answers one text of the context "HostData".
+class OneWord : public QTranslator {
+public:
+    OneWord() { QCoreApplication::installTranslator(this); }
+    ~OneWord() override { QCoreApplication::removeTranslator(this); }
+    QString translate(const char* context, const char* source, const char*, int) const override {
+        const bool known = QByteArray(context) == "HostData" && QByteArray(source) == "Display";
+        return known ? QStringLiteral("Größe") : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+TEST(Translation, TextOfTheOptionDataIsTranslated) {
+    const Catalogues catalogues;
+    const OneWord word;
+    EXPECT_STREQ(Supp_Translate(L"Display"), L"Größe");
+    EXPECT_STREQ(Supp_Translate("Display"), L"Größe");
+}
+
+TEST(Translation, UnknownTextIsItsOwnTranslation) {
+    const Catalogues catalogues;
+    EXPECT_STREQ(Supp_Translate(L"Größe 1%"), L"Größe 1%");
+}
+
+TEST(Translation, NullAndEmptyTextComeBackAsTheyAre) {
+    const Catalogues catalogues;
+    EXPECT_EQ(Supp_Translate(static_cast<const wchar_t*>(nullptr)), nullptr);
+    EXPECT_STREQ(Supp_Translate(L""), L"");
+}
+
+TEST(Translation, ResultOutlivesTheTextAndOtherCalls) {
+    const Catalogues catalogues;
+    const wchar_t* kept;
+    {
+        const std::wstring text = L"short-lived";
+        kept = Supp_Translate(text.c_str());
+    }
+    for (int i = 0; i < 1000; ++i)
+        Supp_Translate(std::to_wstring(i).c_str());
+    EXPECT_STREQ(kept, L"short-lived");
+    EXPECT_EQ(kept, Supp_Translate(L"short-lived"));
+}
+
+TEST(Translation, FolderWithoutCataloguesLoadsNone) {
+    const QTemporaryDir folder;
+    Catalogues catalogues;
+    EXPECT_EQ(catalogues.load(folder.path(), "de_DE"), 0);
+}
+
+TEST(Translation, HostFunctionIsFreeAgainAfterwards) {
+    { const Catalogues catalogues; }
+    EXPECT_FALSE(standin::registry().translate);
+}
+
+} // namespace

@@ -1,0 +1,92 @@
+// Lengths and angles as text.
+#include "standin/units/unit_text.h"
+
+#include "host/command_io.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+using namespace standin;
+
+namespace {
+
+TEST(UnitsLength, NumbersAreReadWithAPoint) {
+    EXPECT_EQ(lengthFromText("2.5", kDecimal), 2.5);
+    EXPECT_EQ(lengthFromText(" -.5 ", kDecimal), -0.5);
+    EXPECT_EQ(lengthFromText("1e3", kDecimal), 1000);
+    EXPECT_FALSE(lengthFromText("2,5", kDecimal));
+}
+
+TEST(UnitsLength, TextThatIsNoLengthIsRefused) {
+    for (const char* text : {"", " ", "abc", "1.2.3", "--1", "nan", "inf", "1e999", "1/0", "5x"})
+        EXPECT_FALSE(lengthFromText(text, kDecimal)) << text;
+}
+
+TEST(UnitsLength, FractionsAreRead) {
+    EXPECT_EQ(lengthFromText("3/4", kDecimal), 0.75);
+    EXPECT_EQ(lengthFromText("1-3/4", kFractional), 1.75);
+    EXPECT_EQ(lengthFromText("-1 1/2", kFractional), -1.5);
+}
+
+TEST(UnitsLength, FeetAndInchesAreReadInTheStylesThatHaveThem) {
+    EXPECT_EQ(lengthFromText("5'2-1/2\"", kArchitectural), 62.5);
+    EXPECT_EQ(lengthFromText("5'-6.5\"", kEngineering), 66.5);
+    EXPECT_EQ(lengthFromText("2'", kArchitectural), 24);
+    EXPECT_EQ(lengthFromText("7", kArchitectural), 7);
+    EXPECT_FALSE(lengthFromText("5'2\"", kDecimal));
+}
+
+TEST(UnitsLength, TextsFollowStyleAndPrecision) {
+    EXPECT_EQ(lengthText(2.50, {kDecimal, 4}), "2.5");
+    EXPECT_EQ(lengthText(-0.00001, {kDecimal, 4}), "0");
+    EXPECT_EQ(lengthText(1234.5, {kScientific, 2}), "1.23E+03");
+    EXPECT_EQ(lengthText(62.5, {kArchitectural, 4}), "5'-2-1/2\"");
+    EXPECT_EQ(lengthText(66.25, {kEngineering, 2}), "5'-6.25\"");
+    EXPECT_EQ(lengthText(-1.75, {kFractional, 3}), "-1-3/4");
+}
+
+TEST(UnitsAngle, DegreesMinutesAndSecondsAreRead) {
+    EXPECT_NEAR(*angleFromText("45", {}), M_PI / 4, 1e-12);
+    EXPECT_NEAR(*angleFromText("45d30'", {}), 45.5 * M_PI / 180, 1e-12);
+    EXPECT_NEAR(*angleFromText("-10d0'36\"", {}), -10.01 * M_PI / 180, 1e-12);
+}
+
+TEST(UnitsAngle, MarksNameOtherStyles) {
+    EXPECT_NEAR(*angleFromText("100g", {}), M_PI / 2, 1e-12);
+    EXPECT_NEAR(*angleFromText("1.5r", {}), 1.5, 1e-12);
+    EXPECT_NEAR(*angleFromText("N45dE", {}), M_PI / 4, 1e-12);
+    EXPECT_NEAR(*angleFromText("S30dW", {}), 240 * M_PI / 180, 1e-12);
+}
+
+TEST(UnitsAngle, PlainNumberFollowsTheStyle) {
+    EXPECT_NEAR(*angleFromText("100", {kGradians, 0, false}), M_PI / 2, 1e-12);
+    EXPECT_NEAR(*angleFromText("2", {kRadians, 0, false}), 2, 1e-12);
+}
+
+TEST(UnitsAngle, BaseAndDirectionOfTheDrawingCount) {
+    EXPECT_NEAR(*angleFromText("30", {kDegrees, M_PI / 2, true}), M_PI / 3, 1e-12);
+}
+
+TEST(UnitsAngle, TextThatIsNoAngleIsRefused) {
+    for (const char* text : {"", "abc", "45x", "N95dE", "d", "nan"})
+        EXPECT_FALSE(angleFromText(text, {})) << text;
+}
+
+TEST(UnitsFunctions, FailedReadLeavesTheValue) {
+    double value = 7;
+    EXPECT_FALSE(hostdbDisToF(L"wide", -1, value));
+    EXPECT_FALSE(hostdbAngToF(L"wide", -1, value, 3));
+    EXPECT_EQ(value, 7);
+    EXPECT_TRUE(hostdbDisToF(L"2.5", -1, value));
+    EXPECT_EQ(value, 2.5);
+    EXPECT_TRUE(hostdbAngToF(L"180", -1, value, 3));
+    EXPECT_NEAR(value, M_PI, 1e-12);
+}
+
+TEST(UnitsFunctions, RealIsWrittenInTheUnitsOfTheDrawing) {
+    OdString text;
+    hostdbRToS(2.5, -1, 1, text, -1, -1);
+    EXPECT_EQ(text, OdString(L"2.5"));
+}
+
+} // namespace
