@@ -2,6 +2,7 @@
 #include "tests/support/fixture_host.h"
 
 #include "standin/params/yaml_tree.h"
+#include "tests/support/test_application.h"
 
 #include <stdexcept>
 
@@ -33,6 +34,8 @@ FixtureHost::FixtureHost()
 }
 
 FixtureHost::~FixtureHost() {
+    closeDocument();
+    TestApplication::self()->testServices.reader = nullptr;
     theOnlyIApp = savedApplication;
     standin::registry() = savedRegistry;
 }
@@ -62,6 +65,19 @@ EV_MB_RET FixtureHost::takeAnswer(EV_MB_RET buttons) {
     const EV_MB_RET button = answers.front();
     answers.pop_front();
     return button;
+}
+
+FixtureDocument& FixtureHost::openDocument(const OdDbDatabasePtr& database) {
+    document.databaseObject = database;
+    documents.current = &document;
+    TestApplication::self()->console.database = database.get();
+    return document;
+}
+
+void FixtureHost::closeDocument() {
+    documents.current = nullptr;
+    TestApplication::self()->console.database = nullptr;
+    document.databaseObject.release();
 }
 
 void FixtureHost::setTheme(int number) {

@@ -4,6 +4,7 @@
 
 #include "standin/params/service_hub.h"
 #include "standin/registry.h"
+#include "tests/support/fixture_document.h"
 #include "tests/support/fixture_services.h"
 
 #include <QTemporaryDir>
@@ -54,7 +55,12 @@ public:
     std::function<void(const Message&)> onMessage;
 
     FixtureVars vars;
-    FixtureDocuments documents;
+    FixtureDocuments documents; // none is open at first
+    FixtureDocument document;
+    // Makes `document` the current one, with a database if the test has one. The console interface of the
+    // application names that database too.
+    FixtureDocument& openDocument(const OdDbDatabasePtr& database = {});
+    void closeDocument();
     QStringList& helpTopics() { return help->topics; }
     std::vector<FixtureEvents::Notice>& notices() { return events->notices; }
     void answerNotices(int answer) { events->answer = answer; }

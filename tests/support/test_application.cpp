@@ -6,8 +6,10 @@ OdRxObjectPtr TestServices::newContext(int, int) {
     return OdRxObjectPtr(new OdRxObject);
 }
 
-OdSmartPtr<OdDbDatabase> TestServices::readFile(const OdString&, int, int, int, const OdString&) {
-    throw OdError(eCantOpenFile);
+OdSmartPtr<OdDbDatabase> TestServices::readFile(const OdString& path, int, int, int, const OdString&) {
+    if (!reader)
+        throw OdError(eCantOpenFile);
+    return reader(path);
 }
 
 QObject* TestApplication::extension(const QString& id) {

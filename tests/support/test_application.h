@@ -3,8 +3,10 @@
 #pragma once
 
 #include "host/qt_application.h"
+#include "sdk/db/database.h"
 
 #include <QApplication>
+#include <functional>
 
 class TestServices : public IqServices {
 public:
@@ -12,6 +14,8 @@ public:
     OdSmartPtr<OdDbDatabase> readFile(const OdString& path, int, int, int shareMode,
                                       const OdString& password) override;
     int contextsMade = 0;
+    // Stands in for reading drawings; empty: no path can be opened.
+    std::function<OdDbDatabasePtr(const OdString& path)> reader;
 };
 
 class TestConsole : public QObject, public IqConsole {
