@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // the build lists the tests of a binary without a display
     testing::InitGoogleTest(&argc, argv);
     TestApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tests"));
