@@ -1,0 +1,261 @@
+// The line edits of text and of a directory, and the expansion of stored directories.
+#include "options/expand_environment.h"
+#include "tests/options/options_fixture.h"
+#include "tests/support/file_dialog_driver.h"
+
+#include <QAction>
+#include <QDir>
+#include <QLineEdit>
+#include <QStandardPaths>
+
+namespace {
+
+class TextEditor : public OptionsFixture {};
+
+class DirectoryEditor : public OptionsFixture {
+protected:
+    void SetUp() override {
+        QDir(folder.path()).mkdir("known");
+        known = folder.path() + "/known";
+    }
+    QLineEdit* addAndOpen(const QString& value) {
+        store("S", "Dir", hostqt::cxStringW(value));
+        node("Dir").type(L"EditDir").profile("S", "Dir");
+        open();
+        return edit();
+    }
+    QLineEdit* edit() { return editor<QLineEdit>("Dir"); }
+    QString lastValid() { return edit()->property("lastValidPath").toString(); }
+    void typeAndReturn(const QString& text) {
+        edit()->setText(text);
+        QTest::keyClick(edit(), Qt::Key_Return);
+    }
+    QAction* browse() { return edit()->findChild<QAction*>() ? nullptr : edit()->actions().value(0); }
+
+    QTemporaryDir folder;
+    QString known;
+};
+
+class Environment : public testing::Test {
+protected:
+    void TearDown() override {
+        for (const QByteArray& name : names)
+            qunsetenv(name);
+    }
+    void set(const QByteArray& name, const QByteArray& value) {
+        names += name;
+        qputenv(name, value);
+    }
+    FixtureHost host;
+
+private:
+    QList<QByteArray> names;
+};
+
+TEST_F(TextEditor, ShowsTheTrimmedValueFromItsStart) {
+    store("S", "A", CXString("  some text  "));
+    node("A").type(L"Edit").profile("S", "A");
+    node("B").type(L"Edit").profile("S", "B").set("Default", L"default");
+    open();
+    EXPECT_EQ(editor<QLineEdit>("A")->text(), "some text");
+    EXPECT_EQ(editor<QLineEdit>("A")->cursorPosition(), 0);
+    EXPECT_EQ(editor<QLineEdit>("A")->toolTip(), "some text");
+    EXPECT_EQ(item("A")->textValue, "some text");
+    EXPECT_EQ(item("A")->buttonMask, unsigned(kMaskModify));
+    EXPECT_EQ(editor<QLineEdit>("B")->text(), "default");
+}
+
+TEST_F(TextEditor, TheItemAndTheToolTipFollowTheTrimmedText) {
+    node("A").type(L"Edit");
+    open();
+    editor<QLineEdit>("A")->setText("  typed ");
+    EXPECT_EQ(item("A")->textValue, "typed");
+    EXPECT_EQ(editor<QLineEdit>("A")->toolTip(), "typed");
+    EXPECT_EQ(editor<QLineEdit>("A")->text(), "  typed "); // the text itself waits for the loss of focus
+}
+
+TEST_F(DirectoryEditor, ShowsTheStoredDirectory) {
+    addAndOpen(known);
+    EXPECT_EQ(edit()->text(), known);
+    EXPECT_EQ(edit()->toolTip(), known);
+    EXPECT_EQ(edit()->cursorPosition(), 0);
+    EXPECT_EQ(lastValid(), known);
+    EXPECT_EQ(item("Dir")->textValue, known);
+    EXPECT_EQ(item("Dir")->buttonMask, unsigned(kMaskModify));
+}
+
+TEST_F(DirectoryEditor, APathWithAVariableIsShownAndStoredExpanded) {
+    qputenv("OPTION_TEST_SET", known.toUtf8());
+    addAndOpen("%OPTION_TEST_SET%/below/%OPTION_TEST_UNSET%x");
+    EXPECT_EQ(edit()->text(), known + "/below/x");
+    apply();
+    EXPECT_EQ(storedText("S", "Dir"), known + "/below/x");
+    qunsetenv("OPTION_TEST_SET");
+}
+
+TEST_F(DirectoryEditor, TheHistoryFolderIsMadeAndReplacesItsNameInTheStore) {
+    addAndOpen("%HISTORY%");
+    const QString history = host.rootDir() + "/UnsavedFiles";
+    EXPECT_EQ(edit()->text(), history);
+    EXPECT_TRUE(QDir(history).exists());
+    apply();
+    EXPECT_EQ(storedText("S", "Dir"), history);
+}
+
+TEST_F(DirectoryEditor, AnExistingDirectoryIsTaken) {
+    addAndOpen("");
+    typeAndReturn(" " + known + " ");
+    EXPECT_TRUE(host.messages.empty());
+    EXPECT_EQ(lastValid(), known);
+    EXPECT_EQ(item("Dir")->textValue, " " + known + " ");
+}
+
+TEST_F(DirectoryEditor, BlanksCountAsEmptyAndAreTakenAsTheyStand) {
+    addAndOpen(known);
+    typeAndReturn("   ");
+    EXPECT_TRUE(host.messages.empty());
+    EXPECT_EQ(item("Dir")->textValue, "   ");
+    EXPECT_EQ(lastValid(), known);
+}
+
+TEST_F(DirectoryEditor, TheToolTipFollowsTheTypedText) {
+    addAndOpen(known);
+    edit()->setText("/typed");
+    EXPECT_EQ(edit()->toolTip(), "/typed");
+    EXPECT_EQ(item("Dir")->textValue, known); // until the edit is finished
+}
+
+TEST_F(DirectoryEditor, AMissingDirectoryIsAskedAboutAndNoPutsTheLastOneBack) {
+    addAndOpen(known);
+    host.answer(EV_MB_NO);
+    typeAndReturn("/missing/dir");
+    ASSERT_EQ(host.messages.size(), 1u);
+    EXPECT_EQ(host.messages[0].kind, standin::MessageKind::Question);
+    EXPECT_EQ(host.messages[0].title, "Options");
+    EXPECT_EQ(host.messages[0].text,
+              "Path \"/missing/dir\" does not exist. Do you want to specify another value?");
+    EXPECT_EQ(host.messages[0].buttons, EV_MB_YES | EV_MB_NO);
+    EXPECT_EQ(edit()->text(), known);
+    EXPECT_EQ(edit()->toolTip(), known);
+    EXPECT_EQ(item("Dir")->textValue, known);
+}
+
+TEST_F(DirectoryEditor, YesOffersTheDirectoryAboveTheMissingOne) {
+    QDir(known).mkdir("other");
+    addAndOpen(known);
+    host.answer(EV_MB_YES);
+    FileDialogDriver user(known + "/other");
+    typeAndReturn(known + "/missing");
+    ASSERT_TRUE(user.shown);
+    EXPECT_EQ(user.directory, known);
+    EXPECT_TRUE(user.directoriesOnly);
+    EXPECT_EQ(user.parentWidget, dialog.get());
+    EXPECT_EQ(edit()->text(), known + "/other");
+    EXPECT_EQ(edit()->toolTip(), known + "/other");
+    EXPECT_EQ(lastValid(), known + "/other");
+    EXPECT_EQ(item("Dir")->textValue, known + "/other");
+}
+
+TEST_F(DirectoryEditor, TheWalkUpEndsWhereTheDirectoryAboveIsMissingToo) {
+    addAndOpen(known);
+    host.answer(EV_MB_YES);
+    FileDialogDriver user;
+    typeAndReturn(known + "/missing/twice");
+    ASSERT_TRUE(user.shown);
+    const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+    if (QDir(desktop).exists())
+        EXPECT_EQ(user.directory, desktop);
+    else
+        EXPECT_FALSE(user.directory.startsWith(known));
+}
+
+TEST_F(DirectoryEditor, CancellingTheChoiceAfterYesPutsTheLastOneBack) {
+    addAndOpen(known);
+    host.answer(EV_MB_YES);
+    FileDialogDriver user;
+    typeAndReturn(known + "/missing");
+    ASSERT_TRUE(user.shown);
+    EXPECT_EQ(edit()->text(), known);
+    EXPECT_EQ(item("Dir")->textValue, known);
+}
+
+TEST_F(DirectoryEditor, LeavingTheFieldAsksToo) {
+    store("S", "Dir", hostqt::cxStringW(known));
+    node("Dir").type(L"EditDir").profile("S", "Dir");
+    show();
+    dialog->tree->setCurrentItem(item("Dir")); // so that the click doesn't hand the focus to OK
+    edit()->setFocus();
+    ASSERT_TRUE(waitUntil([this] { return edit()->hasFocus(); }));
+    edit()->selectAll();
+    QTest::keyClicks(edit(), "/missing/dir");
+    dialog->cancelButton->setFocus();
+    EXPECT_EQ(host.messages.size(), 1u);
+    EXPECT_EQ(edit()->text(), known);
+}
+
+TEST_F(DirectoryEditor, TheBrowseActionStartsAtTheTypedDirectoryAndDoesNotTouchTheItemYet) {
+    QDir(known).mkdir("chosen");
+    addAndOpen(folder.path());
+    edit()->setText(" " + known);
+    ASSERT_TRUE(browse());
+    FileDialogDriver user(known + "/chosen");
+    browse()->trigger();
+    EXPECT_EQ(user.directory, known);
+    EXPECT_TRUE(user.directoriesOnly);
+    EXPECT_EQ(edit()->text(), known + "/chosen");
+    EXPECT_EQ(edit()->toolTip(), known + "/chosen");
+    EXPECT_EQ(lastValid(), known + "/chosen");
+    EXPECT_EQ(item("Dir")->textValue, folder.path());
+    QTest::keyClick(edit(), Qt::Key_Return);
+    EXPECT_EQ(item("Dir")->textValue, known + "/chosen");
+}
+
+TEST_F(DirectoryEditor, TheBrowseActionStartsAtTheLastValidOneWhenTheTypedOneIsMissing) {
+    addAndOpen(known);
+    edit()->setText("/missing/dir");
+    FileDialogDriver user;
+    browse()->trigger();
+    EXPECT_EQ(user.directory, known);
+    EXPECT_EQ(edit()->text(), "/missing/dir"); // cancelled: nothing changes
+}
+
+TEST_F(DirectoryEditor, TheBrowsePictureFollowsTheTheme) {
+    addAndOpen(known);
+    const QImage dark = browse()->icon().pixmap(16).toImage();
+    host.setTheme(1);
+    EXPECT_NE(browse()->icon().pixmap(16).toImage(), dark);
+}
+
+TEST_F(Environment, SetVariablesAreReplacedAndUnsetOnesDropped) {
+    set("OPTION_TEST_A", "/a");
+    set("OPTION_TEST_U", "\xC3\xA9");
+    EXPECT_EQ(expandEnvironment("%OPTION_TEST_A%/x/%OPTION_TEST_A%"), "/a/x//a");
+    EXPECT_EQ(expandEnvironment("%OPTION_TEST_U%"), QString(QChar(0xE9)));
+    EXPECT_EQ(expandEnvironment("/p%OPTION_TEST_NONE%q"), "/pq");
+    EXPECT_EQ(expandEnvironment("100%"), "100%");
+    EXPECT_EQ(expandEnvironment("%%"), "%%");
+}
+
+TEST_F(Environment, TheSearchStartsAgainSoAVariableMayNameAnother) {
+    set("OPTION_TEST_A", "%OPTION_TEST_B%/a");
+    set("OPTION_TEST_B", "/b");
+    EXPECT_EQ(expandEnvironment("%OPTION_TEST_A%"), "/b/a");
+}
+
+TEST_F(Environment, AVariableThatNamesItselfEnds) {
+    set("OPTION_TEST_A", "%OPTION_TEST_A%");
+    EXPECT_EQ(expandEnvironment("%OPTION_TEST_A%"), "%OPTION_TEST_A%");
+    set("OPTION_TEST_B", "x%OPTION_TEST_B%%OPTION_TEST_B%");
+    EXPECT_LT(expandEnvironment("%OPTION_TEST_B%").size(), 1 << 20);
+    set("OPTION_TEST_C", "%OPTION_TEST_D%");
+    set("OPTION_TEST_D", "%OPTION_TEST_C%");
+    EXPECT_EQ(expandEnvironment("/%OPTION_TEST_C%").left(2), "/%");
+}
+
+TEST_F(Environment, HistoryIsOnlyItselfWhenItIsTheWholeText) {
+    EXPECT_EQ(expandEnvironment("%HISTORY%/x"), "/x");
+    EXPECT_EQ(expandEnvironment("%HISTORY%"), host.rootDir() + "/UnsavedFiles");
+    EXPECT_EQ(expandEnvironment("%HISTORY%"), host.rootDir() + "/UnsavedFiles"); // it exists now
+}
+
+} // namespace
