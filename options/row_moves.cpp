@@ -33,7 +33,7 @@ void Preferences::moveCurrent(int step) {
 QString Preferences::labelText(TreeItem* item) const {
     QPrefWidget* const row = rowWidgets.value(item);
     QString text = row ? row->label()->text() : QString();
-    if (searchEdit) // it comes after the tree
+    if (searchEdit) // not yet there while the tree is being built, and neither is any mark
         searchEdit->removeHighlight(text);
     return text;
 }

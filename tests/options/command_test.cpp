@@ -1,0 +1,129 @@
+// The command that opens the Options dialog, run as the host runs it.
+#include "options/qpref_command.h"
+#include "sdk/db/database.h"
+#include "tests/options/option_data.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace {
+
+class Document : public HostDocument {
+public:
+    OdSmartPtr<OdDbDatabase> database() override { return {}; }
+    HostCommandIO* commandIO() override { return nullptr; }
+    HostEditorSelection* selection() override { return nullptr; }
+    const wchar_t* fileName() override { return L""; }
+    const wchar_t* title() override { return L""; }
+};
+
+class QprefCommand : public testing::Test {
+protected:
+    // Runs the command; `whileOpen` gets the dialog once it is on the screen.
+    int run(const std::function<void(Preferences&)>& whileOpen) {
+        QTimer::singleShot(0, qApp, [this, whileOpen] {
+            auto* const dialog = qobject_cast<Preferences*>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            opened = true;
+            whileOpen(*dialog);
+        });
+        const auto command = Ref<ICmdProcess>::share(new QPREF);
+        const int result = command->Run(nullptr);
+        QCoreApplication::processEvents();
+        return result;
+    }
+
+    FixtureHost host;
+    Document document;
+    bool opened = false;
+};
+
+void click(Preferences& dialog, const char* buttonName) {
+    dialog.findChild<QPushButton*>(buttonName)->click();
+}
+
+} // namespace
+
+TEST_F(QprefCommand, ReturnsAtOnceWithoutADocument) {
+    EXPECT_EQ(run([](Preferences&) { ADD_FAILURE() << "a dialog has come up"; }), 0);
+    EXPECT_FALSE(opened);
+    EXPECT_TRUE(host.messages.empty());
+    EXPECT_EQ(host.vars.treesOpened, 0);
+}
+
+TEST_F(QprefCommand, ShowsAModalWindowNamedOptions) {
+    host.documents.current = &document;
+    EXPECT_EQ(run([](Preferences& dialog) {
+                  EXPECT_TRUE(dialog.isModal());
+                  EXPECT_EQ(dialog.windowTitle(), "Options");
+                  click(dialog, "cancelButton");
+              }),
+              0);
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(QprefCommand, AsksForAWindowWithACloseButtonAndNoMore) {
+    host.documents.current = &document;
+    run([](Preferences& dialog) {
+        const Qt::WindowFlags flags = dialog.windowFlags();
+        EXPECT_EQ(int(flags & Qt::WindowType_Mask), int(Qt::Window));
+        EXPECT_TRUE(flags & Qt::WindowCloseButtonHint);
+        EXPECT_FALSE(flags & (Qt::WindowContextHelpButtonHint | Qt::WindowMinMaxButtonsHint));
+        click(dialog, "cancelButton");
+    });
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(QprefCommand, TakesTheFirstTopLevelWidgetAsParent) {
+    host.documents.current = &document;
+    QWidget window;
+    const QWidgetList before = QApplication::topLevelWidgets();
+    run([&before](Preferences& dialog) {
+        EXPECT_EQ(dialog.parentWidget(), before.first());
+        click(dialog, "cancelButton");
+    });
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(QprefCommand, HasNoParentWhenThereIsNoTopLevelWidget) {
+    host.documents.current = &document;
+    ASSERT_TRUE(QApplication::topLevelWidgets().isEmpty());
+    run([](Preferences& dialog) {
+        EXPECT_EQ(dialog.parentWidget(), nullptr);
+        click(dialog, "cancelButton");
+    });
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(QprefCommand, NeverSetsItsStatus) {
+    const auto command = Ref<ICmdProcess>::share(new QPREF);
+    EXPECT_EQ(command->Run(nullptr), 0);
+    EXPECT_EQ(command->getStatus(), 0);
+}
+
+TEST_F(QprefCommand, RunsAgainAfterTheDialogHasClosed) {
+    host.documents.current = &document;
+    for (int i = 0; i < 2; ++i) {
+        opened = false;
+        run([](Preferences& dialog) { click(dialog, "okButton"); });
+        EXPECT_TRUE(opened);
+    }
+    EXPECT_EQ(host.vars.treesOpened, 2);
+    EXPECT_EQ(host.vars.treesClosed, 2);
+}
+
+TEST_F(QprefCommand, LetsAnExceptionOfTheHostEndTheDialogAndPass) {
+    host.documents.current = &document;
+    optionTree(host).node("size").type(L"EditInt").set("Key", "GRIPSIZE").set("sysvar", 1);
+    host.vars.set("GRIPSIZE", 3);
+    EXPECT_THROW(run([this](Preferences& dialog) {
+                     host.vars.beforeRead = [](const std::string&) { throw OdError(eUserBreak); };
+                     click(dialog, "okButton");
+                 }),
+                 OdError);
+    EXPECT_TRUE(opened);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}

@@ -1,0 +1,497 @@
+// The walk of the option data: which nodes become rows, what the rows are, and what is kept about them.
+#include "tests/options/open_dialog.h"
+
+#include "module/icons/icons.h"
+#include "options/pages/line_edit.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLayout>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+namespace {
+
+class OptionWalk : public testing::Test {
+protected:
+    OptionWalk() : tree(optionTree(host)) {}
+    // Marks a node as expanded in the profile, under any value.
+    template <class Value> void rememberExpanded(const char* name, const Value& value) {
+        OptionTreeWriter(openChild(&host.profile(), "Dialogs\\QPref\\ExpandedSections", 1)).set(name, value);
+    }
+    FixtureHost host;
+    OptionTreeWriter tree;
+};
+
+QWidget* rowOf(const Preferences& dialog, const char* name) {
+    return dialog.rowWidgets.value(itemOf(dialog, name));
+}
+
+template <class Editor> Editor* editorOf(const Preferences& dialog, const char* name) {
+    return rowOf(dialog, name)->findChild<Editor*>();
+}
+
+bool isOn(const Preferences& dialog, const char* name) {
+    return itemOf(dialog, name)->isEnabled() && rowOf(dialog, name)->isEnabled();
+}
+
+QImage picture(const QIcon& icon) { return icon.pixmap(16).toImage(); }
+
+QImage rowPicture(const Preferences& dialog, const char* name) {
+    return picture(itemOf(dialog, name)->data(0, Qt::DecorationRole).value<QIcon>());
+}
+
+} // namespace
+
+TEST_F(OptionWalk, MakesARootThatIsOpenAndCurrent) {
+    OpenDialog dialog;
+    ASSERT_EQ(dialog.tree->topLevelItemCount(), 1);
+    TreeItem* const root = rootItem(dialog);
+    EXPECT_EQ(shownText(dialog, root), "Application preferences");
+    EXPECT_TRUE(root->isExpanded());
+    EXPECT_EQ(dialog.tree->currentItem(), root);
+    EXPECT_EQ(root->imageId, 0);
+    EXPECT_EQ(picture(root->icon(0)), picture(treeIcon(33)));
+    EXPECT_EQ(root->nodeType, int(kNodeNone));
+    EXPECT_EQ(root->buttonMask, kMaskNone);
+}
+
+TEST_F(OptionWalk, TellsTheHostBeforeAndAfter) {
+    OpenDialog dialog;
+    EXPECT_EQ(host.vars.treesOpened, 1);
+    EXPECT_EQ(host.vars.treesClosed, 1);
+}
+
+TEST_F(OptionWalk, KeepsTheOrderOfTheStore) {
+    for (const char* name : {"zebra", "ant", "mole"})
+        tree.node(name);
+    OpenDialog dialog;
+    EXPECT_EQ(namesBelow(rootItem(dialog)), QStringList({"zebra", "ant", "mole"}));
+}
+
+TEST_F(OptionWalk, PassesOverAHiddenNodeWithAllBelowIt) {
+    tree.node("hidden").set("Hidden", 1).node("inside").node("deeper");
+    tree.node("shown").set("Hidden", 0);
+    OpenDialog dialog;
+    EXPECT_EQ(namesBelow(rootItem(dialog)), QStringList({"shown"}));
+    EXPECT_EQ(itemOf(dialog, "inside"), nullptr);
+    EXPECT_EQ(itemOf(dialog, "deeper"), nullptr);
+}
+
+TEST_F(OptionWalk, ShowsANodeWhoseHiddenIsNoInteger) {
+    tree.node("shown").set("Hidden", 1.0);
+    OpenDialog dialog;
+    EXPECT_EQ(namesBelow(rootItem(dialog)), QStringList({"shown"}));
+}
+
+TEST_F(OptionWalk, ShowsTheNodesNameWhereNoneIsGiven) {
+    tree.node("Undo steps");
+    OpenDialog dialog;
+    EXPECT_EQ(shownText(dialog, "Undo steps"), "Undo steps");
+}
+
+TEST_F(OptionWalk, TranslatesNameAndDescription) {
+    host.translations = {{L"Grid", L"Raster"}, {L"Shows the grid", L"Zeigt das Raster"}};
+    tree.node("grid").set("Name", L"Grid").set("Description", L"Shows the grid");
+    OpenDialog dialog;
+    EXPECT_EQ(shownText(dialog, "grid"), "Raster");
+    EXPECT_EQ(itemOf(dialog, "grid")->description, "Zeigt das Raster");
+}
+
+TEST_F(OptionWalk, ReadsNameDescriptionAndTypeFrom8BitTextToo) {
+    tree.node("grid").set("Name", "Grid").set("Description", "Shows it").set("Type", "Check");
+    OpenDialog dialog;
+    EXPECT_EQ(shownText(dialog, "grid"), "Grid");
+    EXPECT_EQ(itemOf(dialog, "grid")->description, "Shows it");
+    EXPECT_EQ(itemOf(dialog, "grid")->nodeType, int(kNodeCheck));
+}
+
+TEST_F(OptionWalk, DropsANodeWhoseTranslationIsMissingAsTransparent) {
+    standin::registry().translate = [](const wchar_t*) -> const wchar_t* { return nullptr; };
+    tree.node("group").node("inside");
+    OpenDialog dialog;
+    EXPECT_EQ(rootItem(dialog)->childCount(), 0);
+}
+
+TEST_F(OptionWalk, PutsTheChildrenOfATransparentNodeUnderItsParent) {
+    OptionTreeWriter group = tree.node("group");
+    group.node("first");
+    group.node("glass").set("Name", L"").node("inner");
+    group.node("last");
+    OpenDialog dialog;
+    EXPECT_EQ(namesBelow(itemOf(dialog, "group")), QStringList({"first", "inner", "last"}));
+    EXPECT_EQ(itemOf(dialog, "glass"), nullptr);
+}
+
+TEST_F(OptionWalk, TakesANameOfAnotherTypeAsGivenAndEmpty) {
+    tree.node("glass").set("Name", 5).node("inner");
+    OpenDialog dialog;
+    EXPECT_EQ(namesBelow(rootItem(dialog)), QStringList({"inner"}));
+}
+
+TEST_F(OptionWalk, LetsTheLastTransparentChildTakeThePlaceOfItsParentsNode) {
+    OptionTreeWriter group = tree.node("group");
+    OptionTreeWriter glassA = group.node("glassA").set("Name", L"");
+    OptionTreeWriter glassB = group.node("glassB").set("Name", L"");
+    OpenDialog dialog;
+    EXPECT_EQ(dialog.optionItems.value(itemOf(dialog, "group")), glassB.get());
+    EXPECT_NE(dialog.optionItems.value(itemOf(dialog, "group")), glassA.get());
+}
+
+TEST_F(OptionWalk, ReadsAValueWithTheTransparentNodeOfThatMoment) {
+    OptionTreeWriter(openChild(&host.profile(), "SectionA", 1)).set("Grid", 1);
+    OptionTreeWriter group = tree.node("group");
+    OptionTreeWriter glassA = group.node("glassA").set("Name", L"");
+    glassA.set("Section", "SectionA").set("IFace", "IProfile");
+    glassA.node("grid").type(L"Check").set("Key", "Grid");
+    group.node("glassB").set("Name", L"").set("Section", "SectionB").set("IFace", "IProfile");
+    OpenDialog dialog;
+    EXPECT_EQ(itemOf(dialog, "grid")->state, 1) << "read by way of the first transparent node";
+    dialog.click("applyButton");
+    int written = -1;
+    readValue(openChild(&host.profile(), "SectionB").get(), "Grid", &written);
+    EXPECT_EQ(written, 1) << "written by way of the last one";
+}
+
+TEST_F(OptionWalk, LoadsNothingForATransparentNodeWithAPage) {
+    tree.node("papers").set("Name", L"").set("ID", int(kIdPapers));
+    OpenDialog dialog;
+    EXPECT_EQ(dialog.paperRootItem, nullptr);
+    EXPECT_NE(rootItem(dialog)->nodeType, int(kNodePaperRoot));
+}
+
+TEST_F(OptionWalk, InheritsTheIconThroughATransparentNode) {
+    OptionTreeWriter group = tree.node("group").set("Image", 5);
+    group.node("glass").set("Name", L"").set("Image", 8).node("inner");
+    OpenDialog dialog;
+    EXPECT_EQ(itemOf(dialog, "inner")->imageId, 5);
+    EXPECT_EQ(rowPicture(dialog, "inner"), picture(treeIcon(5)));
+}
+
+TEST_F(OptionWalk, ShowsTheFallbackIconWhereNoNodeAboveNamesOne) {
+    tree.node("group").node("option");
+    OpenDialog dialog;
+    EXPECT_EQ(itemOf(dialog, "option")->imageId, 0);
+    EXPECT_EQ(rowPicture(dialog, "option"), picture(treeIcon(33)));
+}
+
+TEST_F(OptionWalk, MakesEachKindOfRowWithItsEditor) {
+    const std::tuple<const wchar_t*, int, const char*> kinds[] = {
+        {L"Check", kNodeCheck, "QCheckBox"},
+        {L"check", kNodeCheck, "QCheckBox"},
+        {L"Radio", kNodeRadio, "QRadioButton"},
+        {L"RadioCursor", kNodeRadioCursor, "QRadioButton"},
+        {L"Color", kNodeColor, "QToolButton"},
+        {L"AcColor", kNodeAcColor, "QToolButton"},
+        {L"EditInt", kNodeEditInt, "QSpinBox"},
+        {L"EditReal", kNodeEditReal, "QDoubleSpinBox"},
+        {L"EditFile", kNodeEditFile, "QLineEdit"},
+        {L"Edit", kNodeEdit, "QLineEdit"},
+        {L"EditMultiFile", kNodeEditMultiFile, "QLineEdit"},
+        {L"EditDir", kNodeEditDir, "QLineEdit"},
+        {L"Combo", kNodeCombo, "QComboBox"}};
+    int count = 0;
+    for (const auto& kind : kinds)
+        tree.node(QStringLiteral("row%1").arg(count++).toLocal8Bit()).type(std::get<0>(kind)).set("Key", "K");
+    OpenDialog dialog;
+    for (int i = 0; i < count; ++i) {
+        const QByteArray name = QStringLiteral("row%1").arg(i).toLocal8Bit();
+        const auto& [type, number, editorClass] = kinds[i];
+        SCOPED_TRACE(testing::Message() << "Type " << QString::fromWCharArray(type).toStdString());
+        EXPECT_EQ(itemOf(dialog, name)->nodeType, number);
+        int editors = 0;
+        for (const QWidget* child :
+             rowOf(dialog, name)->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+            editors += child->inherits(editorClass);
+        EXPECT_EQ(editors, 1);
+    }
+}
+
+TEST_F(OptionWalk, PutsRadioAndCheckBeforeTheLabelAndOtherEditorsBehindIt) {
+    tree.node("check").type(L"Check");
+    tree.node("edit").type(L"Edit");
+    tree.node("color").type(L"Color");
+    OpenDialog dialog;
+    const auto firstOf = [&dialog](const char* name) {
+        return rowOf(dialog, name)->layout()->itemAt(0)->widget();
+    };
+    const auto left = [&dialog](const char* name) {
+        const QWidget* const label = dialog.labelOf(itemOf(dialog, name));
+        return label->x();
+    };
+    EXPECT_GT(left("check"), firstOf("check")->x());
+    EXPECT_LT(left("edit"), editorOf<QLineEdit>(dialog, "edit")->x());
+    EXPECT_GT(left("color"), editorOf<QToolButton>(dialog, "color")->x());
+}
+
+TEST_F(OptionWalk, TakesATypeInAnotherCaseAsASection) {
+    tree.node("radio").type(L"radio");
+    tree.node("upper").type(L"CHECK");
+    tree.node("plain");
+    OpenDialog dialog;
+    for (const char* name : {"radio", "upper", "plain"}) {
+        EXPECT_EQ(itemOf(dialog, name)->nodeType, int(kNodeSection)) << name;
+        EXPECT_EQ(editorOf<QAbstractButton>(dialog, name), nullptr) << name;
+    }
+}
+
+TEST_F(OptionWalk, CutsOnlyColourRowsAtTheAngleBracket) {
+    tree.node("color").type(L"Color").set("Name", L"Grid <lines>");
+    tree.node("check").type(L"Check").set("Name", L"Grid <lines>");
+    tree.node("section").set("Name", L"Grid <lines>");
+    OpenDialog dialog;
+    EXPECT_EQ(shownText(dialog, "color"), "Grid");
+    EXPECT_EQ(shownText(dialog, "check"), "Grid <lines>");
+    EXPECT_EQ(shownText(dialog, "section"), "Grid <lines>");
+}
+
+TEST_F(OptionWalk, PaintsOnlyTheRow) {
+    tree.node("section");
+    OpenDialog dialog;
+    EXPECT_EQ(itemOf(dialog, "section")->text(0), "");
+    EXPECT_EQ(dialog.tree->itemWidget(itemOf(dialog, "section"), 0), rowOf(dialog, "section"));
+}
+
+TEST_F(OptionWalk, ShowsChoicesThatAreNotHiddenAsRowsBelowTheirCombo) {
+    OptionTreeWriter combo = tree.node("units").type(L"Combo");
+    combo.node("Choices").node("mm").set("Name", L"Millimetres");
+    combo.node("Choices").set("Hidden", 0).node("inch").set("Name", L"Inches");
+    OpenDialog dialog;
+    EXPECT_EQ(namesBelow(itemOf(dialog, "units")), QStringList({"Choices"}));
+    EXPECT_EQ(namesBelow(itemOf(dialog, "Choices")), QStringList({"mm", "inch"}));
+    EXPECT_EQ(itemOf(dialog, "mm")->nodeType, int(kNodeSection));
+    EXPECT_EQ(editorOf<QComboBox>(dialog, "units")->count(), 2);
+}
+
+TEST_F(OptionWalk, ShowsHiddenChoicesInTheComboAlone) {
+    OptionTreeWriter choices = tree.node("units").type(L"Combo").node("Choices").set("Hidden", 1);
+    choices.node("mm").set("Name", L"Millimetres");
+    OpenDialog dialog;
+    EXPECT_EQ(itemOf(dialog, "units")->childCount(), 0);
+    EXPECT_EQ(editorOf<QComboBox>(dialog, "units")->itemText(0), "Millimetres");
+}
+
+TEST_F(OptionWalk, KeepsANameThatOutlivesItsEnumerator) {
+    tree.node("a name of more than the few letters that a short text holds in place");
+    OpenDialog dialog;
+    EXPECT_EQ(rootItem(dialog)->childItem(0)->nodeName,
+              "a name of more than the few letters that a short text holds in place");
+}
+
+TEST_F(OptionWalk, BorrowsTheNodesOfTheConfiguration) {
+    OptionTreeWriter grid = tree.node("group").node("grid").type(L"Check");
+    OpenDialog dialog;
+    EXPECT_EQ(dialog.optionItems.value(itemOf(dialog, "grid")), grid.get());
+    EXPECT_EQ(dialog.optionItems.value(rootItem(dialog)), tree.get())
+        << "the nameless tree is the root's node";
+    EXPECT_EQ(dialog.parentNode(itemOf(dialog, "group")), tree.get());
+}
+
+TEST_F(OptionWalk, FindsTheKeyOfARadioInItsParentButNotInItsGrandparent) {
+    OptionTreeWriter(openChild(&host.profile(), "Drawing", 1)).set("Style", 2);
+    OptionTreeWriter group = tree.node("group");
+    group.set("Key", "Style").set("Section", "Drawing").set("IFace", "IProfile");
+    group.node("near").type(L"Radio").set("Value", 2);
+    group.node("between").node("far").type(L"Radio").set("Value", 2);
+    OpenDialog dialog;
+    EXPECT_TRUE(editorOf<QRadioButton>(dialog, "near")->isChecked());
+    EXPECT_FALSE(editorOf<QRadioButton>(dialog, "far")->isChecked());
+}
+
+TEST_F(OptionWalk, IgnoresTheSectionOfASystemVariable) {
+    OptionTreeWriter(openChild(&host.profile(), "Drawing", 1)).set("GRIPSIZE", 9);
+    host.vars.set("GRIPSIZE", 4);
+    tree.node("size")
+        .type(L"EditInt")
+        .set("Key", "GRIPSIZE")
+        .set("sysvar", 1)
+        .set("Section", "Drawing")
+        .set("IFace", "IProfile");
+    OpenDialog dialog;
+    EXPECT_EQ(editorOf<QSpinBox>(dialog, "size")->value(), 4);
+}
+
+TEST_F(OptionWalk, RestoresTheExpansionSavedUnderTheNodesName) {
+    tree.node("open").node("inside");
+    tree.node("shut").node("inside2");
+    rememberExpanded("open", 1);
+    OpenDialog dialog;
+    EXPECT_TRUE(itemOf(dialog, "open")->isExpanded());
+    EXPECT_FALSE(itemOf(dialog, "shut")->isExpanded());
+    EXPECT_EQ(dialog.expandedItems, QList<TreeItem*>({itemOf(dialog, "open")}));
+}
+
+TEST_F(OptionWalk, TakesAnySavedIntegerForExpanded) {
+    tree.node("zero").node("inside");
+    tree.node("real").node("inside2");
+    rememberExpanded("zero", 0);
+    rememberExpanded("real", 1.0);
+    OpenDialog dialog;
+    EXPECT_TRUE(itemOf(dialog, "zero")->isExpanded());
+    EXPECT_FALSE(itemOf(dialog, "real")->isExpanded());
+}
+
+TEST_F(OptionWalk, SharesOneExpansionEntryAmongNodesOfTheSameName) {
+    tree.node("left").node("colours").node("a");
+    tree.node("right").node("colours").node("b");
+    rememberExpanded("colours", 1);
+    OpenDialog dialog;
+    EXPECT_TRUE(itemOf(dialog, "left")->childItem(0)->isExpanded());
+    EXPECT_TRUE(itemOf(dialog, "right")->childItem(0)->isExpanded());
+}
+
+TEST_F(OptionWalk, DoesNotScrollWhileItRestoresTheExpansion) {
+    for (int i = 0; i < 60; ++i) {
+        const QByteArray name = QStringLiteral("group%1").arg(i).toLocal8Bit();
+        tree.node(name).node("inside");
+        rememberExpanded(name, 1);
+    }
+    OpenDialog dialog;
+    EXPECT_EQ(dialog.tree->currentItem(), rootItem(dialog));
+    EXPECT_EQ(dialog.tree->verticalScrollBar()->value(), 0);
+}
+
+TEST_F(OptionWalk, StartsTheRowsBelowAnUncheckedRowDisabled) {
+    tree.node("off").type(L"Check").node("below").type(L"Edit").node("deeper").type(L"Edit");
+    tree.node("on").type(L"Check").set("Default", 1).node("belowOn").type(L"Edit");
+    OpenDialog dialog;
+    EXPECT_TRUE(isOn(dialog, "off"));
+    EXPECT_FALSE(isOn(dialog, "below"));
+    EXPECT_FALSE(isOn(dialog, "deeper")) << "its parent is disabled";
+    EXPECT_TRUE(isOn(dialog, "belowOn"));
+}
+
+TEST_F(OptionWalk, CountsARowWithoutAStateAsOn) {
+    tree.node("section").node("below").type(L"Edit");
+    OpenDialog dialog;
+    EXPECT_EQ(itemOf(dialog, "section")->state, 2);
+    EXPECT_TRUE(isOn(dialog, "below"));
+}
+
+TEST_F(OptionWalk, DisablesARowByTheValueEightOfItsState) {
+    tree.node("off").type(L"Edit").set("State", 8);
+    tree.node("alsoOff").type(L"Edit").set("State", 12);
+    tree.node("on").type(L"Edit").set("State", 7);
+    tree.node("bitNumberEight").type(L"Edit").set("State", 256);
+    OpenDialog dialog;
+    EXPECT_FALSE(isOn(dialog, "off"));
+    EXPECT_FALSE(isOn(dialog, "alsoOff"));
+    EXPECT_TRUE(isOn(dialog, "on"));
+    EXPECT_TRUE(isOn(dialog, "bitNumberEight"));
+}
+
+TEST_F(OptionWalk, GroupsTheRadiosOfOneParentExclusively) {
+    OptionTreeWriter group = tree.node("group");
+    group.node("a").type(L"Radio").set("Value", 1);
+    group.node("b").type(L"Radio").set("Value", 2);
+    tree.node("other").node("c").type(L"Radio").set("Value", 1);
+    OpenDialog dialog;
+    QButtonGroup* const buttons = dialog.buttonGroups.value(itemOf(dialog, "group"));
+    ASSERT_NE(buttons, nullptr);
+    EXPECT_TRUE(buttons->exclusive());
+    EXPECT_EQ(buttons->buttons().size(), 2);
+    EXPECT_EQ(dialog.buttonGroups.value(itemOf(dialog, "other"))->buttons().size(), 1);
+    EXPECT_EQ(dialog.buttonGroups.size(), 2);
+    EXPECT_EQ(dialog.radioLists.value(itemOf(dialog, "group")).size(), 2);
+    editorOf<QRadioButton>(dialog, "a")->click();
+    editorOf<QRadioButton>(dialog, "b")->click();
+    editorOf<QRadioButton>(dialog, "c")->click();
+    EXPECT_FALSE(editorOf<QRadioButton>(dialog, "a")->isChecked());
+    EXPECT_TRUE(editorOf<QRadioButton>(dialog, "b")->isChecked());
+    EXPECT_TRUE(editorOf<QRadioButton>(dialog, "c")->isChecked());
+}
+
+TEST_F(OptionWalk, RemembersTheColourOfTheCursor) {
+    tree.node("cursor").type(L"Color").set("ID", int(kIdCursorColor));
+    OpenDialog dialog;
+    EXPECT_EQ(dialog.cursorColorItem, itemOf(dialog, "cursor"));
+    EXPECT_EQ(itemOf(dialog, "cursor")->optionId, int(kIdCursorColor));
+    EXPECT_STREQ(dialog.cursorColorKey.c_str(), "Color3D");
+    EXPECT_STREQ(dialog.cursorSection.c_str(), "Cursor");
+}
+
+TEST_F(OptionWalk, LeavesTheOptionIdOfEveryOtherIdAsItStarts) {
+    for (const int id : {0, 7, int(kIdPapers), int(kIdTemplateFiles), int(kIdSaveFormats)})
+        tree.node(QStringLiteral("id%1").arg(id).toLocal8Bit()).set("ID", id);
+    OpenDialog dialog;
+    for (int i = 0; i < rootItem(dialog)->childCount(); ++i)
+        EXPECT_EQ(rootItem(dialog)->childItem(i)->optionId, int(kIdNone));
+    EXPECT_EQ(dialog.cursorColorItem, nullptr);
+}
+
+TEST_F(OptionWalk, FillsThePaperRootAndChoosesItsRowByType) {
+    OptionTreeWriter(openChild(&host.papers(), "Paper00000001", 1)).set("Name", L"A4");
+    tree.node("papers").type(L"Check").set("ID", int(kIdPapers)).set("Default", 1);
+    OpenDialog dialog;
+    TreeItem* const papers = itemOf(dialog, "papers");
+    EXPECT_EQ(dialog.paperRootItem, papers);
+    EXPECT_EQ(papers->nodeType, int(kNodePaperRoot));
+    EXPECT_EQ(papers->childCount(), 1);
+    EXPECT_NE(editorOf<QCheckBox>(dialog, "papers"), nullptr) << "the editor of the told Type";
+}
+
+TEST_F(OptionWalk, FillsTheRasterFormats) {
+    OptionTreeWriter(openChild(&host.ioParams(), "Raster", 1)).set("Format1", "PNG");
+    OptionTreeWriter(openChild(&host.ioParams(), "Formats\\PNG", 1)).set("Description", L"PNG pictures");
+    tree.node("raster").set("ID", int(kIdRasterFormats));
+    OpenDialog dialog;
+    ASSERT_EQ(itemOf(dialog, "raster")->childCount(), 1);
+    EXPECT_EQ(shownText(dialog, itemOf(dialog, "raster")->childItem(0)), "PNG pictures");
+}
+
+TEST_F(OptionWalk, BuildsAFreshTreeWhenItRunsAgain) {
+    tree.node("group").node("a").type(L"Radio");
+    tree.node("papers").set("ID", int(kIdPapers));
+    tree.node("cursor").type(L"Color").set("ID", int(kIdCursorColor));
+    OpenDialog dialog;
+    tree.node("later");
+    dialog.rebuildTree(true);
+    EXPECT_EQ(namesBelow(rootItem(dialog)), QStringList({"group", "papers", "cursor", "later"}));
+    EXPECT_EQ(dialog.rowWidgets.size(), 6);
+    EXPECT_EQ(dialog.optionItems.size(), 6);
+    EXPECT_EQ(dialog.radioButtons.size(), 1);
+    EXPECT_EQ(dialog.buttonGroups.size(), 1);
+    EXPECT_EQ(dialog.paperRootItem, itemOf(dialog, "papers"));
+    EXPECT_EQ(dialog.cursorColorItem, itemOf(dialog, "cursor"));
+}
+
+TEST_F(OptionWalk, ForgetsARowThatGoesAwayWithAllBelowIt) {
+    tree.node("group").node("a").type(L"Radio");
+    tree.node("stays");
+    OpenDialog dialog;
+    TreeItem* const group = itemOf(dialog, "group");
+    dialog.forgetItem(group);
+    delete group;
+    EXPECT_EQ(dialog.rowWidgets.keys(), QList<TreeItem*>({rootItem(dialog), itemOf(dialog, "stays")}));
+    EXPECT_EQ(dialog.optionItems.size(), 2);
+    EXPECT_TRUE(dialog.radioButtons.isEmpty());
+    EXPECT_TRUE(dialog.radioLists.isEmpty());
+    EXPECT_TRUE(dialog.buttonGroups.isEmpty());
+}
+
+TEST_F(OptionWalk, WalksATreeOfGreatDepth) {
+    OptionTreeWriter deepest = tree;
+    for (int depth = 0; depth < 2000; ++depth)
+        deepest = deepest.node("down");
+    deepest.node("bottom").type(L"Check");
+    OpenDialog dialog;
+    EXPECT_NE(itemOf(dialog, "bottom"), nullptr);
+}
+
+TEST_F(OptionWalk, ShowsATextOfAMebibyte) {
+    const std::wstring text(1 << 20, L'x');
+    tree.node("long").set("Description", text.c_str());
+    OpenDialog dialog;
+    EXPECT_EQ(itemOf(dialog, "long")->description.size(), 1 << 20);
+}
+
+TEST_F(OptionWalk, BearsAHostWithoutAProfile) {
+    tree.node("name").type(L"Edit").set("Key", "Name").set("Section", "S").set("IFace", "IProfile");
+    host.withhold(typeid(IProfile));
+    OpenDialog dialog;
+    EXPECT_NE(editorOf<QLineEdit>(dialog, "name"), nullptr);
+}
