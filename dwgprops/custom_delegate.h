@@ -1,0 +1,14 @@
+// Editors of table cells that tell of the Tab key instead of moving on by themselves.
+#pragma once
+
+#include <QItemDelegate>
+
+class CustomDelegate : public QItemDelegate {
+    Q_OBJECT
+public:
+    using QItemDelegate::QItemDelegate;
+    bool eventFilter(QObject* editor, QEvent* event) override;
+
+signals:
+    void tabPressed();
+};
