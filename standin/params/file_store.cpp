@@ -1,0 +1,153 @@
+// Loading, collecting changes, and writing of a store.
+#include "standin/params/file_store.h"
+
+#include "standin/params/store_merge.h"
+#include "standin/params/yaml_tree.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QTimer>
+
+namespace standin {
+
+namespace {
+
+QByteArray bytesOf(const Section& section) { return QByteArray::fromStdString(writeYaml(section)); }
+
+YamlResult parsed(const QByteArray& bytes, const QString& path) {
+    return parseYaml(bytes.toStdString(), QDir::toNativeSeparators(path).toStdString());
+}
+
+QString lockReason(const QLockFile& lock) {
+    if (lock.error() == QLockFile::LockFailedError)
+        return FileStore::tr("another program is writing it");
+    return FileStore::tr("its folder cannot be written");
+}
+
+} // namespace
+
+FileStore::FileStore(Section& rootSection, TreeRulesPtr treeRules, StoreFiles storeFiles, StoreIo storeIo)
+    : root(rootSection), rules(std::move(treeRules)), files(std::move(storeFiles)), io(std::move(storeIo)) {
+    load();
+    base = bytesOf(root);
+    rules->changed = [this] { noteChange(); };
+    if (qApp)
+        connect(qApp, &QCoreApplication::aboutToQuit, this, &FileStore::flush);
+}
+
+FileStore::~FileStore() {
+    flush();
+    rules->changed = nullptr;
+}
+
+void FileStore::load() {
+    if (QFileInfo::exists(files.user) && loadFile(files.user))
+        return;
+    if (!files.shipped.isEmpty())
+        loadFile(files.shipped);
+}
+
+// False when the file serves for nothing. A fault in single entries leaves the rest to be used.
+bool FileStore::loadFile(const QString& path) {
+    QString reason;
+    const auto bytes = readWhole(path, reason);
+    if (!bytes) {
+        io.report(tr("%1 cannot be read: %2").arg(QDir::toNativeSeparators(path), reason));
+        return false;
+    }
+    const YamlResult result = parsed(*bytes, path);
+    if (path == files.user) {
+        known = *bytes;
+        knownFaulty = !result.clean();
+    }
+    if (!result.clean())
+        io.report(QString::fromStdString(result.report()));
+    if (result.problem && path == files.user)
+        return false;
+    root.copyFrom(result.tree->section());
+    return true;
+}
+
+void FileStore::noteChange() {
+    if (busy)
+        return;
+    dirty = true;
+    if (scheduled)
+        return;
+    scheduled = true;
+    QTimer::singleShot(0, this, &FileStore::flush);
+}
+
+bool FileStore::flush() {
+    scheduled = false;
+    if (!dirty || busy)
+        return !dirty;
+    busy = true;
+    QString reason;
+    dirty = !write(reason);
+    busy = false;
+    if (dirty)
+        io.report(tr("%1 could not be written: %2.\nYour changes are kept until the program ends.")
+                      .arg(QDir::toNativeSeparators(files.user), reason));
+    return !dirty;
+}
+
+bool FileStore::write(QString& reason) {
+    if (bytesOf(root) == base)
+        return true; // everything was set to what it was
+    if (!QDir().mkpath(QFileInfo(files.user).path())) {
+        reason = tr("its folder cannot be made");
+        return false;
+    }
+    QLockFile lock(files.user + QStringLiteral(".lock"));
+    if (!lock.tryLock(io.lockTimeout)) {
+        reason = lockReason(lock);
+        return false;
+    }
+    if (!takeInOthers(reason))
+        return false;
+    const QByteArray bytes = bytesOf(root);
+    if (!writeWhole(io, files.user, bytes, reason))
+        return false;
+    known = base = bytes;
+    knownFaulty = false;
+    return true;
+}
+
+// Looks at the file as it is now: nothing in it may be overwritten unseen.
+bool FileStore::takeInOthers(QString& reason) {
+    if (!QFileInfo::exists(files.user))
+        return true;
+    const auto bytes = readWhole(files.user, reason);
+    if (!bytes)
+        return false;
+    if (*bytes == known && !knownFaulty)
+        return true;
+    return parsed(*bytes, files.user).clean() ? mergeOthers(*bytes, reason) : keepBroken(*bytes, reason);
+}
+
+bool FileStore::keepBroken(const QByteArray& bytes, QString& reason) {
+    const QString copy = keepBeside(files.user, QStringLiteral("broken"), bytes, reason);
+    if (!copy.isEmpty())
+        io.report(tr("%1 was not readable as a whole and is kept as %2.")
+                      .arg(QDir::toNativeSeparators(files.user), QDir::toNativeSeparators(copy)));
+    return !copy.isEmpty();
+}
+
+bool FileStore::mergeOthers(const QByteArray& bytes, QString& reason) {
+    const YamlResult theirs = parsed(bytes, files.user);
+    const YamlResult before = parsed(base, files.user);
+    if (mergeInto(root, before.tree->section(), theirs.tree->section(), files.wholeDepth) == 0)
+        return true;
+    const QString copy = keepBeside(files.user, QStringLiteral("other"), bytes, reason);
+    if (!copy.isEmpty())
+        io.report(tr("Another program has changed %1 too. Its version is kept as %2.")
+                      .arg(QDir::toNativeSeparators(files.user), QDir::toNativeSeparators(copy)));
+    return !copy.isEmpty();
+}
+
+} // namespace standin
+
+#include "moc_file_store.cpp"
