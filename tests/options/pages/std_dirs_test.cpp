@@ -1,0 +1,222 @@
+// The page of standard directories: reading the host's lists into rows, and writing them on Apply.
+#include "host/app.h"
+#include "options/pages/clickable_label.h"
+#include "options/pages/page_rows.h"
+#include "options/pages/pref_widget.h"
+#include "options/pages/std_dir_info.h"
+#include "options/pages/std_dirs_page.h"
+#include "tests/options/pages/std_dirs_fixture.h"
+
+#include <QIcon>
+
+namespace {
+
+using StdDirs = StdDirsFixture;
+
+std::int64_t countOf(IStdDirInfo* info) {
+    info->AddRef();
+    return info->Release();
+}
+
+} // namespace
+
+TEST_F(StdDirs, SectionsAndPathsStandInTheOrderOfTheHost) {
+    addSection("Support", L"Support files", {L"/z", L"/a"});
+    addSection("Fonts", L"Fonts", {L"/f"});
+    open();
+    EXPECT_EQ(rowsBelow(page()), (QStringList{"Support files", "Fonts"}));
+    EXPECT_EQ(rows(0), (QStringList{"/z", "/a"}));
+    EXPECT_EQ(rows(1), QStringList{"/f"});
+}
+
+TEST_F(StdDirs, ASectionsNameIsTranslatedAndItsDescriptionIsNot) {
+    host.translations[L"Fonts"] = L"Schriften";
+    host.translations[L"About Fonts"] = L"falsch";
+    addSection("Fonts", L"Fonts", {});
+    open();
+    EXPECT_EQ(rowsBelow(page()), QStringList{"Schriften"});
+    EXPECT_EQ(section()->description, "About Fonts");
+}
+
+TEST_F(StdDirs, SectionItemsOfferAddAndKnowTheirIndex) {
+    addSection("A", L"A", {L"/a"});
+    addSection("B", L"B", {L"/b"});
+    open();
+    EXPECT_EQ(section(1)->nodeType, kNodeDirSection);
+    EXPECT_EQ(section(1)->buttonMask, 4u);
+    EXPECT_EQ(section(1)->numberValue, 1.0);
+    EXPECT_EQ(section(1)->payload, nullptr);
+    EXPECT_EQ(iconOf(section(1)).cacheKey(), iconOf(page()).cacheKey());
+    EXPECT_FALSE(iconOf(section(1)).isNull());
+}
+
+TEST_F(StdDirs, PathItemsOfferEverythingAndCarryTheirElement) {
+    addSection("A", L"A", {});
+    addSection("B", L"B", {L"/b"});
+    open();
+    const TreeItem* path = section(1)->childItem(0);
+    EXPECT_EQ(path->nodeType, kNodePath);
+    EXPECT_EQ(path->buttonMask, 31u);
+    EXPECT_EQ(path->numberValue, 1.0);
+    EXPECT_EQ(path->payload, elementsOf(preferences->stdDirs[1].list)[0].get());
+    EXPECT_EQ(path->description, "About B");
+    EXPECT_EQ(iconOf(path).cacheKey(), iconOf(page()).cacheKey());
+}
+
+TEST_F(StdDirs, AnIconThatIsNoIconGivesAnEmptyOne) {
+    addSection("A", L"A", {L"/a"});
+    open();
+    page()->setData(0, Qt::DecorationRole, QColor(Qt::red));
+    loadStdDirs(*preferences, page());
+    EXPECT_TRUE(iconOf(section(1)).isNull());
+    releaseStdDirs(*preferences);
+}
+
+TEST_F(StdDirs, ASectionWithNoListShowsNoPathsAndNoDescription) {
+    describe("A", L"A");
+    host.stdDirs().setNoList("A");
+    open();
+    EXPECT_EQ(rowsBelow(page()), QStringList{"A"});
+    EXPECT_EQ(section()->childCount(), 0);
+    EXPECT_EQ(section()->description, "");
+}
+
+TEST_F(StdDirs, ASectionWithAnEmptyListKeepsItsDescription) {
+    addSection("A", L"A", {});
+    open();
+    EXPECT_EQ(section()->childCount(), 0);
+    EXPECT_EQ(section()->description, "About A");
+}
+
+TEST_F(StdDirs, ASectionThatTheHostDoesNotKnowGetsAnEmptyListThatTakesPaths) {
+    describe("A", L"A");
+    open();
+    EXPECT_EQ(section()->description, "About A");
+    select(section());
+    add("/new");
+    EXPECT_EQ(rows(), QStringList{"/new"});
+    apply();
+    EXPECT_EQ(stored("A"), QStringList{"/new"});
+}
+
+TEST_F(StdDirs, WithoutTheListsThePageIsLeftOutWithoutAMessage) {
+    addSection("A", L"A", {L"/a"});
+    host.withhold(typeid(IStdDirs));
+    open();
+    EXPECT_EQ(page()->childCount(), 0);
+    apply();
+    EXPECT_TRUE(host.messages.empty());
+    EXPECT_TRUE(host.stdDirs().stored.empty());
+}
+
+TEST_F(StdDirs, WithoutTheDescriptionsThePageIsLeftOut) {
+    host.stdDirs().set("A", {L"/a"});
+    host.plain().removeEntry("StdDirsDescriptions");
+    open();
+    EXPECT_EQ(page()->childCount(), 0);
+}
+
+TEST_F(StdDirs, WithoutTheHostsParametersThePageIsLeftOut) {
+    addSection("A", L"A", {L"/a"});
+    host.withhold(typeid(IParam));
+    open();
+    EXPECT_EQ(page()->childCount(), 0);
+    EXPECT_TRUE(preferences->stdDirs.empty());
+}
+
+TEST_F(StdDirs, APathThatIsNotEditableIsDisabledAndCannotBeSelected) {
+    addSection("A", L"A", {L"/a", L"/b"});
+    host.stdDirs().lists["A"]->append(Ref<IStdDirInfo>::take(new_StdDirInfo("Host", L"/fixed", 0)).get());
+    open();
+    TreeItem* fixed = row("/fixed");
+    EXPECT_FALSE(fixed->isEnabled());
+    EXPECT_FALSE(preferences->rowWidgets.value(fixed)->isEnabled());
+    select(row("/a"));
+    select(fixed);
+    EXPECT_EQ(current(), row("/a"));
+    QTest::mouseDClick(labelOf(fixed), Qt::LeftButton);
+    EXPECT_EQ(dialogsOpened, 0);
+}
+
+TEST_F(StdDirs, ApplyWritesEverySectionInOrder) {
+    addSection("B", L"B", {L"/b"});
+    addSection("A", L"A", {L"/a"});
+    open();
+    apply();
+    EXPECT_EQ(host.stdDirs().stored, (std::vector<std::string>{"B", "A"}));
+    EXPECT_EQ(stored("B"), QStringList{"/b"});
+}
+
+TEST_F(StdDirs, ApplyComesAfterTheRasterFormatsAndBeforeThePapers) {
+    addSection("A", L"A", {L"/a"});
+    setValue(sectionOf(host.ioParams(), "Raster"), "Format1", "tif");
+    sectionOf(host.ioParams(), "Formats\\tif");
+    sectionOf(host.papers(), "P");
+    open();
+    std::vector<std::size_t> whenRaster, whenPapers;
+    host.rules(host.ioParams()).changed = [&] { whenRaster.push_back(host.stdDirs().stored.size()); };
+    host.rules(host.papers()).changed = [&] { whenPapers.push_back(host.stdDirs().stored.size()); };
+    apply();
+    host.rules(host.ioParams()).changed = nullptr;
+    host.rules(host.papers()).changed = nullptr;
+    ASSERT_FALSE(whenPapers.empty());
+    EXPECT_EQ(whenPapers.front(), 1u);
+    ASSERT_FALSE(whenRaster.empty());
+    EXPECT_EQ(whenRaster.back(), 0u);
+}
+
+TEST_F(StdDirs, ApplyIsDroppedWhenTheListsAreGone) {
+    addSection("A", L"A", {L"/a"});
+    open();
+    host.withhold(typeid(IStdDirs));
+    apply();
+    EXPECT_TRUE(host.stdDirs().stored.empty());
+}
+
+TEST_F(StdDirs, NamesAndPathsOfEveryFormSurviveApply) {
+    const std::vector<std::wstring> paths{L"/quote\"s'", L"/%1 %2", L"/<b>bold</b>",         L"/two\nlines",
+                                          L" /spaces ",  L"",       std::wstring(4000, L'x')};
+    addSection("A", L"Name <i>with</i> \"%1\"", paths);
+    open();
+    EXPECT_EQ(section()->childCount(), int(paths.size()));
+    EXPECT_EQ(rows()[0], "/quote\"s'");
+    EXPECT_EQ(rows()[1], "/%1 %2");
+    apply();
+    EXPECT_EQ(host.stdDirs().paths("A"), paths);
+}
+
+TEST_F(StdDirs, FiveThousandPathsOpenAndApply) {
+    std::vector<std::wstring> paths;
+    for (int i = 0; i < 5000; ++i)
+        paths.push_back(L"/path/" + std::to_wstring(i));
+    addSection("A", L"A", paths);
+    open();
+    EXPECT_EQ(section()->childCount(), 5000);
+    select(section());
+    add("/path/4999");
+    EXPECT_EQ(section()->childCount(), 5000) << "a duplicate of the last one";
+    apply();
+    EXPECT_EQ(host.stdDirs().paths("A"), paths);
+}
+
+TEST_F(StdDirs, TheDialogGivesBackEveryElementAtItsEnd) {
+    addSection("A", L"A", {L"/a", L"/b"});
+    open();
+    const Ref<IStdDirInfo> first = elementsOf(preferences->stdDirs[0].list)[0];
+    EXPECT_EQ(countOf(first.get()), 3) << "the list, the row and this test";
+    const Ref<IStdDirInfo> second = elementsOf(preferences->stdDirs[0].list)[1];
+    select(row("/a"));
+    click(preferences->deleteButton);
+    EXPECT_EQ(countOf(first.get()), 1) << "after the deletion";
+    preferences.reset();
+    EXPECT_EQ(countOf(second.get()), 1) << "at the end of the dialog";
+}
+
+TEST_F(StdDirs, ClearingTheTreeGivesBackTheElements) {
+    addSection("A", L"A", {L"/a"});
+    open();
+    const Ref<IStdDirInfo> first = elementsOf(preferences->stdDirs[0].list)[0];
+    preferences->rebuildTree(true);
+    EXPECT_EQ(countOf(first.get()), 1);
+    EXPECT_EQ(rows(), QStringList{"/a"});
+}
