@@ -1,7 +1,7 @@
 // A search over the option tree: what is shown, expanded and marked, and how the tree is put back.
 #include "options/pages/search_expression.h"
-#include "options/pages/search_hits.h"
 #include "options/pages/search_marks.h"
+#include "options/pages/search_rows.h"
 #include "options/pages/searching_line_edit.h"
 
 #include <QLabel>
@@ -10,61 +10,22 @@
 
 namespace {
 
-// One search below a root. `foundItems` grows in the order of finding.
-class SearchWalk {
-public:
-    SearchWalk(QTreeWidget* searchedTree, QTreeWidgetItem* root, const QRegularExpression& searched,
-               const SearchMark& searchMark, QList<QTreeWidgetItem*>& found)
-        : tree(searchedTree), expression(searched), mark(searchMark), hits(searchedTree, root, searched),
-          foundItems(found), foundSet(found.cbegin(), found.cend()) {}
-
-    void searchBelow(QTreeWidgetItem* parent) {
-        for (int i = 0; i < parent->childCount(); ++i) {
-            QTreeWidgetItem* child = parent->child(i);
-            if (decideVisibility(child))
-                keep(parent, child);
-            searchBelow(child); // hidden children too, so that each gets its own flag
-        }
+void showAllBelow(QTreeWidgetItem* item) {
+    for (int i = 0; i < item->childCount(); ++i) {
+        item->child(i)->setHidden(false);
+        showAllBelow(item->child(i));
     }
+}
 
-private:
-    bool decideVisibility(QTreeWidgetItem* child) {
-        const SearchHit hit = hits.of(child);
-        const bool kept = hit.description || hit.descriptionBelow || hit.label || hit.labelBelow;
-        child->setHidden(!kept);
-        return kept;
-    }
+void highlightLabelMatches(const SearchRow& row, const QRegularExpression& expression,
+                           const SearchMark& mark) {
+    row.label->setText(mark.aroundMatches(row.label->text(), expression));
+}
 
-    void keep(QTreeWidgetItem* parent, QTreeWidgetItem* child) {
-        parent->setExpanded(true);
-        const SearchHit hit = hits.of(child);
-        if (hit.label)
-            highlightLabelMatches(child);
-        if (hit.description)
-            highlightWholeLabel(child);
-        if (parent != tree->invisibleRootItem() && !foundSet.contains(child)) {
-            foundSet.insert(child);
-            foundItems.append(child);
-        }
-    }
-
-    void highlightLabelMatches(QTreeWidgetItem* child) {
-        if (QLabel* label = rowLabel(tree, child))
-            label->setText(mark.aroundMatches(label->text(), expression));
-    }
-
-    void highlightWholeLabel(QTreeWidgetItem* child) {
-        if (QLabel* label = rowLabel(tree, child))
-            label->setText(mark.around(label->text()));
-    }
-
-    QTreeWidget* tree;
-    const QRegularExpression& expression;
-    const SearchMark& mark;
-    const SearchHits hits;
-    QList<QTreeWidgetItem*>& foundItems;
-    QSet<QTreeWidgetItem*> foundSet;
-};
+void highlightWholeLabel(const SearchRow& row, const SearchMark& mark) {
+    if (row.label)
+        row.label->setText(mark.around(row.label->text()));
+}
 
 } // namespace
 
@@ -78,8 +39,9 @@ void SearchingLineEdit::startSearch() {
 void SearchingLineEdit::runSearch(const QString& searchText) {
     QTreeWidgetItem* root = tree->topLevelItem(0); // nothing beside or above what lies below it is searched
     if (root) {
-        clearHighlights(root);
-        searchItems(root, searchText);
+        std::vector<SearchRow> rows = rowsBelow(tree, root);
+        clearHighlights(rows);
+        searchItems(rows, searchText);
     }
     if (foundItems.isEmpty())
         emit noFound();
@@ -91,38 +53,47 @@ void SearchingLineEdit::runSearch(const QString& searchText) {
     }
 }
 
-void SearchingLineEdit::clearHighlights(QTreeWidgetItem* item) {
+void SearchingLineEdit::clearHighlights(const std::vector<SearchRow>& rows) {
     const SearchMark mark(highlightBackground, highlightForeground);
-    for (int i = 0; i < item->childCount(); ++i) {
-        QTreeWidgetItem* child = item->child(i);
-        if (QLabel* label = rowLabel(tree, child)) {
-            QString cleared = label->text();
-            mark.clear(cleared);
-            if (cleared != label->text())
-                label->setText(cleared);
-        }
-        clearHighlights(child);
+    for (const SearchRow& row : rows) {
+        if (!row.label)
+            continue;
+        QString cleared = row.label->text();
+        mark.clear(cleared);
+        if (cleared != row.label->text())
+            row.label->setText(cleared);
     }
 }
 
-void SearchingLineEdit::searchItems(QTreeWidgetItem* parent, const QString& searchText) {
+void SearchingLineEdit::searchItems(std::vector<SearchRow>& rows, const QString& searchText) {
     if (searchText.isEmpty()) {
-        showAllBelow(parent);
+        for (const SearchRow& row : rows)
+            row.item->setHidden(false);
         statusLabel->setText(QString());
         return;
     }
     const QRegularExpression expression = buildSearchExpression(searchText);
     const SearchMark mark(highlightBackground, highlightForeground);
-    SearchWalk(tree, parent, expression, mark, foundItems).searchBelow(parent);
-    if (parent->childCount() > 0) // a root without children keeps the status of the search before
+    matchRows(rows, expression);
+    for (const SearchRow& row : rows) {
+        row.item->setHidden(!row.isKept());
+        if (row.isKept())
+            keep(row, expression, mark);
+    }
+    if (!rows.empty()) // a root without children keeps the status of the search before
         statusLabel->setText(foundItems.isEmpty() ? tr("No matches!!!") : QString());
 }
 
-void SearchingLineEdit::showAllBelow(QTreeWidgetItem* item) {
-    for (int i = 0; i < item->childCount(); ++i) {
-        item->child(i)->setHidden(false);
-        showAllBelow(item->child(i));
-    }
+// Every kept item counts as found: also the ancestors of a hit. None comes twice, since the list is empty
+// between searches and a search comes past each item once.
+void SearchingLineEdit::keep(const SearchRow& row, const QRegularExpression& expression,
+                             const SearchMark& mark) {
+    row.item->parent()->setExpanded(true);
+    if (row.labelHit)
+        highlightLabelMatches(row, expression, mark);
+    if (row.descriptionHit)
+        highlightWholeLabel(row, mark);
+    foundItems.append(row.item);
 }
 
 // Works on a copy: losing the focus may run a reset, which empties the list. What lies below a found item is

@@ -6,12 +6,16 @@
 
 #include <QLineEdit>
 #include <QList>
+#include <vector>
 
 class QAction;
 class QIcon;
 class QLabel;
+class QRegularExpression;
 class QTextEdit;
 class QTreeWidget;
+struct SearchMark;
+struct SearchRow;
 
 class SearchingLineEdit : public QLineEdit {
     Q_OBJECT
@@ -47,9 +51,9 @@ private:
 
     void startSearch();
     void runSearch(const QString& text);
-    void clearHighlights(QTreeWidgetItem* item);
-    void searchItems(QTreeWidgetItem* parent, const QString& text);
-    void showAllBelow(QTreeWidgetItem* item);
+    void clearHighlights(const std::vector<SearchRow>& rows);
+    void searchItems(std::vector<SearchRow>& rows, const QString& text);
+    void keep(const SearchRow& row, const QRegularExpression& expression, const SearchMark& mark);
     void showBelowFoundItems();
     void reset(const QString& newText);
 

@@ -7,8 +7,8 @@ void TreeExpansionState::save(QTreeWidgetItem* item) {
     for (int i = 0; i < item->childCount(); ++i) {
         QTreeWidgetItem* child = item->child(i);
         if (!child->isHidden())
-            expanded[child] = child->isExpanded();
-        save(child); // also below a hidden child
+            expanded.insert(expanded.constEnd(), child, child->isExpanded()); // mostly made in this order
+        save(child);                                                          // also below a hidden child
     }
 }
 
