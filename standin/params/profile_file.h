@@ -1,0 +1,21 @@
+// The user's profile below a root directory. All who ask for the same root share one tree.
+#pragma once
+
+#include "standin/params/in_file.h"
+
+namespace standin {
+
+using FileProfile = InFile<ParamOf<IProfile>>;
+
+// What every profile that is opened from now on starts with: the shipped default (may be empty) and how files
+// are accessed.
+struct ProfileDefaults {
+    QString shipped;
+    StoreIo io;
+};
+void setProfileDefaults(ProfileDefaults defaults);
+
+// The profile in "<rootDir>/profile.yaml"; null when `rootDir` is empty or no folder can be there.
+Ref<FileProfile> openProfile(const QString& rootDir);
+
+} // namespace standin

@@ -1,0 +1,147 @@
+// Reading and replacing lists of standard directories.
+#include "standin/params/std_dirs.h"
+
+#include "host/text.h"
+#include "host/typed_reads.h"
+#include "standin/params/dir_entry.h"
+
+#include <QDir>
+#include <algorithm>
+#include <map>
+
+namespace standin {
+
+namespace {
+
+const char pathValue[] = "path", keyValue[] = "key", editableValue[] = "editable";
+
+template <class T> void setValue(IParam* node, const char* name, const T& value) {
+    CKWVariant variant;
+    variant = value;
+    node->setValue(name, &variant);
+}
+
+// The entries of a section by their paths, so that a new list finds what it keeps.
+using EntriesByPath = std::multimap<QString, Ref<IParam>>;
+
+Ref<IParam> copyOf(IParam* node) {
+    auto copy = Ref<IParam>::take(new_MemParam());
+    Param_CopyTo(node, copy.get());
+    return copy;
+}
+
+// Takes the entry of that path out; an empty one when there is none.
+Ref<IParam> takeEntry(EntriesByPath& entries, const QString& path) {
+    const auto found = entries.find(path);
+    if (found == entries.end())
+        return Ref<IParam>::take(new_MemParam());
+    const Ref<IParam> entry = found->second;
+    entries.erase(found);
+    return entry;
+}
+
+} // namespace
+
+PathWords::PathWords(const QString& dataDir, const QString& rootDir) {
+    for (const auto& [word, path] :
+         {std::pair(QStringLiteral("${data}"), dataDir), std::pair(QStringLiteral("${root}"), rootDir)})
+        if (!path.isEmpty())
+            words.push_back({word, QDir::cleanPath(path)});
+    std::sort(words.begin(), words.end(),
+              [](const Word& a, const Word& b) { return a.path.size() > b.path.size(); });
+}
+
+QString PathWords::expanded(QString path) const {
+    for (const Word& word : words)
+        path.replace(word.word, word.path);
+    return path;
+}
+
+QString PathWords::contracted(const QString& path) const {
+    for (const Word& word : words)
+        if (path == word.path || path.startsWith(word.path + QLatin1Char('/')))
+            return word.word + path.mid(word.path.size());
+    return path;
+}
+
+Ref<IParam> StdDirs::listSection(const char* key, int create) {
+    const auto lists = openChild(tree.get(), "Lists", create);
+    return openChild(lists.get(), key, create);
+}
+
+QString StdDirs::pathOf(IParam* entry) const {
+    CXStringW path;
+    readValue(entry, pathValue, &path);
+    return words.expanded(hostqt::qString(path));
+}
+
+bool StdDirs::GetDir(const char* key, tagKWVARIANT* out, int) {
+    CXStringW path;
+    if (readValue(openChild(tree.get(), "Dirs").get(), key, &path)) {
+        path = hostqt::cxStringW(words.expanded(hostqt::qString(path)));
+    } else {
+        const auto elements = elementsOf(readList(listSection(key, 0).get()).get());
+        if (elements.empty())
+            return false;
+        path = elements.front()->GetPath();
+    }
+    KWVariantCopy(out, CKWVariant(path));
+    return true;
+}
+
+Ref<StdDirList> StdDirs::readList(IParam* section) const {
+    auto list = Ref<StdDirList>::share(new StdDirList);
+    for (const std::string& name : childNames(section)) {
+        const auto entry = openChild(section, name.c_str());
+        const QString path = pathOf(entry.get());
+        CXString key(".Local");
+        int editable = 1;
+        readValue(entry.get(), keyValue, &key);
+        readValue(entry.get(), editableValue, &editable);
+        if (!path.isEmpty())
+            list->append(newDirEntry(key.c_str(), path.toStdWString().c_str(), editable).get());
+    }
+    return list;
+}
+
+bool StdDirs::GetDirList(const char* key, CKWVariant* out) {
+    const auto section = listSection(key, 0);
+    if (!section)
+        return false;
+    const Ref<StdDirList> list = readList(section.get());
+    *out = static_cast<IKWUnknown*>(list.get());
+    return true;
+}
+
+bool StdDirs::SetDirList(const char* key, const CKWVariant& value) {
+    const Ref<StdDirList> list = stdDirListOf(value);
+    const auto section = list ? listSection(key, 1) : Ref<IParam>();
+    if (!section)
+        return false;
+    EntriesByPath before;
+    for (const std::string& name : childNames(section.get())) {
+        const auto entry = openChild(section.get(), name.c_str());
+        before.emplace(pathOf(entry.get()), copyOf(entry.get()));
+    }
+    std::vector<Ref<IParam>> entries;
+    for (const auto& element : elementsOf(list.get())) {
+        const QString path = QString::fromWCharArray(element->GetPath());
+        const Ref<IParam> entry = takeEntry(before, path);
+        if (pathOf(entry.get()) != path)
+            setValue(entry.get(), pathValue, hostqt::cxStringW(words.contracted(path)));
+        setValue(entry.get(), keyValue, element->GetKey());
+        setValue(entry.get(), editableValue, element->GetEditable());
+        entries.push_back(entry);
+    }
+    // What has no path was never shown and stays.
+    for (auto [hidden, end] = before.equal_range(QString()); hidden != end; ++hidden)
+        entries.push_back(hidden->second);
+    section->clear();
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        const auto entry = Ref<IParam>::take(section->createChild(std::to_string(i + 1).c_str()));
+        Param_CopyTo(entries[i].get(), entry.get());
+    }
+    return true;
+}
+
+} // namespace standin
