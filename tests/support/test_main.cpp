@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen"); // the build lists the tests of a binary without a display
     testing::InitGoogleTest(&argc, argv);
+    if (testing::GTEST_FLAG(list_tests))
+        return RUN_ALL_TESTS(); // the build lists the tests of a binary, without a display
     TestApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tests"));
     return RUN_ALL_TESTS();
