@@ -1,0 +1,95 @@
+// Modal dialogs through the runner.
+#include "host/modal_runner.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+namespace {
+
+// Does `work` once the dialog is shown.
+template <class Work> void whenShown(QDialog& dialog, Work work) { QTimer::singleShot(0, &dialog, work); }
+
+TEST(ModalRunnerTest, TheResultIsThatOfTheDialog) {
+    QDialog dialog;
+    whenShown(dialog, [&] { dialog.accept(); });
+    EXPECT_EQ(runModal(dialog), QDialog::Accepted);
+    whenShown(dialog, [&] { dialog.done(7); });
+    EXPECT_EQ(runModal(dialog), 7);
+    whenShown(dialog, [&] { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_EQ(runModal(dialog), QDialog::Rejected);
+    whenShown(dialog, [&] { dialog.close(); });
+    EXPECT_EQ(runModal(dialog), QDialog::Rejected);
+}
+
+TEST(ModalRunnerTest, TheDialogIsModalWhileItRunsOnly) {
+    QDialog dialog;
+    bool modalInside = false;
+    whenShown(dialog, [&] {
+        modalInside = QApplication::activeModalWidget() == &dialog;
+        dialog.accept();
+    });
+    runModal(dialog);
+    EXPECT_TRUE(modalInside);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_FALSE(dialog.testAttribute(Qt::WA_ShowModal));
+}
+
+TEST(ModalRunnerTest, AnExceptionInASlotEndsTheDialogAndReachesTheCaller) {
+    QDialog dialog;
+    auto* button = new QPushButton(&dialog);
+    QObject::connect(button, &QPushButton::clicked, &dialog,
+                     [] { throw std::runtime_error("from the slot"); });
+    whenShown(dialog, [&] { button->click(); });
+    std::string reason;
+    try {
+        runModal(dialog);
+    } catch (const std::runtime_error& error) {
+        reason = error.what();
+    }
+    EXPECT_EQ(reason, "from the slot");
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST(ModalRunnerTest, ADialogThatHasThrownCanBeDestroyedAndAnotherOneRun) {
+    {
+        QDialog dialog;
+        whenShown(dialog, [] { throw 5; });
+        EXPECT_THROW(runModal(dialog), int);
+    }
+    QDialog next;
+    whenShown(next, [&] { next.accept(); });
+    EXPECT_EQ(runModal(next), QDialog::Accepted);
+}
+
+TEST(ModalRunnerTest, AnExceptionOfAnInnerDialogEndsBothWhenNobodyCatchesIt) {
+    QDialog outer;
+    whenShown(outer, [&] {
+        QDialog inner(&outer);
+        whenShown(inner, [] { throw std::runtime_error("inner"); });
+        runModal(inner);
+    });
+    EXPECT_THROW(runModal(outer), std::runtime_error);
+    EXPECT_FALSE(outer.isVisible());
+}
+
+TEST(ModalRunnerTest, AnInnerDialogLeavesTheOuterOneRunning) {
+    QDialog outer;
+    int innerResult = -1;
+    whenShown(outer, [&] {
+        QDialog inner(&outer);
+        whenShown(inner, [&] { inner.accept(); });
+        innerResult = runModal(inner);
+        EXPECT_TRUE(outer.isVisible());
+        outer.done(3);
+    });
+    EXPECT_EQ(runModal(outer), 3);
+    EXPECT_EQ(innerResult, QDialog::Accepted);
+}
+
+} // namespace
