@@ -24,6 +24,9 @@ struct FileRow {
     QString* lastText; // the text that was accepted last
 };
 
+// The copy is never freed: one small text for each row and dialog is lost, which is meant.
+QString* newLastText(const LineEdit* edit) { return new QString(edit->text()); }
+
 // Every "/" becomes "\", also in the paths of a system that doesn't separate with it. That is meant.
 void takeFiles(const FileRow& row, QString joined) {
     joined.replace(QLatin1Char('/'), QLatin1Char('\\'));
@@ -69,8 +72,7 @@ void Preferences::buildFileEdit(TreeItem* item, IParam* node, int id) {
     auto* browse = new QAction;
     connect(edit, &QObject::destroyed, browse, [browse] { delete browse; });
     addBrowseAction(*this, edit, browse);
-    // The row's two slots share the last text, which nobody frees: that is meant.
-    const FileRow row{this, edit, item, id, new QString(edit->text())};
+    const FileRow row{this, edit, item, id, newLastText(edit)};
     connect(browse, &QAction::triggered, edit, [row] { pickFiles(row); });
     connect(
         edit, &QLineEdit::editingFinished, edit, [row] { acceptFiles(row); }, Qt::DirectConnection);
