@@ -19,7 +19,8 @@ ProfileDefaults& profileDefaults() {
 class SharedProfile;
 
 std::map<QString, SharedProfile*>& openProfiles() {
-    static std::map<QString, SharedProfile*> profiles;
+    // Never destroyed: a profile that is let go at the very end still signs off here.
+    static auto& profiles = *new std::map<QString, SharedProfile*>;
     return profiles;
 }
 
