@@ -25,6 +25,7 @@ const int kGapBeforeOk = 30;
 void Preferences::layOut() {
     auto* left = new QWidget(this);
     auto* leftBox = new QVBoxLayout(left);
+    leftBox->setContentsMargins(0, 0, 0, 0);
     leftBox->addWidget(tree);
 
     auto* columns = new QHBoxLayout;
@@ -41,6 +42,7 @@ QWidget* Preferences::layOutRightColumn() {
     auto* column = new QWidget(this);
     column->setFixedWidth(kRightColumnWidth);
     auto* box = new QVBoxLayout(column);
+    box->setContentsMargins(0, 0, 0, 0);
     box->addLayout(layOutConfiguration());
     box->addWidget(toolBar);
     box->addWidget(description);
@@ -53,6 +55,8 @@ QLayout* Preferences::layOutConfiguration() {
     profileRow->addWidget(profileButton);
     profileRow->addStretch();
 
+    configurationLabel->setWordWrap(true); // the column is narrow for large fonts and long names
+    configurationValue->setWordWrap(true);
     auto* box = new QVBoxLayout;
     box->addWidget(configurationLabel);
     box->addWidget(configurationValue);
@@ -77,6 +81,7 @@ QWidget* Preferences::layOutBottomRows() {
 
     auto* rows = new QWidget(this);
     auto* box = new QVBoxLayout(rows);
+    box->setContentsMargins(0, 0, 0, 0);
     box->addLayout(statusRow);
     box->addLayout(buttonRow);
     return rows;

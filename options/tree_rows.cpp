@@ -18,9 +18,12 @@ const int kStateDisabled = 8; // bit of a node's `State`
 
 } // namespace
 
+// The row is made where the tree is going to keep it: on its way there from another parent it would be
+// polished a second time with its own style sheets, which takes longer than all the rest.
 QPrefWidget* Preferences::makeRow(int position, TreeItem* item, QWidget* editor, bool cutAtAngleBracket,
                                   int doubleClickEnabled) {
-    auto* const row = new QPrefWidget(item, position, editor, cutAtAngleBracket, doubleClickEnabled, this);
+    auto* const row =
+        new QPrefWidget(item, position, editor, cutAtAngleBracket, doubleClickEnabled, tree->viewport());
     ClickableLabel* const label = row->label();
     connect(label, &QWidget::customContextMenuRequested, this,
             [this, label](const QPoint& clicked) { showContextMenu(label, clicked); });

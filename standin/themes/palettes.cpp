@@ -16,8 +16,9 @@ const ThemeColors darkColors = {0x2b2d30, 0x1f2124, 0x26282c, 0x3a3d42, 0xe3e5e8
                                 0x55595f, 0x484c52, 0x232528, 0x191b1d, 0x0b0c0d, 0x2f6fb5, 0xffffff,
                                 0x3f454d, 0x6cb2ff, 0xc39bff, 0x3f434a, 0xf1f2f4};
 
+// The highlight is pale here: widgets that stand on a selected row write in the plain text colour.
 const ThemeColors lightColors = {0xf1f2f4, 0xffffff, 0xf5f7f9, 0xf7f8fa, 0x1c1f23, 0x666c75, 0x878d95,
-                                 0xffffff, 0xf9fafb, 0xb9bec6, 0x9ea4ad, 0x6d727a, 0x2468b3, 0xffffff,
+                                 0xffffff, 0xf9fafb, 0xb9bec6, 0x9ea4ad, 0x6d727a, 0xb5d5f5, 0x1c1f23,
                                  0xc9d0d8, 0x0b5cad, 0x6a3fa8, 0xfffbe6, 0x23262a};
 
 void setText(QPalette& palette, QPalette::ColorGroup group, const QColor& color) {

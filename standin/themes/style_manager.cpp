@@ -1,16 +1,16 @@
 #include "standin/themes/style_manager.h"
 
 #include "standin/registry.h"
+#include "standin/themes/house_style.h"
 #include "standin/themes/palettes.h"
 
 #include <QApplication>
-#include <QStyleFactory>
 #include <QToolTip>
 
 namespace standin {
 
 StyleManager::StyleManager() : systemPalette(QApplication::palette()) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new HouseStyle);
     apply();
     registry().styles = this;
 }

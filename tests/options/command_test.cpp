@@ -1,6 +1,5 @@
 // The command that opens the Options dialog, run as the host runs it.
 #include "options/qpref_command.h"
-#include "sdk/db/database.h"
 #include "tests/options/option_data.h"
 
 #include <QApplication>
@@ -9,15 +8,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-class Document : public HostDocument {
-public:
-    OdSmartPtr<OdDbDatabase> database() override { return {}; }
-    HostCommandIO* commandIO() override { return nullptr; }
-    HostEditorSelection* selection() override { return nullptr; }
-    const wchar_t* fileName() override { return L""; }
-    const wchar_t* title() override { return L""; }
-};
 
 class QprefCommand : public testing::Test {
 protected:
@@ -37,7 +27,6 @@ protected:
     }
 
     FixtureHost host;
-    Document document;
     bool opened = false;
 };
 
@@ -55,7 +44,7 @@ TEST_F(QprefCommand, ReturnsAtOnceWithoutADocument) {
 }
 
 TEST_F(QprefCommand, ShowsAModalWindowNamedOptions) {
-    host.documents.current = &document;
+    host.openDocument();
     EXPECT_EQ(run([](Preferences& dialog) {
                   EXPECT_TRUE(dialog.isModal());
                   EXPECT_EQ(dialog.windowTitle(), "Options");
@@ -66,7 +55,7 @@ TEST_F(QprefCommand, ShowsAModalWindowNamedOptions) {
 }
 
 TEST_F(QprefCommand, AsksForAWindowWithACloseButtonAndNoMore) {
-    host.documents.current = &document;
+    host.openDocument();
     run([](Preferences& dialog) {
         const Qt::WindowFlags flags = dialog.windowFlags();
         EXPECT_EQ(int(flags & Qt::WindowType_Mask), int(Qt::Window));
@@ -78,7 +67,7 @@ TEST_F(QprefCommand, AsksForAWindowWithACloseButtonAndNoMore) {
 }
 
 TEST_F(QprefCommand, TakesTheFirstTopLevelWidgetAsParent) {
-    host.documents.current = &document;
+    host.openDocument();
     QWidget window;
     const QWidgetList before = QApplication::topLevelWidgets();
     run([&before](Preferences& dialog) {
@@ -89,7 +78,7 @@ TEST_F(QprefCommand, TakesTheFirstTopLevelWidgetAsParent) {
 }
 
 TEST_F(QprefCommand, HasNoParentWhenThereIsNoTopLevelWidget) {
-    host.documents.current = &document;
+    host.openDocument();
     ASSERT_TRUE(QApplication::topLevelWidgets().isEmpty());
     run([](Preferences& dialog) {
         EXPECT_EQ(dialog.parentWidget(), nullptr);
@@ -105,7 +94,7 @@ TEST_F(QprefCommand, NeverSetsItsStatus) {
 }
 
 TEST_F(QprefCommand, RunsAgainAfterTheDialogHasClosed) {
-    host.documents.current = &document;
+    host.openDocument();
     for (int i = 0; i < 2; ++i) {
         opened = false;
         run([](Preferences& dialog) { click(dialog, "okButton"); });
@@ -116,7 +105,7 @@ TEST_F(QprefCommand, RunsAgainAfterTheDialogHasClosed) {
 }
 
 TEST_F(QprefCommand, LetsAnExceptionOfTheHostEndTheDialogAndPass) {
-    host.documents.current = &document;
+    host.openDocument();
     optionTree(host).node("size").type(L"EditInt").set("Key", "GRIPSIZE").set("sysvar", 1);
     host.vars.set("GRIPSIZE", 3);
     EXPECT_THROW(run([this](Preferences& dialog) {

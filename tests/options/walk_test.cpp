@@ -466,7 +466,9 @@ TEST_F(OptionWalk, ForgetsARowThatGoesAwayWithAllBelowIt) {
     TreeItem* const group = itemOf(dialog, "group");
     dialog.forgetItem(group);
     delete group;
-    EXPECT_EQ(dialog.rowWidgets.keys(), QList<TreeItem*>({rootItem(dialog), itemOf(dialog, "stays")}));
+    EXPECT_EQ(dialog.rowWidgets.size(), 2);
+    EXPECT_TRUE(dialog.rowWidgets.contains(rootItem(dialog)));
+    EXPECT_TRUE(dialog.rowWidgets.contains(itemOf(dialog, "stays")));
     EXPECT_EQ(dialog.optionItems.size(), 2);
     EXPECT_TRUE(dialog.radioButtons.isEmpty());
     EXPECT_TRUE(dialog.radioLists.isEmpty());

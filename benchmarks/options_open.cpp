@@ -1,0 +1,179 @@
+// Opening the Options dialog up to its first paint, beside a plain loop that makes the same tree, rows and
+// editors with the same style sheets and knows nothing of option data. "ratio" compares the two within one
+// run.
+#include "options/preferences.h"
+#include "tests/options/option_tree_writer.h"
+#include "tests/support/fixture_host.h"
+#include "tests/support/test_application.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QElapsedTimer>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+#include <benchmark/benchmark.h>
+#include <malloc.h>
+
+namespace {
+
+const int kGroupSize = 20;
+const wchar_t* const kKinds[] = {L"Check", L"Edit", L"EditInt", L"EditReal", L"Combo", L"Color"};
+const int kKindCount = 6;
+
+QByteArray nameOf(const char* kind, int number) { return kind + QByteArray::number(number); }
+
+void writeOption(const OptionTreeWriter& node, int number) {
+    const wchar_t* const kind = kKinds[number % kKindCount];
+    node.set("Name", (L"Option row number " + std::to_wstring(number)).c_str());
+    node.set("Description", L"What this option does, told in a sentence of the usual length.");
+    node.type(kind).set("Key", nameOf("Key", number).constData());
+    if (number % kKindCount == 4)
+        for (const char* choice : {"first", "second", "third"})
+            node.node("Choices").set("Hidden", 1).node(choice).set("Name", L"A choice");
+}
+
+// Groups of options below the root; every group counts as a row too.
+void writeOptions(FixtureHost& host, int rows) {
+    const OptionTreeWriter tree(Ref<IParam>::take(host.config().openSection("PrefTree", 1)));
+    for (int i = 0; i < rows; i += kGroupSize) {
+        const OptionTreeWriter group = tree.node(nameOf("Group", i));
+        group.set("Image", 5).set("Section", "Bench").set("IFace", "IProfile");
+        for (int k = i + 1; k < std::min(rows, i + kGroupSize); ++k)
+            writeOption(group.node(nameOf("Option", k)), k);
+    }
+}
+
+QWidget* plainEditor(int kind, QWidget* parent) {
+    switch (kind) {
+    case 0:
+        return new QCheckBox(parent);
+    case 1:
+        return new QLineEdit(parent);
+    case 2:
+        return new QSpinBox(parent);
+    case 3:
+        return new QDoubleSpinBox(parent);
+    case 4: {
+        auto* const box = new QComboBox(parent);
+        box->setFixedWidth(200);
+        for (int i = 0; i < 3; ++i)
+            box->addItem("A choice");
+        return box;
+    }
+    default:
+        auto* const swatch = new QToolButton(parent);
+        swatch->setStyleSheet("background-color: #000000; border: 1px solid black; min-width: 12px; "
+                              "min-height: 12px; max-width: 12px; max-height: 12px;");
+        return swatch;
+    }
+}
+
+QWidget* plainRow(const QString& text, int kind, QWidget* parent) {
+    auto* row = new QWidget(parent);
+    row->setObjectName("QPrefWidget");
+    row->setStyleSheet("QWidget#QPrefWidget { background-color: transparent; }QWidget#QPrefWidget QLabel { "
+                       "background-color: transparent; } QWidget#QPrefWidget "
+                       "QCheckBox,QWidget#QPrefWidget QRadioButton {    background-color: transparent;    "
+                       "padding: 0px;    margin: 0px;    spacing: 5px;}");
+    auto* grid = new QGridLayout;
+    grid->setSpacing(5);
+    grid->setContentsMargins(0, 2, 0, 2);
+    auto* label = new QLabel(text, row);
+    label->setToolTip(text);
+    label->setStyleSheet("QToolTip { background-color: #ffffff;}");
+    label->setContextMenuPolicy(Qt::CustomContextMenu);
+    label->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
+    if (kind >= 0)
+        grid->addWidget(plainEditor(kind, parent), 0, kind == 0 || kind == 5 ? 0 : 1);
+    grid->addWidget(label, 0, kind == 0 || kind == 5 ? 1 : 0);
+    row->setLayout(grid);
+    return row;
+}
+
+// What anyone would write who wants such a window.
+class PlainWindow : public QDialog {
+public:
+    explicit PlainWindow(int rows) : tree(new QTreeWidget(this)) {
+        (new QVBoxLayout(this))->addWidget(tree);
+        tree->setHeaderHidden(true);
+        setMinimumSize(700, 650);
+        auto* root = new QTreeWidgetItem(tree);
+        tree->setItemWidget(root, 0, plainRow("Application preferences", -1, this));
+        root->setExpanded(true);
+        QTreeWidgetItem* group = root;
+        for (int i = 0; i < rows; ++i) {
+            const bool startsGroup = i % kGroupSize == 0;
+            auto* item = new QTreeWidgetItem(startsGroup ? root : group);
+            if (startsGroup)
+                group = item;
+            tree->setItemWidget(
+                item, 0,
+                plainRow(QString("Option row number %1").arg(i), startsGroup ? -1 : i % kKindCount, this));
+        }
+    }
+    QTreeWidget* tree;
+};
+
+class PaintWatch : public QObject {
+public:
+    bool eventFilter(QObject*, QEvent* event) override {
+        painted = painted || event->type() == QEvent::Paint;
+        return false;
+    }
+    bool painted = false;
+};
+
+struct Cost {
+    double seconds;
+    double bytes;
+};
+
+// Until the first paint of the tree; taking the window down again is not counted.
+template <class Window, class... Arguments> Cost open(Arguments... arguments) {
+    const std::size_t before = mallinfo2().uordblks;
+    QElapsedTimer timer;
+    timer.start();
+    Window window(arguments...);
+    PaintWatch watch;
+    window.tree->viewport()->installEventFilter(&watch);
+    window.show();
+    while (!watch.painted)
+        QCoreApplication::processEvents();
+    return {static_cast<double>(timer.nsecsElapsed()) / 1e9,
+            static_cast<double>(mallinfo2().uordblks - before)};
+}
+
+void openOptions(benchmark::State& state) {
+    const int rows = static_cast<int>(state.range(0));
+    FixtureHost host;
+    writeOptions(host, rows);
+    open<PlainWindow>(rows); // fonts and style are loaded for both
+    double plain = 0, options = 0, bytes = 0;
+    for (auto _ : state) {
+        plain += open<PlainWindow>(rows).seconds;
+        const Cost now = open<Preferences>(nullptr);
+        options += now.seconds;
+        bytes = now.bytes;
+        state.SetIterationTime(now.seconds);
+    }
+    state.counters["ratio"] = options / plain;
+    state.counters["us_per_row"] = options * 1e6 / rows / static_cast<double>(state.iterations());
+    state.counters["KiB_per_row"] = bytes / 1024 / rows;
+}
+
+BENCHMARK(openOptions)->Arg(300)->Arg(1000)->Arg(10000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    TestApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
