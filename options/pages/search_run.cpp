@@ -56,7 +56,7 @@ void SearchingLineEdit::runSearch(const QString& searchText) {
 void SearchingLineEdit::clearHighlights(const std::vector<SearchRow>& rows) {
     const SearchMark mark(highlightBackground, highlightForeground);
     for (const SearchRow& row : rows) {
-        if (!row.label)
+        if (!row.label || !row.label->text().contains('<')) // no mark is without one
             continue;
         QString cleared = row.label->text();
         mark.clear(cleared);

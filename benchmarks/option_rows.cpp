@@ -1,0 +1,167 @@
+// Building option rows up to the first paint, beside a plain loop that makes the same widgets with the same
+// style sheets in the order in which one writes them down. "ratio" compares the medians of the two within one
+// run.
+#include "options/pages/clickable_label.h"
+#include "options/pages/int_spin_box.h"
+#include "options/pages/line_edit.h"
+#include "options/pages/pref_widget.h"
+#include "options/tree_item.h"
+#include "tests/support/fixture_host.h"
+#include "tests/support/test_application.h"
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QGridLayout>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <ctime>
+#include <malloc.h>
+#include <vector>
+
+namespace {
+
+const int kGroupSize = 20;
+
+enum RowParent { DialogAsParent, ViewportAsParent };
+
+// A window with a tree: root, groups below it, rows below each group.
+class Window : public QDialog {
+public:
+    Window() : tree(new QTreeWidget(this)) {
+        (new QVBoxLayout(this))->addWidget(tree);
+        tree->setHeaderHidden(true);
+        resize(700, 650);
+    }
+
+    template <class MakeRow> void fill(int rows, MakeRow makeRow) {
+        TreeItem* root = new TreeItem(tree, QStringList("Options"));
+        root->setExpanded(true);
+        TreeItem* group = nullptr;
+        for (int i = 0; i < rows; ++i) {
+            const bool startsGroup = i % kGroupSize == 0;
+            TreeItem* item = startsGroup ? new TreeItem(root) : new TreeItem(group);
+            if (startsGroup)
+                group = item;
+            item->setText(0, QString("Option row number %1").arg(i));
+            tree->setItemWidget(item, 0, makeRow(item, startsGroup ? 0 : 1 + i % 3));
+        }
+    }
+
+    void paintFirst() {
+        show();
+        QCoreApplication::processEvents();
+        grab();
+    }
+
+    QTreeWidget* tree;
+};
+
+QWidget* plainRow(Window& window, TreeItem* item, int kind) {
+    const QString text = item->text(0).trimmed();
+    QWidget* editor = nullptr;
+    if (kind == 1)
+        editor = new QCheckBox(&window);
+    else if (kind == 2)
+        editor = new QLineEdit("text", &window);
+    else if (kind == 3)
+        editor = new QSpinBox(&window);
+    auto* row = new QWidget(&window);
+    row->setObjectName("QPrefWidget");
+    row->setStyleSheet("QWidget#QPrefWidget { background-color: transparent; }QWidget#QPrefWidget QLabel { "
+                       "background-color: "
+                       "transparent; } QWidget#QPrefWidget QCheckBox,QWidget#QPrefWidget QRadioButton {    "
+                       "background-color: "
+                       "transparent;    padding: 0px;    margin: 0px;    spacing: 5px;}");
+    auto* grid = new QGridLayout;
+    grid->setSpacing(5);
+    grid->setContentsMargins(0, 2, 0, 2);
+    auto* label = new QLabel(text, row);
+    label->setToolTip(text);
+    label->setStyleSheet("QToolTip { background-color: #ffffff;}");
+    label->setContextMenuPolicy(Qt::CustomContextMenu);
+    label->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
+    if (editor)
+        grid->addWidget(editor, 0, kind == 1 ? 0 : 1);
+    grid->addWidget(label, 0, kind == 1 ? 1 : 0);
+    row->setLayout(grid);
+    item->setText(0, QString());
+    return row;
+}
+
+QWidget* optionRow(Window& window, TreeItem* item, int kind, RowParent rowParent) {
+    QWidget* editor = nullptr;
+    if (kind == 1)
+        editor = new QCheckBox(&window);
+    else if (kind == 2)
+        editor = new LineEdit(item, window.tree, "text", &window);
+    else if (kind == 3)
+        editor = new IntSpinBox(item, window.tree, &window);
+    QWidget* parent = rowParent == DialogAsParent ? static_cast<QWidget*>(&window) : window.tree->viewport();
+    return new QPrefWidget(item, kind == 0 ? 2 : kind == 1 ? 0 : 1, editor, false, 1, parent);
+}
+
+// Everything runs on one thread. Its processor time is not disturbed by what else the machine does.
+double cpuSeconds() {
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+}
+
+struct Cost {
+    double seconds;
+    double bytes;
+};
+
+// Until the first paint; taking the window down again is not counted.
+template <class MakeRow> Cost open(int rows, MakeRow makeRow) {
+    const std::size_t before = mallinfo2().uordblks;
+    const double start = cpuSeconds();
+    Window window;
+    window.fill(rows, [&](TreeItem* item, int kind) { return makeRow(window, item, kind); });
+    window.paintFirst();
+    return {cpuSeconds() - start, static_cast<double>(mallinfo2().uordblks - before)};
+}
+
+double median(std::vector<double> times) {
+    std::nth_element(times.begin(), times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2),
+                     times.end());
+    return times[times.size() / 2];
+}
+
+void optionRows(benchmark::State& state, RowParent rowParent) {
+    const int rows = static_cast<int>(state.range(0));
+    FixtureHost host;
+    std::vector<double> plain, option;
+    double bytes = 0;
+    for (auto _ : state) {
+        plain.push_back(open(rows, plainRow).seconds);
+        const Cost cost = open(rows, [rowParent](Window& window, TreeItem* item, int kind) {
+            return optionRow(window, item, kind, rowParent);
+        });
+        option.push_back(cost.seconds);
+        bytes = cost.bytes;
+        state.SetIterationTime(cost.seconds);
+    }
+    state.counters["ratio"] = median(option) / median(plain);
+    state.counters["us_per_row"] = median(option) * 1e6 / rows;
+    state.counters["KiB_per_row"] = bytes / 1024 / rows;
+}
+
+void sizes(benchmark::internal::Benchmark* subject) {
+    subject->Arg(300)->Arg(1000)->Arg(10000)->UseManualTime()->MinTime(1)->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK_CAPTURE(optionRows, below_the_dialog, DialogAsParent)->Apply(sizes);
+BENCHMARK_CAPTURE(optionRows, below_the_viewport, ViewportAsParent)->Apply(sizes);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    TestApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
