@@ -95,7 +95,8 @@ bool FileStore::flush() {
 }
 
 bool FileStore::write(QString& reason) {
-    if (bytesOf(root) == base)
+    QByteArray bytes = bytesOf(root);
+    if (bytes == base)
         return true; // everything was set to what it was
     if (!QDir().mkpath(QFileInfo(files.user).path())) {
         reason = tr("its folder cannot be made");
@@ -106,9 +107,11 @@ bool FileStore::write(QString& reason) {
         reason = lockReason(lock);
         return false;
     }
-    if (!takeInOthers(reason))
+    bool merged = false;
+    if (!takeInOthers(merged, reason))
         return false;
-    const QByteArray bytes = bytesOf(root);
+    if (merged)
+        bytes = bytesOf(root);
     if (!writeWhole(io, files.user, bytes, reason))
         return false;
     known = base = bytes;
@@ -117,7 +120,7 @@ bool FileStore::write(QString& reason) {
 }
 
 // Looks at the file as it is now: nothing in it may be overwritten unseen.
-bool FileStore::takeInOthers(QString& reason) {
+bool FileStore::takeInOthers(bool& merged, QString& reason) {
     if (!QFileInfo::exists(files.user))
         return true;
     const auto bytes = readWhole(files.user, reason);
@@ -125,7 +128,8 @@ bool FileStore::takeInOthers(QString& reason) {
         return false;
     if (*bytes == known && !knownFaulty)
         return true;
-    return parsed(*bytes, files.user).clean() ? mergeOthers(*bytes, reason) : keepBroken(*bytes, reason);
+    merged = parsed(*bytes, files.user).clean();
+    return merged ? mergeOthers(*bytes, reason) : keepBroken(*bytes, reason);
 }
 
 bool FileStore::keepBroken(const QByteArray& bytes, QString& reason) {

@@ -32,7 +32,7 @@ private:
     bool loadFile(const QString& path);
     void noteChange();
     bool write(QString& reason);
-    bool takeInOthers(QString& reason);
+    bool takeInOthers(bool& merged, QString& reason);
     bool keepBroken(const QByteArray& bytes, QString& reason);
     bool mergeOthers(const QByteArray& bytes, QString& reason);
 
