@@ -309,6 +309,14 @@ TEST_F(Apply, EditAndEditRealChangeASystemVariable) {
     EXPECT_EQ(host.vars.value("SIZE")->getDouble(), 2.25);
 }
 
+TEST_F(Apply, TheTextOfAnEditIsTrimmedOnItsWayToTheStore) {
+    node("Edit").type(L"Edit").profile("S", "Edit");
+    open();
+    item("Edit")->textValue = "  as it came ";
+    apply();
+    EXPECT_EQ(storedText("S", "Edit"), "as it came");
+}
+
 TEST_F(Apply, AnUnknownStoreShowsTheDefaultAndIsNotWritten) {
     node("Int").type(L"EditInt").profile("S", "Int").set("IFace", "INowhere").set("Default", 9);
     open();
