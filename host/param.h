@@ -16,8 +16,8 @@ public:
 
 class IParam : public IKWUnknown {
 public:
-    // Each call that returns a pointer hands out one reference, or null. Where a name is taken it may be a
-    // path with '\' or the directory delimiter between its parts.
+    // Each call that returns a pointer hands out one reference, or null. The name of a section may be a path
+    // with '\' or the directory delimiter between its parts; the name of a value is plain.
     virtual IParam* createChild(const char* name) = 0;
     virtual IParam* openSection(const char* name, int create) = 0;
     virtual void removeEntry(const char* name) = 0; // a child section with all it holds; may be missing
