@@ -2,7 +2,6 @@
 #include "options/preferences.h"
 
 #include "host/app.h"
-#include "host/std_dirs.h"
 #include "host/text.h"
 #include "options/option_values.h"
 #include "options/pages/paper_page.h"
@@ -13,6 +12,7 @@
 
 #include <QComboBox>
 #include <QStringList>
+#include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
 namespace {

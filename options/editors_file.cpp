@@ -1,9 +1,6 @@
 // The line edit of one or several files, separated by semicolons.
 #include "options/preferences.h"
 
-#include "host/app.h"
-#include "host/qt_ui_core.h"
-#include "host/std_dirs.h"
 #include "host/text.h"
 #include "options/editor_parts.h"
 #include "options/file_filters.h"
@@ -12,6 +9,7 @@
 
 #include <QAction>
 #include <QFileDialog>
+#include <QFileInfo>
 
 namespace {
 
