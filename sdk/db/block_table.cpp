@@ -1,0 +1,199 @@
+#include "sdk/db/block_table.h"
+
+#include "sdk/db/database_impl.h"
+
+#include <algorithm>
+
+ODRX_DEFINE_CLASS_WITH_MAKER(OdDbBlockTableRecord, OdDbSymbolTableRecord)
+ODRX_DEFINE_CLASS_WITH_MAKER(OdDbBlockTable, OdDbSymbolTable)
+ODRX_DEFINE_CLASS_WITH_MAKER(OdDbBlockBegin, OdDbEntity)
+ODRX_DEFINE_CLASS_WITH_MAKER(OdDbBlockEnd, OdDbEntity)
+
+namespace {
+
+constexpr std::string_view kRecord = "AcDbBlockTableRecord";
+constexpr std::string_view kBegin = "AcDbBlockBegin";
+constexpr int kName = 2;
+constexpr int kOtherName = 3;
+constexpr int kFlags = 70;
+constexpr int kUnits = 70;
+constexpr int kPath = 1;
+constexpr int kBase = 10;
+constexpr int kPaperSpaceFlag = 67;
+
+OdDbEntityPtr beginOf(const OdDbBlockTableRecord& record, OdDb::OpenMode mode = OdDb::kForRead) {
+    return odrxQuery<OdDbEntity>(record.blockBeginId().openObject(mode, true).get());
+}
+
+bool isLayoutName(const OdString& name) {
+    const std::wstring folded = odDbFoldedName(name);
+    return folded.find(L"model_space") == 1 || folded.find(L"paper_space") == 1;
+}
+
+} // namespace
+
+OdDbEntityPtr OdDbObjectIterator::entity(OdDb::OpenMode mode) const {
+    return odrxCast<OdDbEntity>(objectId().openObject(mode));
+}
+
+OdDbBlockBegin::OdDbBlockBegin() {
+    startEntity("BLOCK", kBegin);
+    content.append(kName, "");
+    content.append(kFlags, "0");
+    content.setPoint(kBegin, kBase, {});
+    content.append(kOtherName, "");
+    content.append(kPath, "");
+}
+
+OdDbBlockEnd::OdDbBlockEnd() { startEntity("ENDBLK", "AcDbBlockEnd"); }
+
+OdDbBlockTableRecord::OdDbBlockTableRecord() {
+    startTags("BLOCK_RECORD");
+    content.append(100, "AcDbSymbolTableRecord");
+    content.append(100, kRecord);
+    content.append(kName, "");
+}
+
+OdDbObjectId OdDbBlockTableRecord::blockBeginId() const {
+    if (!database())
+        return {};
+    const auto& blocks = database()->impl().blocks;
+    const auto found = blocks.find(objectId().getStub());
+    return found == blocks.end() ? OdDbObjectId() : OdDbObjectId(found->second.begin);
+}
+
+void OdDbBlockTableRecord::setName(const OdString& name) {
+    OdDbSymbolTableRecord::setName(name);
+    const OdDbEntityPtr begin = beginOf(*this, OdDb::kForWrite);
+    if (begin.isNull())
+        return;
+    begin->setTextValue(kBegin, kName, name);
+    begin->setTextValue(kBegin, kOtherName, name);
+}
+
+OdGePoint3d OdDbBlockTableRecord::origin() const {
+    const OdDbEntityPtr begin = beginOf(*this);
+    return begin.isNull() ? OdGePoint3d() : begin->tags().point(begin->tags().subclass(kBegin), kBase);
+}
+
+void OdDbBlockTableRecord::setOrigin(const OdGePoint3d& point) {
+    assertWriteEnabled();
+    beginOf(*this, OdDb::kForWrite)->edit().setPoint(kBegin, kBase, point);
+}
+
+OdString OdDbBlockTableRecord::pathName() const {
+    const OdDbEntityPtr begin = beginOf(*this);
+    return begin.isNull() ? OdString() : begin->textValue(kBegin, kPath);
+}
+
+void OdDbBlockTableRecord::setPathName(const OdString& path) {
+    assertWriteEnabled();
+    beginOf(*this, OdDb::kForWrite)->setTextValue(kBegin, kPath, path);
+}
+
+int OdDbBlockTableRecord::blockFlags() const {
+    const OdDbEntityPtr begin = beginOf(*this);
+    return begin.isNull() ? 0
+                          : static_cast<int>(begin->tags().integer(begin->tags().subclass(kBegin), kFlags));
+}
+
+void OdDbBlockTableRecord::setBlockFlags(int flags) {
+    assertWriteEnabled();
+    beginOf(*this, OdDb::kForWrite)->edit().set(kBegin, kFlags, dxfText(std::int64_t{flags}));
+}
+
+OdDb::UnitsValue OdDbBlockTableRecord::blockInsertUnits() const {
+    return static_cast<OdDb::UnitsValue>(content.integer(content.subclass(kRecord), kUnits));
+}
+
+void OdDbBlockTableRecord::setBlockInsertUnits(OdDb::UnitsValue units) {
+    if (units != blockInsertUnits())
+        edit().set(kRecord, kUnits, dxfText(std::int64_t{units}));
+}
+
+bool OdDbBlockTableRecord::isAnonymous() const { return blockFlags() & kAnonymous; }
+
+bool OdDbBlockTableRecord::isLayout() const { return isLayoutName(getName()); }
+
+bool OdDbBlockTableRecord::isFromExternalReference() const { return blockFlags() & (kXref | kOverlay); }
+
+bool OdDbBlockTableRecord::isFromOverlayReference() const { return blockFlags() & kOverlay; }
+
+OdDbDatabasePtr OdDbBlockTableRecord::xrefDatabase(bool) const {
+    return database() ? database()->impl().blocks[objectId().getStub()].xrefDatabase : OdDbDatabasePtr();
+}
+
+OdDbObjectId OdDbBlockTableRecord::appendOdDbEntity(OdDbEntity* entity) {
+    if (!isWriteEnabled())
+        throw OdError(eNotOpenForWrite);
+    if (!database())
+        throw OdError(eNotInDatabase);
+    database()->impl().appendEntity(*objectId().getStub(), *entity);
+    if (odDbFoldedName(getName()).find(L"paper_space") == 1)
+        entity->edit().set("AcDbEntity", kPaperSpaceFlag, "1");
+    return entity->objectId();
+}
+
+OdDbObjectIdArray OdDbBlockTableRecord::entityIds() const {
+    OdDbObjectIdArray ids;
+    if (!database())
+        return ids;
+    for (OdDbStub* stub : database()->impl().blocks[objectId().getStub()].entities)
+        if (!stub->has(OdDbStub::kErased))
+            ids.emplace_back(stub);
+    return ids;
+}
+
+OdDbObjectIterator OdDbBlockTableRecord::newIterator() const { return OdDbObjectIterator(entityIds()); }
+
+OdGeExtents3d OdDbBlockTableRecord::extents() const {
+    if (!database())
+        return {};
+    OdDbDatabaseImpl& impl = database()->impl();
+    OdDbBlockContent& block = impl.blocks[objectId().getStub()];
+    if (block.extentsChange == impl.changeCount || block.measuring)
+        return block.measuring ? OdGeExtents3d() : block.extents;
+    block.measuring = true;
+    OdGeExtents3d found;
+    for (OdDbStub* stub : block.entities) {
+        const auto entity = odrxQuery<OdDbEntity>(OdDbObjectId(stub).openObject().get());
+        if (!entity.isNull())
+            entity->addExtents(found, OdGeMatrix3d::kIdentity);
+    }
+    block.measuring = false;
+    block.extents = found;
+    block.extentsChange = impl.changeCount;
+    return found;
+}
+
+void OdDbBlockTableRecord::erase(bool erasing) {
+    if (isLayout())
+        throw OdError(eInvalidInput, L"A layout can't be erased");
+    OdDbSymbolTableRecord::erase(erasing);
+    if (!database())
+        return;
+    OdDbDatabaseImpl& impl = database()->impl();
+    const OdDbBlockContent& block = impl.blocks[objectId().getStub()];
+    std::vector<OdDbStub*> parts = block.entities;
+    for (OdDbStub* part : {block.begin, block.end})
+        if (part)
+            parts.push_back(part);
+    for (OdDbStub* part : parts)
+        if (part->has(OdDbStub::kErased) != erasing)
+            impl.setErased(*part, erasing);
+}
+
+OdDbObjectId OdDbBlockTable::add(OdDbSymbolTableRecord* record) {
+    const OdDbObjectId id = OdDbSymbolTable::add(record);
+    OdDbDatabaseImpl& impl = database()->impl();
+    OdSmartPtr<OdDbBlockBegin> begin(new OdDbBlockBegin);
+    begin->setTextValue(kBegin, kName, record->getName());
+    begin->setTextValue(kBegin, kOtherName, record->getName());
+    OdSmartPtr<OdDbBlockEnd> end(new OdDbBlockEnd);
+    OdDbBlockContent& block = impl.blocks[id.getStub()];
+    block.begin = &impl.add(*begin, id.getStub());
+    block.end = &impl.add(*end, id.getStub());
+    if (impl.version < kVersionR13)
+        id.getStub()->set(OdDbStub::kUnwritten, true);
+    return id;
+}

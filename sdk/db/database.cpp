@@ -1,0 +1,161 @@
+#include "sdk/db/database.h"
+
+#include "sdk/db/block_table.h"
+#include "sdk/db/database_impl.h"
+#include "sdk/db/dictionary.h"
+#include "sdk/db/drawing_reader.h"
+#include "sdk/db/drawing_writer.h"
+#include "sdk/db/empty_drawing.h"
+#include "sdk/db/layer_table.h"
+#include "sdk/db/save_stamp.h"
+#include "sdk/dxf/file_bytes.h"
+
+#include <algorithm>
+
+ODRX_DEFINE_CLASS(OdDbDatabase, OdRxObject)
+
+OdDbDatabase::OdDbDatabase() : parts(std::make_unique<OdDbDatabaseImpl>(*this)) {
+    OdResBufPtr pickStyle = OdResBuf::newRb(OdResBuf::kDxfInt8);
+    pickStyle->setInt8(1);
+    parts->sessionVariables[L"PICKSTYLE"] = pickStyle;
+}
+
+OdDbDatabase::~OdDbDatabase() = default;
+
+OdDbDatabasePtr OdDbDatabase::createEmpty() {
+    OdDbDatabasePtr database = readBytes(odDbEmptyDrawingText(), L"new drawing");
+    odDbStampCreation(*database);
+    return database;
+}
+
+OdDbDatabasePtr OdDbDatabase::readBytes(std::string bytes, const OdString& name) {
+    OdDbDatabasePtr database(new OdDbDatabase);
+    OdDbDrawingReader(*database->parts, name).read(std::move(bytes));
+    // Loaded at once, so that the numbers of its anonymous groups are taken.
+    const auto groups = odrxQuery<OdDbDictionary>(database->getGroupDictionaryId().openObject().get());
+    if (!groups.isNull())
+        groups->numEntries();
+    return database;
+}
+
+OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path) {
+    OdDbDatabasePtr database = readBytes(dxfReadFile(path), path);
+    database->parts->filename = path;
+    return database;
+}
+
+const std::vector<OdString>& OdDbDatabase::readWarnings() const { return parts->warnings; }
+
+void OdDbDatabase::writeFile(const OdString& path) {
+    if (isModified())
+        odDbStampSave(*this);
+    OdDbDrawingWriter writer(*parts);
+    dxfWriteFile(path, writer.pieces());
+    parts->filename = path;
+    parts->savedState = parts->log.state();
+    parts->headerSaved();
+}
+
+std::string OdDbDatabase::writeBytes() const {
+    OdDbDrawingWriter writer(*parts);
+    std::string bytes;
+    for (const std::string_view piece : writer.pieces())
+        bytes += piece;
+    return bytes;
+}
+
+OdString OdDbDatabase::getFilename() const { return parts->filename; }
+void OdDbDatabase::setFilename(const OdString& path) { parts->filename = path; }
+OdString OdDbDatabase::versionName() const {
+    return OdString(L"AC") + OdString(std::to_wstring(parts->version));
+}
+
+bool OdDbDatabase::isModified() const {
+    return parts->log.state() != parts->savedState || parts->headerModified;
+}
+
+namespace {
+
+// The viewport with number 1, which stands for the layout itself.
+OdDbObjectId layoutViewport(OdDbObjectId space) {
+    const auto block = odrxCast<OdDbBlockTableRecord>(space.safeOpenObject());
+    for (OdDbObjectIterator it = block->newIterator(); !it.done(); it.step()) {
+        const auto viewport = odrxQuery<OdDbViewport>(it.entity().get());
+        if (!viewport.isNull() && viewport->number() == 1)
+            return it.objectId();
+    }
+    return {};
+}
+
+OdDbObjectId tableId(const OdDbDatabaseImpl& impl, const char* name) {
+    return OdDbObjectId(impl.tables.at(name).record);
+}
+
+} // namespace
+
+OdDbObjectId OdDbDatabase::getBlockTableId() const { return tableId(*parts, "BLOCK_RECORD"); }
+OdDbObjectId OdDbDatabase::getLayerTableId() const { return tableId(*parts, "LAYER"); }
+OdDbObjectId OdDbDatabase::getLinetypeTableId() const { return tableId(*parts, "LTYPE"); }
+OdDbObjectId OdDbDatabase::getTextStyleTableId() const { return tableId(*parts, "STYLE"); }
+OdDbObjectId OdDbDatabase::getViewportTableId() const { return tableId(*parts, "VPORT"); }
+OdDbObjectId OdDbDatabase::getModelSpaceId() const { return OdDbObjectId(parts->modelSpace); }
+OdDbObjectId OdDbDatabase::getPaperSpaceId() const { return OdDbObjectId(parts->paperSpace); }
+
+OdDbObjectId OdDbDatabase::getNamedObjectsDictionaryId() const {
+    if (!parts->rootDictionary) {
+        OdDbDictionaryPtr root(new OdDbDictionary);
+        parts->rootDictionary = &parts->addUnwritten(*root, nullptr);
+    }
+    return OdDbObjectId(parts->rootDictionary);
+}
+
+OdDbObjectId OdDbDatabase::getGroupDictionaryId(bool createIfNotFound) {
+    constexpr const wchar_t* key = L"ACAD_GROUP";
+    const auto root = odrxCast<OdDbDictionary>(getNamedObjectsDictionaryId().safeOpenObject());
+    const OdDbObjectId id = root->getAt(key);
+    if (id.isValid() || !createIfNotFound)
+        return id;
+    const bool wasWritable = root->isWriteEnabled();
+    root->upgradeOpen();
+    OdDbDictionaryPtr groups(new OdDbDictionary);
+    const OdDbObjectId created = root->setAt(key, groups.get());
+    if (!wasWritable)
+        root->downgradeOpen();
+    return created;
+}
+
+OdDbObjectId OdDbDatabase::currentSpaceId() const {
+    const bool inModelSpace = parts->header.integer("$TILEMODE", 1) != 0;
+    return inModelSpace ? getModelSpaceId() : getPaperSpaceId();
+}
+
+OdDbObjectId OdDbDatabase::activeViewportId() const {
+    if (parts->activeViewport && !parts->activeViewport->has(OdDbStub::kErased))
+        return OdDbObjectId(parts->activeViewport);
+    const OdDbObjectId space = currentSpaceId();
+    if (space == getModelSpaceId()) {
+        const auto& viewports = parts->tables.at("VPORT").entries;
+        return viewports.empty() ? OdDbObjectId() : OdDbObjectId(viewports.front());
+    }
+    return layoutViewport(space);
+}
+
+void OdDbDatabase::setActiveViewportId(OdDbObjectId id) { parts->activeViewport = id.getStub(); }
+
+OdDbObjectId OdDbDatabase::getOdDbObjectId(OdDbHandle handle) const {
+    OdDbStub* stub = parts->handles.find(handle.number());
+    return stub && !stub->has(OdDbStub::kStructure) ? OdDbObjectId(stub) : OdDbObjectId();
+}
+
+OdDbObjectId OdDbDatabase::addOdDbObject(OdDbObject* object, OdDbObjectId owner) {
+    return OdDbObjectId(&parts->add(*object, owner.getStub()));
+}
+
+OdFileDependencyManager* OdDbDatabase::fileDependencyManager() { return &parts->dependencies; }
+
+void OdDbDatabase::addReactor(OdDbDatabaseReactor* reactor) { parts->reactors.push_back(reactor); }
+
+void OdDbDatabase::removeReactor(OdDbDatabaseReactor* reactor) {
+    auto& list = parts->reactors;
+    list.erase(std::remove(list.begin(), list.end(), reactor), list.end());
+}

@@ -1,0 +1,231 @@
+#include "sdk/db/database_impl.h"
+
+#include "sdk/db/class_registry.h"
+#include "sdk/db/symbol_table.h"
+
+#include <QString>
+#include <algorithm>
+
+std::wstring odDbFoldedName(const OdString& name) {
+    return QString::fromStdWString(name.wide()).toCaseFolded().toStdWString();
+}
+
+// The tags of an object before a change.
+class OdDbImageChange : public OdDbChange {
+public:
+    explicit OdDbImageChange(OdDbObject& changed) : stub(*changed.ownStub), image(changed.content) {}
+    void swap() override {
+        std::swap(stub.object->content, image);
+        stub.object->contentReplaced();
+        ++stub.database->impl().changeCount;
+        stub.database->impl().notify(
+            [this](OdDbDatabaseReactor& reactor) { reactor.objectModified(OdDbObjectId(&stub)); });
+    }
+
+private:
+    OdDbStub& stub;
+    DxfTagList image;
+};
+
+namespace {
+
+class EraseChange : public OdDbChange {
+public:
+    explicit EraseChange(OdDbStub& changed) : stub(changed) {}
+    void swap() override { stub.database->impl().applyErased(stub, !stub.has(OdDbStub::kErased)); }
+
+private:
+    OdDbStub& stub;
+};
+
+// An entity at the end of its block's list: taken off and put back there.
+class AppendChange : public OdDbChange {
+public:
+    AppendChange(std::vector<OdDbStub*>& changed, OdDbStub& appended) : list(changed), stub(appended) {}
+    void swap() override {
+        if (!list.empty() && list.back() == &stub)
+            list.pop_back();
+        else
+            list.push_back(&stub);
+    }
+
+private:
+    std::vector<OdDbStub*>& list;
+    OdDbStub& stub;
+};
+
+class XrefChange : public OdDbChange {
+public:
+    XrefChange(OdDbBlockContent& changed, OdDbDatabasePtr former)
+        : content(changed), other(std::move(former)) {}
+    void swap() override { std::swap(content.xrefDatabase, other); }
+
+private:
+    OdDbBlockContent& content;
+    OdDbDatabasePtr other;
+};
+
+bool isPlainText(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+} // namespace
+
+OdDbDatabaseImpl::~OdDbDatabaseImpl() {
+    for (std::size_t i = 0; i < stubs.size(); ++i) {
+        OdDbObject* object = stubs[i].object;
+        if (!object)
+            continue;
+        object->ownStub = nullptr;
+        if (object->references == 0)
+            delete object;
+    }
+}
+
+std::uint16_t OdDbDatabaseImpl::typeNumber(std::string_view name) {
+    const auto [found, isNew] =
+        typeNumbers.try_emplace(std::string(name), static_cast<std::uint16_t>(typeNames.size()));
+    if (isNew && typeNames.size() >= 65535)
+        throw OdError(eInvalidDrawing, L"more than 65535 kinds of objects");
+    if (isNew)
+        typeNames.emplace_back(name);
+    return found->second;
+}
+
+OdRxClass* OdDbDatabaseImpl::classOf(const OdDbStub& stub) const {
+    return odDbClassForDxfName(typeName(stub), stub.has(OdDbStub::kEntity));
+}
+
+OdDbObjectPtr OdDbDatabaseImpl::load(OdDbStub& stub) {
+    if (!stub.object) {
+        OdDbObjectPtr made(static_cast<OdDbObject*>(classOf(stub)->create().detach()), kOdRxObjAttach);
+        made->content = DxfTagList::parse(stub.bytes(), source, carriageReturns);
+        made->ownStub = &stub;
+        stub.object = made.get();
+        return made;
+    }
+    return OdDbObjectPtr(stub.object);
+}
+
+void OdDbDatabaseImpl::attach(OdDbObject& object, OdDbStub& stub) {
+    if (object.ownStub)
+        throw OdError(eAlreadyInDb);
+    stub.database = &self;
+    stub.type = typeNumber(object.content[0].value());
+    stub.set(OdDbStub::kChanged, true);
+    stub.set(OdDbStub::kEntity, object.isKindOf(odDbEntityClass()));
+    stub.object = &object;
+    stub.handle = nextHandle++;
+    handles.insert(&stub);
+    adaptTags(object, stub);
+    object.ownStub = &stub;
+    object.writable = true;
+    object.contentReplaced();
+    object.enteredDatabase();
+}
+
+// Gives the tags of a new object its handle and owner, and the line ends, code page and markers of the file.
+void OdDbDatabaseImpl::adaptTags(OdDbObject& object, const OdDbStub& stub) {
+    static const DxfCodec unicode;
+    DxfTagList tags;
+    tags.restyle(carriageReturns);
+    tags.append(0, object.content[0].value());
+    if (fileHasHandles)
+        tags.append(typeName(stub) == "DIMSTYLE" ? 105 : 5, dxfHandleText(stub.handle));
+    if (hasSubclassMarkers())
+        tags.append(330, dxfHandleText(stub.owner ? stub.owner->handle : 0));
+    for (std::size_t i = 1; i < object.content.size(); ++i) {
+        const DxfTag& tag = object.content[i];
+        if (tag.code == 100 && !hasSubclassMarkers())
+            continue;
+        if (isPlainText(tag.value()))
+            tags.append(tag.code, tag.value());
+        else
+            tags.append(tag.code, codec.encode(unicode.decode(tag.value())));
+    }
+    object.content = std::move(tags);
+}
+
+OdDbStub& OdDbDatabaseImpl::add(OdDbObject& object, OdDbStub* owner) {
+    if (object.ownStub)
+        throw OdError(eAlreadyInDb);
+    OdDbStub& stub = stubs.add();
+    stub.owner = owner;
+    attach(object, stub);
+    stub.set(OdDbStub::kErased, true);
+    ++erasures;
+    log.record(std::make_unique<EraseChange>(stub));
+    applyErased(stub, false);
+    return stub;
+}
+
+OdDbStub& OdDbDatabaseImpl::addUnwritten(OdDbObject& object, OdDbStub* owner) {
+    OdDbStub& stub = stubs.add();
+    stub.owner = owner;
+    attach(object, stub);
+    stub.set(OdDbStub::kUnwritten, true);
+    return stub;
+}
+
+OdDbStub& OdDbDatabaseImpl::addMissing(OdDbObject& object, std::string_view dxfName, std::string_view name,
+                                       std::string_view typeTitle) {
+    object.startTags(dxfName);
+    object.content.append(2, name);
+    object.content.append(100, "AcDbSymbolTable");
+    object.content.append(70, "0");
+    OdDbStub& stub = addUnwritten(object, nullptr);
+    stub.type = typeNumber(typeTitle);
+    return stub;
+}
+
+void OdDbDatabaseImpl::appendEntity(OdDbStub& block, OdDbObject& entity) {
+    OdDbStub& stub = add(entity, &block);
+    std::vector<OdDbStub*>& list = blocks[&block].entities;
+    log.record(std::make_unique<AppendChange>(list, stub));
+    list.push_back(&stub);
+}
+
+void OdDbDatabaseImpl::rememberImage(OdDbObject& object) {
+    ++changeCount;
+    OdDbStub& stub = *object.ownStub;
+    notify([&stub](OdDbDatabaseReactor& reactor) { reactor.objectModified(OdDbObjectId(&stub)); });
+    if (stub.imageEpoch == log.epoch())
+        return;
+    stub.set(OdDbStub::kChanged, true);
+    stub.imageEpoch = log.epoch();
+    log.record(std::make_unique<OdDbImageChange>(object));
+}
+
+void OdDbDatabaseImpl::setErased(OdDbStub& stub, bool erased) {
+    log.record(std::make_unique<EraseChange>(stub));
+    applyErased(stub, erased);
+}
+
+void OdDbDatabaseImpl::applyErased(OdDbStub& stub, bool erased) {
+    stub.set(OdDbStub::kErased, erased);
+    erased ? ++erasures : --erasures;
+    ++changeCount;
+    forgetNames(stub.owner);
+    notify([&stub, erased](OdDbDatabaseReactor& reactor) {
+        erased ? reactor.objectErased(OdDbObjectId(&stub)) : reactor.objectAppended(OdDbObjectId(&stub));
+    });
+}
+
+void OdDbDatabaseImpl::setXrefDatabase(OdDbStub& block, OdDbDatabasePtr loaded) {
+    OdDbBlockContent& content = blocks[&block];
+    std::swap(content.xrefDatabase, loaded);
+    log.record(std::make_unique<XrefChange>(content, std::move(loaded)));
+}
+
+OdDbTableContent& OdDbDatabaseImpl::tableOf(const OdDbStub& table) {
+    for (auto& [name, content] : tables)
+        if (content.record == &table)
+            return content;
+    throw OdError(eKeyNotFound);
+}
+
+void OdDbDatabaseImpl::forgetNames(const OdDbStub* table) {
+    for (auto& [name, content] : tables)
+        if (content.record == table)
+            content.byName.clear();
+}

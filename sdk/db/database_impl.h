@@ -1,0 +1,126 @@
+// The inside of a database, for the files of this folder.
+#pragma once
+
+#include "sdk/db/change_log.h"
+#include "sdk/db/database.h"
+#include "sdk/db/file_dependency.h"
+#include "sdk/db/header.h"
+#include "sdk/db/object.h"
+#include "sdk/db/reactor.h"
+#include "sdk/db/stub.h"
+#include "sdk/dxf/codec.h"
+
+#include <chrono>
+#include <map>
+#include <optional>
+#include <unordered_map>
+
+constexpr int kVersionR12 = 1009;
+constexpr int kVersionR13 = 1012;
+constexpr int kVersionR2000 = 1015;
+constexpr int kVersionR2004 = 1018;
+constexpr int kVersionR2007 = 1021; // texts are UTF-8 from here on
+constexpr int kVersionNewest = 1032;
+
+struct OdDbBlockContent {
+    OdDbStub* begin = nullptr; // BLOCK; null while the block has none
+    OdDbStub* end = nullptr;   // ENDBLK
+    std::vector<OdDbStub*> entities;
+    OdDbDatabasePtr xrefDatabase;
+    OdGeExtents3d extents; // true while extentsChange is the database's changeCount
+    std::uint64_t extentsChange = static_cast<std::uint64_t>(-1);
+    bool measuring = false;
+};
+
+struct OdDbTableContent {
+    OdDbStub* record = nullptr;
+    OdDbStub* end = nullptr; // ENDTAB
+    std::vector<OdDbStub*> entries;
+    std::unordered_map<std::wstring, OdDbStub*> byName; // empty until somebody looks for a name
+};
+
+struct OdDbSection {
+    OdDbStub* begin = nullptr;
+    OdDbStub* end = nullptr;
+};
+
+// Names are equal when this is.
+std::wstring odDbFoldedName(const OdString& name);
+
+class OdDbDatabaseImpl {
+public:
+    explicit OdDbDatabaseImpl(OdDbDatabase& database) : self(database) {}
+    ~OdDbDatabaseImpl();
+
+    OdDbDatabase& self;
+    std::shared_ptr<const std::string> source;
+    bool carriageReturns = false;
+    bool fileHasHandles = true;
+    DxfCodec codec;
+    int version = kVersionR12;
+    OdString filename;
+    std::vector<OdString> warnings;
+    OdDbHeader header;
+    std::size_t headerStart = 0; // of the first variable in the header section's record
+    OdDbChangeLog log;
+    std::uint64_t savedState = 0;
+    bool headerModified = false;           // a header value was set since the last save
+    std::optional<std::string> newPreview; // bitmap set since the drawing was read
+    void headerSaved() { headerModified = false; }
+    OdFileDependencyManager dependencies;
+    std::map<std::wstring, OdResBufPtr> sessionVariables;
+    std::chrono::steady_clock::time_point openedAt = std::chrono::steady_clock::now();
+    std::vector<OdDbDatabaseReactor*> reactors;
+    OdDbStub* activeViewport = nullptr;
+
+    OdDbStubStore stubs;
+    std::size_t fileStubCount = 0;
+    OdDbHandleMap handles;
+    std::uint64_t nextHandle = 1;
+    std::uint64_t fileNextHandle = 0; // what the file itself says, or at least allows
+    std::map<std::string, OdDbSection> sections;
+    std::map<std::string, OdDbTableContent> tables;
+    std::unordered_map<const OdDbStub*, OdDbBlockContent> blocks;
+    std::unordered_map<const OdDbStub*, std::vector<OdDbStub*>> newSubEntities;
+    OdDbStub* rootDictionary = nullptr;
+    OdDbStub* modelSpace = nullptr;
+    OdDbStub* paperSpace = nullptr;
+    std::size_t erasures = 0;      // objects that are erased now
+    std::uint64_t changeCount = 0; // grows with every change, undo and abort included
+
+    std::uint16_t typeNumber(std::string_view name);
+    const std::string& typeName(const OdDbStub& stub) const { return typeNames[stub.type]; }
+    bool hasTypeName(std::uint16_t number, std::string_view name) const {
+        return number < typeNames.size() && typeNames[number] == name;
+    }
+    OdRxClass* classOf(const OdDbStub& stub) const;
+    OdDbObjectPtr load(OdDbStub& stub);
+    bool hasSubclassMarkers() const { return version >= kVersionR13; }
+
+    // Gives a new object its stub and handle, and has the creation undone on undo and abort.
+    OdDbStub& add(OdDbObject& object, OdDbStub* owner);
+    // The same for one that stands for something the file's version doesn't write; never undone.
+    OdDbStub& addUnwritten(OdDbObject& object, OdDbStub* owner);
+    // A table that the file lacks.
+    OdDbStub& addMissing(OdDbObject& object, std::string_view dxfName, std::string_view name,
+                         std::string_view typeTitle);
+    void appendEntity(OdDbStub& block, OdDbObject& entity);
+    void rememberImage(OdDbObject& object);
+    void setErased(OdDbStub& stub, bool erased); // recorded
+    void applyErased(OdDbStub& stub, bool erased);
+    void setXrefDatabase(OdDbStub& block, OdDbDatabasePtr loaded); // recorded
+    OdDbTableContent& tableOf(const OdDbStub& table);
+    void forgetNames(const OdDbStub* table);
+
+    template <class Call> void notify(Call call) {
+        const std::vector<OdDbDatabaseReactor*> present = reactors;
+        for (OdDbDatabaseReactor* reactor : present)
+            call(*reactor);
+    }
+
+private:
+    void attach(OdDbObject& object, OdDbStub& stub);
+    void adaptTags(OdDbObject& object, const OdDbStub& stub);
+    std::vector<std::string> typeNames;
+    std::unordered_map<std::string, std::uint16_t> typeNumbers;
+};

@@ -1,0 +1,130 @@
+// The second half of reading a drawing: header, handles and the ties between records, once all are found.
+#include "sdk/db/drawing_reader.h"
+
+#include "sdk/db/block_table.h"
+#include "sdk/db/class_registry.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr const wchar_t* kModelSpace = L"*Model_Space";
+constexpr const wchar_t* kPaperSpace = L"*Paper_Space";
+constexpr const char* kStandardTables[] = {"VPORT", "LTYPE", "LAYER",    "STYLE",       "VIEW",
+                                           "UCS",   "APPID", "DIMSTYLE", "BLOCK_RECORD"};
+
+bool isSpaceName(const OdString& name, const wchar_t* space) {
+    const std::wstring folded = odDbFoldedName(name), wanted = odDbFoldedName(space);
+    return folded == wanted || folded == L"$" + wanted.substr(1); // as the oldest versions write it
+}
+
+} // namespace
+
+void OdDbDrawingReader::readHeader() {
+    const auto found = impl.sections.find("HEADER");
+    if (found == impl.sections.end())
+        return;
+    // The first two tags open the section.
+    const std::string_view bytes = found->second.begin->bytes();
+    DxfScanner scanner(bytes);
+    DxfTag tag;
+    bool opened = false;
+    while (scanner.next(tag) && !(opened && tag.code == 9))
+        opened = opened || (tag.code == 2 && dxfTrimmed(tag.value()) == "HEADER");
+    const char* start = tag.code == 9 ? tag.raw : bytes.data() + bytes.size();
+    impl.headerStart = static_cast<std::size_t>(start - bytes.data());
+    impl.header.parse(bytes.substr(impl.headerStart), impl.source, impl.carriageReturns);
+}
+
+void OdDbDrawingReader::readVersion() {
+    const std::string_view name = dxfTrimmed(impl.header.value("$ACADVER", "AC1009"));
+    const int number = name.substr(0, 2) == "AC" ? static_cast<int>(dxfInteger(name.substr(2))) : 0;
+    if (number > kVersionNewest || number <= 0)
+        throw OdError(eUnsupportedFileFormat, fileName + OdString(L": drawings of the version ") +
+                                                  OdString(std::string(name).c_str(), CP_UTF8) +
+                                                  OdString(L" are not supported"));
+    impl.version = std::max(number, 1000);
+    const std::string_view page = dxfTrimmed(impl.header.value("$DWGCODEPAGE", "ANSI_1252"));
+    bool known = true;
+    impl.codec = impl.version >= kVersionR2007 ? DxfCodec() : DxfCodec::forCodePage(page, &known);
+    if (!known)
+        impl.warnings.push_back(OdString(L"the code page ") + OdString(std::string(page).c_str(), CP_UTF8) +
+                                OdString(L" is not known: texts are read as western"));
+}
+
+// Records without a handle of their own get one that the file doesn't use.
+void OdDbDrawingReader::numberTheRest() {
+    constexpr std::uint64_t highestSeed = std::uint64_t{1} << 60;
+    const std::uint64_t seed = dxfHandle(impl.header.value("$HANDSEED", "0"));
+    impl.fileHasHandles = impl.version >= kVersionR13 || impl.handles.highest() > 0;
+    impl.nextHandle = std::max(impl.handles.highest() + 1, seed < highestSeed ? seed : 0);
+    impl.fileNextHandle = impl.nextHandle;
+    for (OdDbStub* stub : unnumbered) {
+        stub->handle = impl.nextHandle++;
+        impl.handles.insert(stub);
+    }
+    if (!impl.fileHasHandles)
+        impl.fileNextHandle = impl.nextHandle;
+}
+
+void OdDbDrawingReader::addMissingTables() {
+    for (const char* name : kStandardTables) {
+        OdDbTableContent& table = impl.tables[name];
+        if (table.record)
+            continue;
+        const std::string typeTitle = std::string("TABLE:") + name;
+        const auto object = odrxCast<OdDbObject>(odDbClassForDxfName(typeTitle, false)->create());
+        table.record = &impl.addMissing(*object, "TABLE", name, typeTitle);
+    }
+}
+
+OdDbStub& OdDbDrawingReader::addBlockRecord(const OdString& name) {
+    OdSmartPtr<OdDbBlockTableRecord> block(new OdDbBlockTableRecord);
+    block->setTextValue("AcDbBlockTableRecord", 2, name);
+    OdDbTableContent& table = impl.tables["BLOCK_RECORD"];
+    OdDbStub& stub = impl.addUnwritten(*block, table.record);
+    table.entries.push_back(&stub);
+    return stub;
+}
+
+// Ties each BLOCK to its record: by name, since the oldest versions have no records at all.
+void OdDbDrawingReader::linkBlocks() {
+    std::unordered_map<std::wstring, OdDbStub*> records;
+    for (const NamedStub& record_ : blockRecords)
+        records.emplace(odDbFoldedName(impl.codec.decode(record_.name)), record_.stub);
+    for (const NamedStub& begin : blockBegins) {
+        const OdString name = impl.codec.decode(begin.name);
+        const auto found = records.find(odDbFoldedName(name));
+        const bool isFree = found != records.end() && impl.blocks.count(found->second) == 0;
+        if (!isFree && impl.version >= kVersionR13)
+            warn(begin.stub->source, found == records.end() ? L"a block without a block record"
+                                                            : L"a second block of the same name");
+        OdDbStub* owner = isFree ? found->second : &addBlockRecord(name);
+        OdDbBlockContent& content = impl.blocks[owner] = std::move(parts[begin.stub]);
+        content.begin->owner = owner;
+        if (content.end)
+            content.end->owner = owner;
+        for (OdDbStub* entity : content.entities)
+            entity->owner = owner;
+        if (isSpaceName(name, kModelSpace) && !impl.modelSpace)
+            impl.modelSpace = owner;
+        if (isSpaceName(name, kPaperSpace) && !impl.paperSpace)
+            impl.paperSpace = owner;
+    }
+}
+
+void OdDbDrawingReader::linkSpaces() {
+    const auto settle = [this](OdDbStub*& space, const wchar_t* name, OdDbBlockContent& loose) {
+        for (const NamedStub& record_ : blockRecords)
+            if (!space && isSpaceName(impl.codec.decode(record_.name), name))
+                space = record_.stub;
+        if (!space)
+            space = &addBlockRecord(name);
+        std::vector<OdDbStub*>& entities = impl.blocks[space].entities;
+        entities.insert(entities.end(), loose.entities.begin(), loose.entities.end());
+        for (OdDbStub* entity : loose.entities)
+            entity->owner = space;
+    };
+    settle(impl.modelSpace, kModelSpace, modelEntities);
+    settle(impl.paperSpace, kPaperSpace, paperEntities);
+}

@@ -1,0 +1,44 @@
+// Puts a drawing together for its file: unchanged records as the bytes they were read from, changed and new
+// ones in their places between them.
+#pragma once
+
+#include "sdk/db/database_impl.h"
+
+#include <deque>
+
+class OdDbDrawingWriter {
+public:
+    explicit OdDbDrawingWriter(OdDbDatabaseImpl& database) : impl(database) {}
+    // The whole file in pieces, which live as long as the writer and the unchanged database.
+    std::vector<std::string_view> pieces();
+
+private:
+    using Stubs = std::vector<OdDbStub*>;
+    void prepareHeader();
+    void placeNewRecords();
+    void placeNewRecord(OdDbStub& stub);
+    void refuseWhatTheVersionLacks() const;
+    void emit(std::string_view bytes);
+    void emitOwned(std::string text);
+    void emitTag(int code, std::string_view value);
+    void emitFileRecord(OdDbStub& stub);
+    void emitObject(OdDbStub& stub);
+    void emitNew(OdDbStub& stub);
+    void emitBlock(const OdDbStub& record);
+    void emitTableHead(OdDbStub& stub);
+    void openSection(std::string_view name);
+    void emitHeaderSection();
+    void emitMissingTables();
+    void emitMissingSections();
+    bool isLeftOut(const OdDbStub& stub) const;
+    bool refersToErased(OdDbStub& stub) const;
+    const OdDbStub* endOf(const char* sectionName) const;
+
+    OdDbDatabaseImpl& impl;
+    OdDbHeader header;
+    std::unordered_map<const OdDbStub*, Stubs> before; // new records to write before a record of the file
+    std::unordered_map<const OdDbStub*, Stubs> blocksBefore;
+    std::map<std::string, Stubs> missing; // by section or table name: new records without such a place
+    std::vector<std::string_view> result;
+    std::deque<std::string> texts;
+};

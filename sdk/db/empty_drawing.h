@@ -1,0 +1,6 @@
+// The text of a new drawing.
+#pragma once
+
+#include <string>
+
+std::string odDbEmptyDrawingText();

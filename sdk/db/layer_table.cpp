@@ -1,0 +1,90 @@
+#include "sdk/db/layer_table.h"
+
+#include <cstdlib>
+
+ODRX_DEFINE_CLASS_WITH_MAKER(OdDbLayerTableRecord, OdDbSymbolTableRecord)
+ODRX_DEFINE_CLASS_WITH_MAKER(OdDbLayerTable, OdDbSymbolTable)
+ODRX_DEFINE_CLASS_WITH_MAKER(OdDbViewport, OdDbEntity)
+
+namespace {
+constexpr std::string_view kLayer = "AcDbLayerTableRecord";
+constexpr std::string_view kViewport = "AcDbViewport";
+constexpr int kFlags = 70;
+constexpr int kColor = 62;
+constexpr int kTrueColor = 420;
+constexpr int kFrozen = 1;
+constexpr int kLocked = 4;
+constexpr int kWhite = 7;
+} // namespace
+
+OdDbLayerTableRecord::OdDbLayerTableRecord() {
+    startTags("LAYER");
+    content.append(100, "AcDbSymbolTableRecord");
+    content.append(100, kLayer);
+    content.append(2, "");
+    content.append(kFlags, "0");
+    content.append(kColor, "7");
+    content.append(6, "Continuous");
+}
+
+bool OdDbLayerTableRecord::flag(int bit) const {
+    return content.integer(content.subclass(kLayer), kFlags) & bit;
+}
+
+void OdDbLayerTableRecord::setFlag(int bit, bool on) {
+    const std::int64_t flags = content.integer(content.subclass(kLayer), kFlags);
+    edit().set(kLayer, kFlags, dxfText(on ? flags | bit : flags & ~std::int64_t{bit}));
+}
+
+// A layer that is off has its colour number below zero.
+bool OdDbLayerTableRecord::isOff() const {
+    return content.integer(content.subclass(kLayer), kColor, kWhite) < 0;
+}
+
+void OdDbLayerTableRecord::setIsOff(bool off) {
+    const std::int64_t color = colorIndex();
+    edit().set(kLayer, kColor, dxfText(off ? -color : color));
+}
+
+bool OdDbLayerTableRecord::isFrozen() const { return flag(kFrozen); }
+void OdDbLayerTableRecord::setIsFrozen(bool frozen) { setFlag(kFrozen, frozen); }
+bool OdDbLayerTableRecord::isLocked() const { return flag(kLocked); }
+void OdDbLayerTableRecord::setIsLocked(bool locked) { setFlag(kLocked, locked); }
+
+int OdDbLayerTableRecord::colorIndex() const {
+    const std::int64_t color = std::llabs(content.integer(content.subclass(kLayer), kColor, kWhite));
+    return color >= 1 && color <= 255 ? static_cast<int>(color) : kWhite;
+}
+
+void OdDbLayerTableRecord::setColorIndex(int index) {
+    const bool off = isOff();
+    edit().set(kLayer, kColor, dxfText(std::int64_t{off ? -index : index}));
+    content.remove(kLayer, kTrueColor);
+}
+
+bool OdDbLayerTableRecord::hasTrueColor() const {
+    return content.find(kTrueColor, content.subclass(kLayer)) != DxfTagList::npos;
+}
+
+std::uint32_t OdDbLayerTableRecord::trueColor() const {
+    return static_cast<std::uint32_t>(content.integer(content.subclass(kLayer), kTrueColor)) & 0xFFFFFFu;
+}
+
+OdString OdDbLayerTableRecord::linetype() const { return textValue(kLayer, 6); }
+
+OdDbViewport::OdDbViewport() {
+    startEntity("VIEWPORT", kViewport);
+    content.setPoint(kViewport, 10, {});
+    content.append(40, "1.0");
+    content.append(41, "1.0");
+    content.append(68, "1");
+    content.append(69, "2");
+}
+
+int OdDbViewport::number() const {
+    return static_cast<int>(content.integer(content.subclass(kViewport), 69));
+}
+void OdDbViewport::setNumber(int number) { edit().set(kViewport, 69, dxfText(std::int64_t{number})); }
+OdGePoint3d OdDbViewport::centerPoint() const { return content.point(content.subclass(kViewport), 10); }
+double OdDbViewport::width() const { return content.real(content.subclass(kViewport), 40); }
+double OdDbViewport::height() const { return content.real(content.subclass(kViewport), 41); }

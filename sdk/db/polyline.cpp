@@ -1,0 +1,99 @@
+#include "sdk/db/polyline.h"
+
+#include "sdk/db/arc_extents.h"
+#include "sdk/db/sub_entities.h"
+
+ODRX_DEFINE_CLASS(OdDbPolylineBase, OdDbEntity)
+ODRX_DEFINE_CLASS_WITH_MAKER(OdDbPolyline, OdDbPolylineBase)
+ODRX_DEFINE_CLASS_WITH_MAKER(OdDb2dPolyline, OdDbPolylineBase)
+
+namespace {
+constexpr std::string_view kLight = "AcDbPolyline";
+constexpr int kFlags = 70;
+constexpr int kClosed = 1;
+constexpr int kSpaceCurve = 8;
+constexpr int kMeshes = 16 | 64;
+constexpr int kFramePoint = 16;
+} // namespace
+
+void OdDbPolylineBase::addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const {
+    const std::vector<OdDbPolylineVertex> list = vertices();
+    const OdGeMatrix3d matrix = toWorld * vertexToWorld();
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        const bool last = i + 1 == list.size();
+        if (last && !isClosed())
+            extents.addPoint(matrix * list[i].point);
+        else
+            odDbAddBulgeExtents(extents, matrix, list[i].point, list[last ? 0 : i + 1].point, list[i].bulge);
+    }
+}
+
+OdDbPolyline::OdDbPolyline() {
+    startEntity("LWPOLYLINE", kLight);
+    content.append(90, "0");
+    content.append(kFlags, "0");
+}
+
+std::vector<OdDbPolylineVertex> OdDbPolyline::vertices() const {
+    std::vector<OdDbPolylineVertex> list;
+    const DxfTagList::Range range = content.subclass(kLight);
+    const double elevation = content.real(range, 38);
+    for (std::size_t i = range.begin; i < range.end; ++i) {
+        const DxfTag& tag = content[i];
+        if (tag.code == 10)
+            list.push_back({{dxfReal(tag.value()), 0, elevation}, 0});
+        else if (tag.code == 20 && !list.empty())
+            list.back().point.y = dxfReal(tag.value());
+        else if (tag.code == 42 && !list.empty())
+            list.back().bulge = dxfReal(tag.value());
+    }
+    return list;
+}
+
+bool OdDbPolyline::isClosed() const { return content.integer(content.subclass(kLight), kFlags) & kClosed; }
+
+void OdDbPolyline::setClosed(bool closed) {
+    const std::int64_t flags = content.integer(content.subclass(kLight), kFlags);
+    edit().set(kLight, kFlags, dxfText(closed ? flags | kClosed : flags & ~std::int64_t{kClosed}));
+}
+
+void OdDbPolyline::setVertices(const std::vector<OdDbPolylineVertex>& list) {
+    DxfTagList& tags = edit();
+    const DxfTagList::Range old = tags.subclass(kLight);
+    for (std::size_t i = old.end; i-- > old.begin;) {
+        const int code = tags[i].code;
+        if (code == 10 || code == 20 || (code >= 40 && code <= 42) || code == 91)
+            tags.erase(i);
+    }
+    tags.set(kLight, 90, dxfText(static_cast<std::int64_t>(list.size())));
+    DxfTagList::Range range = tags.subclass(kLight);
+    std::size_t place = range.end;
+    for (const OdDbPolylineVertex& vertex : list) {
+        tags.insert(place++, 10, dxfText(vertex.point.x));
+        tags.insert(place++, 20, dxfText(vertex.point.y));
+        if (vertex.bulge != 0)
+            tags.insert(place++, 42, dxfText(vertex.bulge));
+    }
+}
+
+std::vector<OdDbPolylineVertex> OdDb2dPolyline::vertices() const {
+    std::vector<OdDbPolylineVertex> list;
+    for (const OdDbObjectId id : odDbSubEntities(objectId())) {
+        const OdDbObjectPtr vertex = id.openObject();
+        const DxfTagList& tags = vertex->tags();
+        if (tags.empty() || tags[0].value() != "VERTEX" ||
+            (tags.integer(tags.whole(), kFlags) & kFramePoint) != 0)
+            continue;
+        list.push_back({tags.point(tags.whole(), 10), tags.real(tags.whole(), 42)});
+    }
+    return list;
+}
+
+bool OdDb2dPolyline::isClosed() const { return content.integer(content.whole(), kFlags) & kClosed; }
+
+OdGeMatrix3d OdDb2dPolyline::vertexToWorld() const {
+    const bool inSpace = content.integer(content.whole(), kFlags) & (kSpaceCurve | kMeshes);
+    return inSpace ? OdGeMatrix3d::kIdentity : planeToWorld();
+}
+
+bool OdDb2dPolyline::isMesh() const { return content.integer(content.whole(), kFlags) & kMeshes; }

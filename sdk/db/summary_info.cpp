@@ -1,0 +1,75 @@
+#include "sdk/db/summary_info.h"
+
+#include "sdk/db/database_impl.h"
+#include "sdk/db/summary_store.h"
+
+ODRX_DEFINE_CLASS(OdDbDatabaseSummaryInfo, OdRxObject)
+
+namespace {
+
+OdDbDatabaseSummaryInfoPtr presentSummary(OdDbDatabase& database) {
+    OdDbDatabaseSummaryInfoPtr info(new OdDbDatabaseSummaryInfo);
+    odDbReadSummary(database, *info);
+    return info;
+}
+
+// Header values are no objects: their former state is kept here. Without a reference to the database, which
+// owns this change.
+class SummaryChange : public OdDbChange {
+public:
+    SummaryChange(OdDbDatabase& changed, OdDbDatabaseSummaryInfoPtr former)
+        : database(changed), other(std::move(former)) {}
+    void swap() override {
+        OdDbDatabaseSummaryInfoPtr present = presentSummary(database);
+        odDbWriteSummaryToHeader(database, *other);
+        other = present;
+    }
+
+private:
+    OdDbDatabase& database;
+    OdDbDatabaseSummaryInfoPtr other;
+};
+
+} // namespace
+
+std::size_t OdDbDatabaseSummaryInfo::checkedIndex(int index) const {
+    if (index < 0 || index >= numCustomInfo())
+        throw OdError_InvalidIndex();
+    return static_cast<std::size_t>(index);
+}
+
+void OdDbDatabaseSummaryInfo::getCustomSummaryInfo(int index, OdString& key, OdString& value) const {
+    std::tie(key, value) = custom[checkedIndex(index)];
+}
+
+void OdDbDatabaseSummaryInfo::setCustomSummaryInfo(int index, const OdString& key, const OdString& value) {
+    if (index >= numCustomInfo())
+        custom.emplace_back(key, value);
+    else
+        custom[checkedIndex(index)] = {key, value};
+}
+
+void OdDbDatabaseSummaryInfo::deleteCustomSummaryInfo(int index) {
+    custom.erase(custom.begin() + static_cast<std::ptrdiff_t>(checkedIndex(index)));
+}
+
+OdDbDatabaseSummaryInfoPtr oddbGetSummaryInfo(OdDbDatabase* database) {
+    if (!database)
+        return OdDbDatabaseSummaryInfoPtr(new OdDbDatabaseSummaryInfo);
+    OdDbDatabaseSummaryInfoPtr info = presentSummary(*database);
+    info->setDatabase(database);
+    return info;
+}
+
+void oddbPutSummaryInfo(const OdDbDatabaseSummaryInfo* info) {
+    if (!info || !info->database())
+        throw OdError(eNotInDatabase);
+    OdDbDatabase& database = *info->database();
+    if (!odDbKeepsSummaryInHeader(database)) {
+        odDbWriteSummaryRecord(database, *info, true);
+        return;
+    }
+    OdDbDatabaseSummaryInfoPtr former = presentSummary(database);
+    if (odDbWriteSummaryToHeader(database, *info))
+        database.impl().log.record(std::make_unique<SummaryChange>(database, std::move(former)));
+}

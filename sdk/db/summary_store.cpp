@@ -1,0 +1,128 @@
+#include "sdk/db/summary_store.h"
+
+#include "sdk/db/database_impl.h"
+#include "sdk/db/dictionary.h"
+#include "sdk/db/xrecord.h"
+
+namespace {
+
+using Info = OdDbDatabaseSummaryInfo;
+
+constexpr const char* kHeaderNames[Info::kFieldCount] = {"$TITLE",          "$SUBJECT",      "$AUTHOR",
+                                                         "$KEYWORDS",       "$COMMENTS",     "$LASTSAVEDBY",
+                                                         "$REVISIONNUMBER", "$HYPERLINKBASE"};
+
+constexpr const wchar_t* kRecordName = L"DWGPROPS";
+constexpr std::string_view kCookie = "DWGPROPS COOKIE";
+// Codes of the fields in the record; the second text with code 1, behind the cookie, is the hyperlink base.
+constexpr int kRecordCodes[Info::kFieldCount] = {2, 3, 4, 7, 6, 8, 9, 1};
+constexpr int kFirstCustom = 300;
+constexpr int kLastCustom = 309;
+
+OdDbXrecordPtr summaryRecord(OdDbDatabase& database, OdDb::OpenMode mode) {
+    const auto root = odrxCast<OdDbDictionary>(database.getNamedObjectsDictionaryId().safeOpenObject());
+    return odrxQuery<OdDbXrecord>(root->getAt(kRecordName, mode).get());
+}
+
+void readRecord(const OdDbXrecord& record, const DxfCodec& codec, Info& info) {
+    const DxfTagList& tags = record.tags();
+    const DxfTagList::Range range = record.dataRange();
+    for (std::size_t i = range.begin; i < range.end; ++i) {
+        const std::string_view value = tags[i].value();
+        if (value == kCookie)
+            continue;
+        for (int field = 0; field < Info::kFieldCount; ++field)
+            if (tags[i].code == kRecordCodes[field])
+                info.fields[field] = codec.decode(value);
+        const std::size_t equals = value.find('=');
+        if (tags[i].code >= kFirstCustom && tags[i].code <= kLastCustom && equals != std::string_view::npos)
+            info.custom.emplace_back(codec.decode(value.substr(0, equals)),
+                                     codec.decode(value.substr(equals + 1)));
+    }
+}
+
+OdDbXrecordPtr createRecord(OdDbDatabase& database) {
+    const auto root =
+        odrxCast<OdDbDictionary>(database.getNamedObjectsDictionaryId().safeOpenObject(OdDb::kForWrite));
+    OdDbXrecordPtr record(new OdDbXrecord);
+    root->setAt(kRecordName, record.get());
+    record->edit().append(1, kCookie);
+    return record;
+}
+
+void eraseTexts(DxfTagList& tags, const DxfTagList::Range& range) {
+    for (std::size_t i = range.end; i-- > range.begin;) {
+        const int code = tags[i].code;
+        const bool isField = code >= 1 && code <= 9 && tags[i].value() != kCookie;
+        if (isField || (code >= kFirstCustom && code <= kLastCustom))
+            tags.erase(i);
+    }
+}
+
+} // namespace
+
+bool odDbKeepsSummaryInHeader(const OdDbDatabase& database) {
+    const int version = database.impl().version;
+    return version >= kVersionR2004 || version < kVersionR13;
+}
+
+void odDbReadSummary(OdDbDatabase& database, Info& info) {
+    const OdDbDatabaseImpl& impl = database.impl();
+    if (!odDbKeepsSummaryInHeader(database)) {
+        const OdDbXrecordPtr record = summaryRecord(database, OdDb::kForRead);
+        if (!record.isNull())
+            readRecord(*record, impl.codec, info);
+        return;
+    }
+    for (int field = 0; field < Info::kFieldCount; ++field)
+        info.fields[field] = impl.codec.decode(impl.header.value(kHeaderNames[field]));
+    for (const auto& [key, value] : impl.header.customProperties())
+        info.custom.emplace_back(impl.codec.decode(key), impl.codec.decode(value));
+}
+
+bool odDbWriteSummaryToHeader(OdDbDatabase& database, const Info& info) {
+    OdDbDatabaseImpl& impl = database.impl();
+    Info former;
+    odDbReadSummary(database, former);
+    bool changed = false;
+    for (int field = 0; field < Info::kFieldCount; ++field) {
+        if (former.fields[field] == info.fields[field])
+            continue;
+        impl.header.set(kHeaderNames[field], 1, impl.codec.encode(info.fields[field]));
+        changed = true;
+    }
+    if (former.custom == info.custom)
+        return changed;
+    std::vector<std::pair<std::string, std::string>> properties;
+    for (const auto& [key, value] : info.custom)
+        properties.emplace_back(impl.codec.encode(key), impl.codec.encode(value));
+    impl.header.setCustomProperties(properties);
+    return true;
+}
+
+bool odDbWriteSummaryRecord(OdDbDatabase& database, const Info& info, bool create) {
+    Info former;
+    odDbReadSummary(database, former);
+    if (former.custom == info.custom &&
+        std::equal(former.fields, former.fields + Info::kFieldCount, info.fields))
+        return false;
+    OdDbXrecordPtr record = summaryRecord(database, OdDb::kForWrite);
+    if (record.isNull() && !create)
+        return false;
+    if (record.isNull())
+        record = createRecord(database);
+    const DxfCodec& codec = database.impl().codec;
+    DxfTagList& tags = record->edit();
+    eraseTexts(tags, record->dataRange());
+    std::size_t place = tags.find(1, record->dataRange()); // the cookie
+    place = place == DxfTagList::npos ? record->dataRange().begin : place + 1;
+    for (int field = 0; field < Info::kHyperlinkBase; ++field)
+        tags.insert(place++, kRecordCodes[field], codec.encode(info.fields[field]));
+    int code = kFirstCustom;
+    for (const auto& [key, value] : info.custom) {
+        tags.insert(place++, code, codec.encode(key + OdString(L"=") + value));
+        code = code == kLastCustom ? kLastCustom : code + 1;
+    }
+    tags.insert(place, kRecordCodes[Info::kHyperlinkBase], codec.encode(info.fields[Info::kHyperlinkBase]));
+    return true;
+}

@@ -1,0 +1,110 @@
+// System variables of a drawing: values of its header, those of the application, and a few that last only as
+// long as the drawing is open.
+#include "sdk/db/application_variables.h"
+#include "sdk/db/database_impl.h"
+
+namespace {
+
+OdDbApplicationVariables* applicationVariables = nullptr;
+
+std::string headerName(const OdString& name) { return "$" + name.makeUpper().toUtf8(); }
+
+OdResBufPtr valueOf(const OdDbHeader& header, const DxfCodec& codec, const std::string& name) {
+    OdResBufPtr value = OdResBuf::newRb(header.code(name));
+    switch (OdDxfCode::_getType(value->restype())) {
+    case OdDxfCode::Double:
+        value->setDouble(header.real(name));
+        break;
+    case OdDxfCode::Name:
+    case OdDxfCode::String:
+        value->setString(codec.decode(header.value(name)));
+        break;
+    default:
+        value->setInt32(static_cast<std::int32_t>(header.integer(name)));
+    }
+    return value;
+}
+
+std::string textOf(const OdResBuf& value, int code, const DxfCodec& codec) {
+    switch (OdDxfCode::_getType(code)) {
+    case OdDxfCode::Double:
+        return dxfText(value.getDouble());
+    case OdDxfCode::Name:
+    case OdDxfCode::String:
+        return codec.encode(value.getString());
+    default:
+        return dxfText(std::int64_t{value.getInt32()});
+    }
+}
+
+} // namespace
+
+void odDbSetApplicationVariables(OdDbApplicationVariables* variables) { applicationVariables = variables; }
+OdDbApplicationVariables* odDbApplicationVariables() { return applicationVariables; }
+
+OdResBufPtr OdDbDatabase::getSysVar(const OdString& name) const {
+    OdResBufPtr value = applicationVariables ? applicationVariables->getVariable(name) : OdResBufPtr();
+    if (!value.isNull())
+        return value;
+    const std::string inHeader = headerName(name);
+    if (parts->header.code(inHeader) != 0)
+        return valueOf(parts->header, parts->codec, inHeader);
+    const auto found = parts->sessionVariables.find(name.makeUpper().wide());
+    if (found == parts->sessionVariables.end())
+        throw OdError(eKeyNotFound, name);
+    return found->second->clone();
+}
+
+void OdDbDatabase::setSysVar(const OdString& name, const OdResBuf* value) {
+    if (applicationVariables && applicationVariables->setVariable(name, value))
+        return;
+    const std::string inHeader = headerName(name);
+    const int code = parts->header.code(inHeader);
+    if (code == 0) {
+        parts->sessionVariables[name.makeUpper().wide()] = value->clone();
+        return;
+    }
+    parts->header.set(inHeader, code, textOf(*value, code, parts->codec));
+    parts->headerModified = true;
+    parts->notify([](OdDbDatabaseReactor& reactor) { reactor.headerChanged(); });
+}
+
+OdDb::UnitsValue OdDbDatabase::getINSUNITS() const {
+    return static_cast<OdDb::UnitsValue>(parts->header.integer("$INSUNITS"));
+}
+
+void OdDbDatabase::setINSUNITS(OdDb::UnitsValue units) {
+    parts->header.set("$INSUNITS", 70, dxfText(std::int64_t{units}));
+    parts->headerModified = true;
+}
+
+OdDbDate OdDbDatabase::getTDCREATE() const {
+    return OdTimeStamp::fromJulianFraction(parts->header.real("$TDCREATE"));
+}
+
+OdDbDate OdDbDatabase::getTDUPDATE() const {
+    return OdTimeStamp::fromJulianFraction(parts->header.real("$TDUPDATE"));
+}
+
+OdDbDate OdDbDatabase::getTDINDWG() const {
+    using Days = std::chrono::duration<double, std::ratio<86400>>;
+    const Days session = std::chrono::steady_clock::now() - parts->openedAt;
+    return OdTimeStamp::fromJulianFraction(parts->header.real("$TDINDWG") + session.count());
+}
+
+OdGePoint3d get_UCSORG(const OdDbDatabase* database) {
+    return database->impl().header.point("$UCSORG", OdGePoint3d::kOrigin);
+}
+
+OdGeVector3d get_UCSXDIR(const OdDbDatabase* database) {
+    return database->impl().header.point("$UCSXDIR", {1, 0, 0}).asVector();
+}
+
+OdGeVector3d get_UCSYDIR(const OdDbDatabase* database) {
+    return database->impl().header.point("$UCSYDIR", {0, 1, 0}).asVector();
+}
+
+void getCurrentUCS(const OdDbDatabase* database, OdGeMatrix3d& matrix) {
+    const OdGeVector3d x = get_UCSXDIR(database), y = get_UCSYDIR(database);
+    matrix.setCoordSystem(get_UCSORG(database), x, y, x.crossProduct(y));
+}

@@ -1,0 +1,147 @@
+#include "sdk/db/xref_man.h"
+
+#include "sdk/db/database_impl.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <algorithm>
+
+namespace {
+
+QString qt(const OdString& text) { return QString::fromStdWString(text.wide()); }
+OdString od(const QString& text) { return text.toStdWString(); }
+
+// Canonical paths of the drawings on the way from the host to the one that is being loaded.
+std::vector<QString>& loadingFiles() {
+    static std::vector<QString> files;
+    return files;
+}
+
+class LoadingFile {
+public:
+    explicit LoadingFile(const QString& path) { loadingFiles().push_back(path); }
+    ~LoadingFile() { loadingFiles().pop_back(); }
+    LoadingFile(const LoadingFile&) = delete;
+    LoadingFile& operator=(const LoadingFile&) = delete;
+};
+
+bool isOnTheWay(const QString& path, const OdDbDatabase& host) {
+    const auto& files = loadingFiles();
+    return std::find(files.begin(), files.end(), path) != files.end() ||
+           path == QFileInfo(qt(host.getFilename())).canonicalFilePath();
+}
+
+void noteDependency(OdDbDatabase& database, const OdString& savedPath, const QFileInfo& found) {
+    OdFileDependencyInfo info;
+    info.feature = kOdDbXrefFeature;
+    info.fullFileName = savedPath;
+    info.fileName = od(found.fileName());
+    info.foundPath = od(found.absolutePath() + QLatin1Char('/'));
+    database.fileDependencyManager()->createEntry(info);
+}
+
+// References that a reference brings with it: attached ones only.
+void loadNested(OdDbDatabase& database) {
+    const auto blocks = odrxCast<OdDbBlockTable>(database.getBlockTableId().safeOpenObject());
+    for (OdDbSymbolTableIterator it = blocks->newIterator(); !it.done(); it.step()) {
+        const auto block = odrxCast<OdDbBlockTableRecord>(it.getRecordId().openObject());
+        if (block->isFromExternalReference() && !block->isFromOverlayReference())
+            OdDbXRefMan::load(block.get());
+    }
+}
+
+OdResult loadFile(OdDbBlockTableRecord& record, const QFileInfo& file) {
+    OdDbDatabase& host = *record.database();
+    const QString path = file.canonicalFilePath();
+    if (isOnTheWay(path, host))
+        return eSelfReference;
+    const LoadingFile guard(path);
+    OdDbDatabasePtr loaded = OdDbDatabase::readFile(od(file.absoluteFilePath()));
+    loadNested(*loaded);
+    const bool wasWritable = record.isWriteEnabled();
+    record.upgradeOpen();
+    record.setBlockInsertUnits(loaded->getINSUNITS());
+    if (!wasWritable)
+        record.downgradeOpen();
+    noteDependency(host, record.pathName(), file);
+    host.impl().setXrefDatabase(*record.objectId().getStub(), loaded);
+    return eOk;
+}
+
+} // namespace
+
+OdDbObjectId OdDbXRefManExt::addNewXRefDefBlock(OdDbDatabase* database, const OdString& path,
+                                                const OdString& name, bool overlay, const OdString&,
+                                                OdDbHandle) {
+    const auto blocks = odrxCast<OdDbBlockTable>(database->getBlockTableId().safeOpenObject(OdDb::kForWrite));
+    OdDbBlockTableRecordPtr record(new OdDbBlockTableRecord);
+    record->setName(name);
+    const OdDbObjectId id = blocks->add(record.get());
+    record->setBlockFlags(OdDbBlockTableRecord::kXref);
+    record->setPathName(path);
+    OdDbXRefMan::setOverlaid(record.get(), overlay);
+    return id;
+}
+
+OdResult OdDbXRefMan::load(OdDbBlockTableRecord* record) {
+    if (!record || !record->database())
+        return eNullObjectPointer;
+    const OdString savedPath = record->pathName();
+    if (savedPath.isEmpty())
+        return eInvalidInput;
+    const OdString found = findFile(*record->database(), savedPath);
+    if (found.isEmpty())
+        return eCantOpenFile;
+    try {
+        return loadFile(*record, QFileInfo(qt(found)));
+    } catch (const OdError& error) {
+        return error.code();
+    }
+}
+
+void OdDbXRefMan::unload(OdDbBlockTableRecord* record) {
+    if (record->database())
+        record->database()->impl().setXrefDatabase(*record->objectId().getStub(), {});
+}
+
+void OdDbXRefMan::setOverlaid(OdDbBlockTableRecord* record, bool overlaid) {
+    const int flags = record->blockFlags();
+    const int wanted = overlaid ? flags | OdDbBlockTableRecord::kXref | OdDbBlockTableRecord::kOverlay
+                                : (flags | OdDbBlockTableRecord::kXref) & ~OdDbBlockTableRecord::kOverlay;
+    if (wanted == flags)
+        return;
+    const bool wasWritable = record->isWriteEnabled();
+    record->upgradeOpen();
+    record->setBlockFlags(wanted);
+    if (!wasWritable)
+        record->downgradeOpen();
+}
+
+OdDbObjectIdArray OdDbXRefMan::loadAll(OdDbDatabase* database) {
+    OdDbObjectIdArray failed;
+    const auto blocks = odrxCast<OdDbBlockTable>(database->getBlockTableId().safeOpenObject());
+    for (OdDbSymbolTableIterator it = blocks->newIterator(); !it.done(); it.step()) {
+        const auto block = odrxCast<OdDbBlockTableRecord>(it.getRecordId().openObject());
+        if (block->isFromExternalReference() && load(block.get()) != eOk)
+            failed.push_back(it.getRecordId());
+    }
+    return failed;
+}
+
+OdString OdDbXRefMan::findFile(const OdDbDatabase& database, const OdString& savedPath) {
+    const QString path = qt(savedPath).replace(QLatin1Char('\\'), QLatin1Char('/'));
+    const QString drawing = qt(database.getFilename());
+    QStringList candidates;
+    if (QFileInfo(path).isAbsolute())
+        candidates << path;
+    if (!drawing.isEmpty()) {
+        const QDir folder = QFileInfo(drawing).absoluteDir();
+        candidates << folder.filePath(path) << folder.filePath(QFileInfo(path).fileName());
+    } else {
+        candidates << path;
+    }
+    for (const QString& candidate : candidates)
+        if (QFileInfo(candidate).isFile())
+            return od(QFileInfo(candidate).absoluteFilePath());
+    return {};
+}

@@ -1,0 +1,32 @@
+// External references: blocks whose contents are another drawing.
+#pragma once
+
+#include "sdk/db/block_table.h"
+
+class OdDbXRefManExt {
+public:
+    // A new, unloaded reference with its path and no contents. Throws eDuplicateKey for a taken name. Neither
+    // a password nor a wished-for handle is of use to text files.
+    static OdDbObjectId addNewXRefDefBlock(OdDbDatabase* database, const OdString& path, const OdString& name,
+                                           bool overlay, const OdString& password = OdString(),
+                                           OdDbHandle handle = OdDbHandle());
+};
+
+class OdDbXRefMan {
+public:
+    // Reads the drawing of a reference, and those that it attaches in turn: overlays are not carried on, and
+    // a drawing that is being loaded already is not entered again. Sets the block's units. eOk when loaded;
+    // no exception, but the code of the failure, for a null record, a block that is no reference, and a
+    // missing or unreadable file.
+    static OdResult load(OdDbBlockTableRecord* record);
+    static void unload(OdDbBlockTableRecord* record);
+    static void setOverlaid(OdDbBlockTableRecord* record, bool overlaid);
+    // Loads every reference of a drawing; gives those that failed.
+    static OdDbObjectIdArray loadAll(OdDbDatabase* database);
+    // The file that a saved path stands for, looked for as it stands, beside the drawing and by its name
+    // alone beside the drawing; empty when there is none.
+    static OdString findFile(const OdDbDatabase& database, const OdString& savedPath);
+};
+
+// The feature that file dependencies of references are filed under.
+constexpr const wchar_t* kOdDbXrefFeature = L"Acad:XRef";

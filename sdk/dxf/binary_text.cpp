@@ -1,0 +1,134 @@
+#include "sdk/dxf/binary_text.h"
+
+#include "sdk/dxf/scanner.h"
+
+namespace {
+
+// A binary drawing starts with 22 bytes: the writer's name, these characters, line end and two marks.
+constexpr std::size_t kNameSize = 7;
+constexpr std::string_view kMark{" Binary DXF\r\n\x1a\0", 15};
+constexpr std::size_t kStartSize = kNameSize + kMark.size();
+
+enum class ValueKind { Text, Real, Int16, Int32, Int64, Bool, Chunk };
+
+struct KindRange {
+    int first, last;
+    ValueKind kind;
+};
+
+constexpr KindRange kinds[] = {
+    {0, 9, ValueKind::Text},        {10, 59, ValueKind::Real},      {60, 79, ValueKind::Int16},
+    {90, 99, ValueKind::Int32},     {100, 109, ValueKind::Text},    {110, 149, ValueKind::Real},
+    {160, 169, ValueKind::Int64},   {170, 179, ValueKind::Int16},   {210, 239, ValueKind::Real},
+    {270, 289, ValueKind::Int16},   {290, 299, ValueKind::Bool},    {300, 309, ValueKind::Text},
+    {310, 319, ValueKind::Chunk},   {320, 369, ValueKind::Text},    {370, 389, ValueKind::Int16},
+    {390, 399, ValueKind::Text},    {400, 409, ValueKind::Int16},   {410, 419, ValueKind::Text},
+    {420, 429, ValueKind::Int32},   {430, 439, ValueKind::Text},    {440, 459, ValueKind::Int32},
+    {460, 469, ValueKind::Real},    {470, 489, ValueKind::Text},    {999, 1003, ValueKind::Text},
+    {1004, 1004, ValueKind::Chunk}, {1005, 1009, ValueKind::Text},  {1010, 1059, ValueKind::Real},
+    {1060, 1070, ValueKind::Int16}, {1071, 1071, ValueKind::Int32},
+};
+
+class BinaryReader {
+public:
+    explicit BinaryReader(std::string_view bytes) : at(bytes.data()), end(bytes.data() + bytes.size()) {
+        // Old versions write one byte for a code: the "SECTION" of the first tag follows it at once.
+        wideCodes = bytes.size() > 1 && bytes[1] == '\0';
+    }
+
+    std::string text() {
+        std::string result;
+        while (at != end) {
+            const char* start = at;
+            const int code = readCode();
+            if (code < kMinGroupCode || code > kMaxGroupCode)
+                throw DxfFault{start, "a group code out of range"};
+            const std::string value = readValue(code, start);
+            result += dxfTagText(code, value, "\n");
+            if (code == 0 && value == "EOF")
+                break;
+        }
+        return result;
+    }
+
+private:
+    template <class T> T take() {
+        T value;
+        if (end - at < static_cast<std::ptrdiff_t>(sizeof value))
+            throw DxfFault{at, "the file ends within a value"};
+        std::memcpy(&value, at, sizeof value);
+        at += sizeof value;
+        return value;
+    }
+
+    int readCode() {
+        if (wideCodes)
+            return take<std::int16_t>();
+        const int code = take<std::uint8_t>();
+        return code == 255 ? take<std::int16_t>() : code;
+    }
+
+    std::string readValue(int code, const char* start) {
+        switch (kindOf(code, start)) {
+        case ValueKind::Text:
+            return takeText();
+        case ValueKind::Real:
+            return dxfText(take<double>());
+        case ValueKind::Int16:
+            return std::to_string(take<std::int16_t>());
+        case ValueKind::Int32:
+            return std::to_string(take<std::int32_t>());
+        case ValueKind::Int64:
+            return std::to_string(take<std::int64_t>());
+        case ValueKind::Bool:
+            return std::to_string(wideCodes ? take<std::uint8_t>() : take<std::int16_t>());
+        case ValueKind::Chunk:
+            return takeChunk();
+        }
+        return {};
+    }
+
+    static ValueKind kindOf(int code, const char* start) {
+        for (const KindRange& range : kinds)
+            if (code >= range.first && code <= range.last)
+                return range.kind;
+        throw DxfFault{start, "a group code out of range"};
+    }
+
+    std::string takeText() {
+        const void* zero = std::memchr(at, 0, static_cast<std::size_t>(end - at));
+        if (!zero)
+            throw DxfFault{at, "the file ends within a text"};
+        std::string text(at, static_cast<const char*>(zero));
+        at = static_cast<const char*>(zero) + 1;
+        for (char& c : text)
+            if (c == '\n' || c == '\r')
+                c = ' ';
+        return text;
+    }
+
+    std::string takeChunk() {
+        const std::size_t size = take<std::uint8_t>();
+        if (static_cast<std::size_t>(end - at) < size)
+            throw DxfFault{at, "the file ends within a value"};
+        std::string text;
+        for (std::size_t i = 0; i < size; ++i) {
+            const auto byte = static_cast<unsigned char>(*at++);
+            text += "0123456789ABCDEF"[byte >> 4];
+            text += "0123456789ABCDEF"[byte & 15];
+        }
+        return text;
+    }
+
+    const char* at;
+    const char* end;
+    bool wideCodes = true;
+};
+
+} // namespace
+
+bool isBinaryDxf(std::string_view bytes) {
+    return bytes.substr(0, kStartSize).substr(std::min(bytes.size(), kNameSize)) == kMark;
+}
+
+std::string textOfBinaryDxf(std::string_view bytes) { return BinaryReader(bytes.substr(kStartSize)).text(); }

@@ -1,0 +1,131 @@
+#include "sdk/dxf/codec.h"
+
+#include <QTextCodec>
+#include <map>
+
+namespace {
+
+// Bytes 0x80 to 0x9F that the western page leaves open survive as the control characters of that number.
+QTextCodec* westernPage() { return QTextCodec::codecForName("windows-1252"); }
+
+const char* codecName(const std::string& page) {
+    static const std::map<std::string, const char*> names{
+        {"ANSI_874", "TIS-620"},       {"ANSI_932", "Shift_JIS"},
+        {"ANSI_936", "GBK"},           {"ANSI_949", "cp949"},
+        {"ANSI_950", "Big5"},          {"ANSI_1250", "windows-1250"},
+        {"ANSI_1251", "windows-1251"}, {"ANSI_1252", "windows-1252"},
+        {"ANSI_1253", "windows-1253"}, {"ANSI_1254", "windows-1254"},
+        {"ANSI_1255", "windows-1255"}, {"ANSI_1256", "windows-1256"},
+        {"ANSI_1257", "windows-1257"}, {"ANSI_1258", "windows-1258"},
+        {"DOS437", "IBM437"},          {"DOS850", "IBM850"},
+        {"DOS852", "IBM852"},          {"DOS866", "IBM866"},
+        {"DOS932", "Shift_JIS"},       {"ISO8859-1", "ISO-8859-1"},
+        {"ASCII", "windows-1252"},     {"UTF-8", "UTF-8"},
+    };
+    const auto found = names.find(page);
+    return found == names.end() ? nullptr : found->second;
+}
+
+std::string upperCase(std::string_view text) {
+    std::string result(text);
+    for (char& c : result)
+        c = static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
+    return result;
+}
+
+bool isPlain(std::string_view bytes) {
+    for (const char c : bytes)
+        if (static_cast<unsigned char>(c) >= 0x80 || c == '\\' || c == '^')
+            return false;
+    return true;
+}
+
+int hexValue(const QString& text, int start) {
+    int value = 0;
+    for (int i = start; i < start + 4; ++i) {
+        const int digit = i < text.size() ? QString("0123456789ABCDEF").indexOf(text[i].toUpper()) : -1;
+        if (digit < 0)
+            return -1;
+        value = value * 16 + digit;
+    }
+    return value;
+}
+
+QChar controlOf(QChar c) {
+    switch (c.unicode()) {
+    case 'J':
+        return '\n';
+    case 'M':
+        return '\r';
+    case 'I':
+        return '\t';
+    case ' ':
+        return '^';
+    default:
+        return {};
+    }
+}
+
+// One pass, so that what an escape gives is never read as the start of another.
+QString withoutEscapes(const QString& text) {
+    QString result;
+    for (int i = 0; i < text.size(); ++i) {
+        if (text.midRef(i, 3) == QLatin1String("\\U+") && hexValue(text, i + 3) >= 0) {
+            result += QChar(static_cast<ushort>(hexValue(text, i + 3)));
+            i += 6;
+        } else if (text[i] == '^' && i + 1 < text.size() && !controlOf(text[i + 1]).isNull()) {
+            result += controlOf(text[++i]);
+        } else {
+            result += text[i];
+        }
+    }
+    return result;
+}
+
+QString withControlEscapes(const QString& text) {
+    QString result;
+    for (int i = 0; i < text.size(); ++i) {
+        const ushort c = text[i].unicode();
+        if (c == '\n' || c == '\r' || c == '\t')
+            result += QString("^") + QChar(c + 64);
+        else if (c == '^' && i + 1 < text.size() && !controlOf(text[i + 1]).isNull())
+            result += "^ ";
+        else
+            result += c < 32 || c == 127 ? QChar(' ') : text[i];
+    }
+    return result;
+}
+
+} // namespace
+
+DxfCodec::DxfCodec() : codec(QTextCodec::codecForName("UTF-8")) {}
+
+DxfCodec DxfCodec::forCodePage(std::string_view name, bool* known) {
+    const char* wanted = codecName(upperCase(name));
+    QTextCodec* page = wanted ? QTextCodec::codecForName(wanted) : nullptr;
+    if (known)
+        *known = page != nullptr;
+    return DxfCodec(page ? page : westernPage());
+}
+
+OdString DxfCodec::decode(std::string_view bytes) const {
+    if (isPlain(bytes))
+        return std::wstring(bytes.begin(), bytes.end());
+    const QString text = codec->toUnicode(bytes.data(), static_cast<int>(bytes.size()));
+    return withoutEscapes(text).toStdWString();
+}
+
+std::string DxfCodec::encode(const OdString& text) const {
+    const QString oneLine = withControlEscapes(QString::fromStdWString(text.wide()));
+    const bool unicode = codec->name() == "UTF-8";
+    if (unicode || codec->canEncode(oneLine))
+        return codec->fromUnicode(oneLine).toStdString();
+    std::string result;
+    for (const QChar c : oneLine) {
+        if (!c.isSurrogate() && codec->canEncode(c))
+            result += codec->fromUnicode(QString(c)).toStdString();
+        else
+            result += "\\U+" + QString("%1").arg(c.unicode(), 4, 16, QChar('0')).toUpper().toStdString();
+    }
+    return result;
+}

@@ -1,0 +1,149 @@
+#include "sdk/dxf/tag_list.h"
+
+#include "sdk/dxf/scanner.h"
+
+namespace {
+constexpr int kSubclassMarker = 100;
+constexpr int kGroupBrace = 102;
+constexpr int kExtendedData = 1000;
+} // namespace
+
+DxfTagList DxfTagList::parse(std::string_view bytes, std::shared_ptr<const std::string> source,
+                             bool carriageReturns) {
+    DxfTagList list;
+    list.source = std::move(source);
+    list.withCarriageReturns = carriageReturns;
+    DxfScanner scanner(bytes);
+    DxfTag tag;
+    while (scanner.next(tag))
+        list.tags.push_back(tag);
+    return list;
+}
+
+std::string DxfTagList::bytes() const {
+    std::string result;
+    for (const DxfTag& tag : tags)
+        result += tag.bytes();
+    return result;
+}
+
+DxfTagList::Range DxfTagList::subclass(std::string_view name) const {
+    bool marked = false;
+    std::size_t from = npos, to = 0;
+    for (; to < tags.size() && tags[to].code < kExtendedData; ++to) {
+        if (tags[to].code != kSubclassMarker)
+            continue;
+        marked = true;
+        if (from != npos)
+            break;
+        if (dxfTrimmed(tags[to].value()) == name)
+            from = to + 1;
+    }
+    if (!marked)
+        return {0, to};
+    return from == npos ? Range{to, to} : Range{from, to};
+}
+
+std::size_t DxfTagList::find(int code, Range range) const {
+    bool inBraces = false;
+    for (std::size_t i = range.begin; i < range.end; ++i) {
+        if (tags[i].code == kGroupBrace)
+            inBraces = !tags[i].value().empty() && tags[i].value().front() == '{';
+        if (tags[i].code == code && (!inBraces || code == kGroupBrace))
+            return i;
+    }
+    return npos;
+}
+
+void DxfTagList::append(const DxfTagList& other) {
+    for (const DxfTag& tag : other)
+        append(tag.code, tag.value());
+}
+
+void DxfTagList::insert(std::size_t position, int code, std::string_view value) {
+    const DxfTag tag = makeTag(code, value);
+    tags.insert(tags.begin() + static_cast<std::ptrdiff_t>(position), tag);
+}
+
+void DxfTagList::replace(std::size_t position, std::string_view value) {
+    tags[position] = makeTag(tags[position].code, value);
+}
+
+void DxfTagList::erase(std::size_t position, std::size_t count) {
+    const auto first = tags.begin() + static_cast<std::ptrdiff_t>(position);
+    tags.erase(first, first + static_cast<std::ptrdiff_t>(count));
+}
+
+void DxfTagList::set(std::string_view subclassName, int code, std::string_view value) {
+    const Range range = subclass(subclassName);
+    const std::size_t found = find(code, range);
+    if (found != npos)
+        replace(found, value);
+    else
+        insert(range.end, code, value);
+}
+
+void DxfTagList::remove(std::string_view subclassName, int code) {
+    const std::size_t found = find(code, subclass(subclassName));
+    if (found != npos)
+        erase(found);
+}
+
+void DxfTagList::restyle(bool carriageReturns) {
+    if (withCarriageReturns == carriageReturns)
+        return;
+    withCarriageReturns = carriageReturns;
+    for (std::size_t i = 0; i < tags.size(); ++i)
+        replace(i, std::string(tags[i].value()));
+}
+
+double DxfTagList::real(Range range, int code, double otherwise) const {
+    const std::size_t found = find(code, range);
+    return found == npos ? otherwise : dxfReal(tags[found].value());
+}
+
+std::int64_t DxfTagList::integer(Range range, int code, std::int64_t otherwise) const {
+    const std::size_t found = find(code, range);
+    return found == npos ? otherwise : dxfInteger(tags[found].value());
+}
+
+OdGePoint3d DxfTagList::point(Range range, int code) const {
+    const std::size_t found = find(code, range);
+    if (found == npos)
+        return {};
+    const Range rest{found, range.end};
+    return {dxfReal(tags[found].value()), real(rest, code + 10), real(rest, code + 20)};
+}
+
+void DxfTagList::setPoint(std::string_view subclassName, int code, const OdGePoint3d& value) {
+    const double parts[] = {value.x, value.y, value.z};
+    std::size_t last = npos;
+    for (int axis = 0; axis < 3; ++axis) {
+        const Range range = subclass(subclassName);
+        const std::size_t found = find(code + 10 * axis, range);
+        if (found != npos)
+            replace(last = found, dxfText(parts[axis]));
+        else
+            insert(last = last == npos ? range.end : last + 1, code + 10 * axis, dxfText(parts[axis]));
+    }
+}
+
+DxfTag DxfTagList::makeTag(int code, std::string_view value) {
+    DxfTextPool& texts = ownPool();
+    texts.texts.push_back(dxfTagText(code, value, withCarriageReturns ? "\r\n" : "\n"));
+    const std::string& text = texts.texts.back();
+    const std::size_t lineEnd = withCarriageReturns ? 2 : 1;
+    DxfTag tag;
+    tag.raw = text.data();
+    tag.rawSize = static_cast<std::uint32_t>(text.size());
+    tag.valueSize = static_cast<std::uint32_t>(value.size());
+    tag.valueStart = static_cast<std::uint16_t>(text.size() - lineEnd - value.size());
+    tag.code = static_cast<std::int16_t>(code);
+    return tag;
+}
+
+DxfTextPool& DxfTagList::ownPool() {
+    if (!pool)
+        pool = std::make_shared<DxfTextPool>();
+    return *pool;
+}

@@ -1,0 +1,64 @@
+// The tags of one object: those it was read with, as the bytes they are, and those that were set since.
+#pragma once
+
+#include "sdk/dxf/tag.h"
+#include "sdk/ge/point3d.h"
+
+#include <deque>
+#include <memory>
+#include <vector>
+
+// Texts that were set. Lists that are copies of one another share them.
+struct DxfTextPool {
+    std::deque<std::string> texts;
+};
+
+class DxfTagList {
+public:
+    static constexpr std::size_t npos = static_cast<std::size_t>(-1);
+    struct Range {
+        std::size_t begin, end;
+    };
+
+    // Tags of `bytes`, which lie in the pool's source. Throws DxfFault.
+    static DxfTagList parse(std::string_view bytes, std::shared_ptr<const std::string> source,
+                            bool carriageReturns);
+
+    std::size_t size() const { return tags.size(); }
+    bool empty() const { return tags.empty(); }
+    const DxfTag& operator[](std::size_t index) const { return tags[index]; }
+    std::vector<DxfTag>::const_iterator begin() const { return tags.begin(); }
+    std::vector<DxfTag>::const_iterator end() const { return tags.end(); }
+    std::string bytes() const;
+    Range whole() const { return {0, tags.size()}; }
+    // What follows the subclass marker up to the next marker or the extended data; without any marker (old
+    // versions) everything up to the extended data; an empty range when the subclass is missing.
+    Range subclass(std::string_view name) const;
+    // The first tag with the code, outside of {...} groups.
+    std::size_t find(int code, Range range) const;
+    std::size_t find(int code) const { return find(code, whole()); }
+
+    void append(int code, std::string_view value) { insert(tags.size(), code, value); }
+    void append(const DxfTagList& other);
+    void insert(std::size_t position, int code, std::string_view value);
+    void replace(std::size_t position, std::string_view value);
+    void erase(std::size_t position, std::size_t count = 1);
+    // Replaces the first tag with the code in the subclass, or puts a new one at the subclass's end.
+    void set(std::string_view subclassName, int code, std::string_view value);
+    void remove(std::string_view subclassName, int code);
+    // Writes every text that was set with the given line ends.
+    void restyle(bool carriageReturns);
+
+    double real(Range range, int code, double otherwise = 0) const;
+    std::int64_t integer(Range range, int code, std::int64_t otherwise = 0) const;
+    OdGePoint3d point(Range range, int code) const; // codes, code + 10, code + 20
+    void setPoint(std::string_view subclassName, int code, const OdGePoint3d& value);
+
+private:
+    DxfTag makeTag(int code, std::string_view value);
+    DxfTextPool& ownPool();
+    std::vector<DxfTag> tags;
+    std::shared_ptr<DxfTextPool> pool;
+    std::shared_ptr<const std::string> source;
+    bool withCarriageReturns = false;
+};

@@ -1,0 +1,82 @@
+// Dictionaries: names, order, erased entries.
+#include "tests/sdk/db/drawing_fixture.h"
+
+class Dictionaries : public DrawingTest {
+protected:
+    std::vector<std::wstring> names(int order) {
+        std::vector<std::wstring> result;
+        for (auto it = groupsOf(*database)->newIterator(order); !it->done(); it->next())
+            result.push_back(it->name().wide());
+        return result;
+    }
+};
+
+using Names = std::vector<std::wstring>;
+
+TEST_F(Dictionaries, NamesIgnoreCaseAndKeepTheirSpelling) {
+    const OdDbObjectId id = addGroup(*database, L"WallS", {});
+    EXPECT_TRUE(groupsOf(*database)->has(L"wALLs"));
+    EXPECT_EQ(groupsOf(*database)->getAt(L"WALLS", nullptr), id);
+    EXPECT_EQ(groupsOf(*database)->nameAt(id), OdString(L"WallS"));
+}
+
+TEST_F(Dictionaries, IteratorOfTypeZeroGoesInOrderOfInsertionAndTypeOneByName) {
+    for (const wchar_t* name : {L"b", L"C", L"a"})
+        addGroup(*database, name, {});
+    EXPECT_EQ(names(0), (Names{L"b", L"C", L"a"}));
+    EXPECT_EQ(names(1), (Names{L"a", L"b", L"C"}));
+    EXPECT_EQ(groupsOf(*database)->newIterator()->name(), OdString(L"b"));
+}
+
+TEST_F(Dictionaries, ErasedEntriesAreSkipped) {
+    addGroup(*database, L"a", {});
+    const OdDbObjectId id = addGroup(*database, L"b", {});
+    id.safeOpenObject(OdDb::kForWrite)->erase(true);
+    EXPECT_EQ(groupsOf(*database)->numEntries(), 1u);
+    EXPECT_FALSE(groupsOf(*database)->has(L"b"));
+    EXPECT_EQ(names(0), Names{L"a"});
+    const OdDbDatabasePtr again = OdDbDatabase::readBytes(database->writeBytes());
+    EXPECT_EQ(again->writeBytes().find("\nb\n"), std::string::npos);
+}
+
+TEST_F(Dictionaries, TakenNameThrowsAndFreedNameDoesNot) {
+    const OdDbObjectId id = addGroup(*database, L"a", {});
+    EXPECT_EQ(codeOf([&] { addGroup(*database, L"A", {}); }), eDuplicateKey);
+    EXPECT_EQ(groupsOf(*database)->getAt(L"a"), id);
+    id.safeOpenObject(OdDb::kForWrite)->erase(true);
+    EXPECT_NO_THROW(addGroup(*database, L"A", {}));
+    EXPECT_EQ(groupsOf(*database)->numEntries(), 1u);
+}
+
+TEST_F(Dictionaries, RemoveGivesTheIdAndLeavesTheObject) {
+    const OdDbObjectId id = addGroup(*database, L"a", {});
+    EXPECT_EQ(groupsOf(*database, OdDb::kForWrite)->remove(L"A"), id);
+    EXPECT_FALSE(id.isErased());
+    EXPECT_FALSE(groupsOf(*database)->has(L"a"));
+    EXPECT_EQ(openGroup(id)->name(), OdString());
+    EXPECT_TRUE(groupsOf(*database, OdDb::kForWrite)->remove(L"a").isNull());
+}
+
+TEST_F(Dictionaries, ChangesNeedTheDictionaryOpenForWrite) {
+    addGroup(*database, L"a", {});
+    OdDbGroupPtr group(new OdDbGroup);
+    EXPECT_EQ(codeOf([&] { groupsOf(*database)->setAt(L"b", group.get()); }), eNotOpenForWrite);
+    EXPECT_EQ(codeOf([&] { groupsOf(*database)->remove(L"a"); }), eNotOpenForWrite);
+}
+
+TEST_F(Dictionaries, AbsentNameOpensNull) {
+    EXPECT_TRUE(groupsOf(*database)->getAt(L"none", OdDb::kForWrite).isNull());
+    OdResult status = eOk;
+    EXPECT_TRUE(groupsOf(*database)->getAt(L"none", &status).isNull());
+    EXPECT_EQ(status, eKeyNotFound);
+}
+
+TEST_F(Dictionaries, ManyEntriesStayQuick) {
+    const auto groups = groupsOf(*database, OdDb::kForWrite);
+    for (int i = 0; i < 5000; ++i) {
+        OdDbGroupPtr group(new OdDbGroup);
+        groups->setAt(OdString(L"G") + OdString(std::to_wstring(i)), group.get());
+    }
+    EXPECT_EQ(groups->numEntries(), 5000u);
+    EXPECT_TRUE(groups->has(L"g4999"));
+}
