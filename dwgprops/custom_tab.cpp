@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPersistentModelIndex>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <algorithm>
 
 CustomTab::CustomTab(const QFileInfo&, const OdDbDatabaseSummaryInfoPtr& summaryInfo) {
@@ -41,6 +42,7 @@ void CustomTab::build(const OdDbDatabaseSummaryInfo& info) {
 }
 
 void CustomTab::fill(const OdDbDatabaseSummaryInfo& info) {
+    const QSignalBlocker quiet(table->model()); // nobody looks at the table yet
     const int count = info.numCustomInfo();
     for (int index = 0; index < count; ++index) {
         OdString key, value;

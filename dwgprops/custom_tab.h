@@ -4,6 +4,7 @@
 #include "sdk/db/summary_info.h"
 
 #include <QWidget>
+#include <set>
 
 class AddDlg;
 class CustomDelegate;
@@ -45,6 +46,7 @@ private:
     void onAdd();
     void checkName(AddDlg& dialog);
     void onDelete();
+    void removeRows(const std::set<int>& rows);
 
     CustomDelegate* delegate = nullptr;
 };

@@ -8,7 +8,7 @@
 
 #include <QLineEdit>
 #include <QPushButton>
-#include <set>
+#include <QSignalBlocker>
 
 // The dialog is not deleted here, on purpose: it goes with the tab.
 void CustomTab::onAdd() {
@@ -48,6 +48,18 @@ void CustomTab::checkName(AddDlg& dialog) {
     dialog.nameEdit->setFocus(Qt::OtherFocusReason);
 }
 
+// From the last to the first, so that row numbers stay valid. What a change of selection asks for is done
+// once for all rows: thousands of them would take minutes.
+void CustomTab::removeRows(const std::set<int>& rows) {
+    closeEditor();
+    {
+        const QSignalBlocker quiet(table);
+        for (auto row = rows.rbegin(); row != rows.rend(); ++row)
+            table->removeRow(*row);
+    }
+    updateDeleteButton();
+}
+
 void CustomTab::onDelete() {
     const QList<QTableWidgetItem*> selected = table->selectedItems();
     if (selected.isEmpty())
@@ -55,8 +67,7 @@ void CustomTab::onDelete() {
     std::set<int> rows; // ascending, each once
     for (const QTableWidgetItem* item : selected)
         rows.insert(item->row());
-    for (auto row = rows.rbegin(); row != rows.rend(); ++row)
-        table->removeRow(*row);
+    removeRows(rows);
     table->setRowCount(minimumRows(countNamedRows(*table)));
     table->selectRow(rows.size() == 1 ? *rows.begin() : 0);
 }
