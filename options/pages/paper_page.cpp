@@ -18,6 +18,8 @@ using host_qt_ui_core::QHostMessageBox;
 
 namespace {
 
+PaperFormat* paperOf(const TreeItem* item) { return static_cast<PaperFormat*>(item->payload); }
+
 void readPapers(Preferences& preferences, IStdPapersParam& store) {
     releasePaperFormats(preferences);
     for (const std::string& name : childNames(&store)) {
@@ -31,14 +33,19 @@ void readPapers(Preferences& preferences, IStdPapersParam& store) {
     }
 }
 
-void makePaperRow(Preferences& preferences, TreeItem* root, const QIcon& icon, PaperFormat* paper) {
-    auto* item = new TreeItem(root);
+QTreeWidgetItem* newPaperItem(const TreeItem& root, const QIcon& icon, PaperFormat* paper) {
+    auto* item = new TreeItem;
     item->setText(0, paper->rowText());
     item->setIcon(0, icon);
-    item->description = root->description;
+    item->description = root.description;
     item->nodeType = kNodePaper;
     item->buttonMask = kMaskDelete | kMaskModify | kMaskAdd | kMaskUp | kMaskDown;
     item->payload = paper;
+    return item;
+}
+
+void makePaperRow(Preferences& preferences, TreeItem* item) {
+    PaperFormat* paper = paperOf(item);
     QCheckBox* check = makeCheckRow(preferences, item, paper->used != 0);
     QObject::connect(check, &QCheckBox::stateChanged, check, [paper](int state) {
         paper->presentFlags |= kPaperUsed;
@@ -46,7 +53,17 @@ void makePaperRow(Preferences& preferences, TreeItem* root, const QIcon& icon, P
     });
 }
 
-PaperFormat* paperOf(const TreeItem* item) { return static_cast<PaperFormat*>(item->payload); }
+// All items go in at once: with the page open on the screen the tree lays itself out, and every row widget in
+// it, after each insertion.
+void makePaperRows(Preferences& preferences, TreeItem* root) {
+    const QIcon icon = iconOf(root);
+    QList<QTreeWidgetItem*> items;
+    for (PaperFormat* paper : preferences.paperFormats)
+        items.append(newPaperItem(*root, icon, paper));
+    root->addChildren(items);
+    for (QTreeWidgetItem* item : qAsConst(items))
+        makePaperRow(preferences, static_cast<TreeItem*>(item));
+}
 
 } // namespace
 
@@ -56,9 +73,7 @@ void loadPaperFormats(Preferences& preferences, TreeItem* paperRootItem) {
     if (!store)
         return;
     readPapers(preferences, *store);
-    const QIcon icon = iconOf(paperRootItem);
-    for (PaperFormat* paper : preferences.paperFormats)
-        makePaperRow(preferences, paperRootItem, icon, paper);
+    makePaperRows(preferences, paperRootItem);
 }
 
 void reloadPaperRows(Preferences& preferences) {

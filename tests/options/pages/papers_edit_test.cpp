@@ -3,6 +3,8 @@
 #include "options/pages/paper_page.h"
 #include "tests/options/pages/paper_fixture.h"
 
+#include <QElapsedTimer>
+
 namespace {
 
 class PaperEdits : public PaperFixture {
@@ -248,6 +250,18 @@ TEST_F(PaperEdits, AReloadLeavesNoTraceOfTheRowsThatWent) {
     reloadPaperRows(*preferences);
     EXPECT_EQ(preferences->rowWidgets.size(), rowsBefore);
     EXPECT_EQ(preferences->optionItems.size(), 2) << "the page and the root section";
+}
+
+TEST_F(PaperEdits, AThousandPapersOnTheScreenAreReloadedInTheTimeOfAThousandRows) {
+    for (int i = 0; i < 1000; ++i)
+        addPaper(("P" + std::to_string(i)).c_str(), L"Sheet", i, 1);
+    QElapsedTimer timer;
+    timer.start();
+    open();
+    const qint64 opened = timer.restart();
+    reloadPaperRows(*preferences);
+    EXPECT_EQ(page()->childCount(), 1000);
+    EXPECT_LT(timer.elapsed(), 10 * opened) << "one layout for each row takes far longer";
 }
 
 TEST_F(PaperEdits, AStoreThatRefusesInTheMiddleOfApplyDoesNotStopTheDialog) {
