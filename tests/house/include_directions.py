@@ -20,13 +20,13 @@ ALLOWED = {
                    "groups", "tests"},
     "tests": None,  # everything
 }
-# Within sdk: the object model stands below everything, the file formats above the database.
+# Within sdk: the object model stands below everything, the tags of a file below the database that is made of them.
 SDK = {
     "sdk/rx": {"sdk/rx"},
     "sdk/ge": {"sdk/ge", "sdk/rx"},
     "sdk/ed": {"sdk/ed", "sdk/rx"},
-    "sdk/db": {"sdk/db", "sdk/ge", "sdk/rx"},
-    "sdk/dxf": {"sdk/dxf", "sdk/db", "sdk/ge", "sdk/rx"},
+    "sdk/dxf": {"sdk/dxf", "sdk/rx"},
+    "sdk/db": {"sdk/db", "sdk/dxf", "sdk/ge", "sdk/rx"},
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.M)
 
