@@ -25,7 +25,7 @@ SDK = {
     "sdk/rx": {"sdk/rx"},
     "sdk/ge": {"sdk/ge", "sdk/rx"},
     "sdk/ed": {"sdk/ed", "sdk/rx"},
-    "sdk/dxf": {"sdk/dxf", "sdk/rx"},
+    "sdk/dxf": {"sdk/dxf", "sdk/ge", "sdk/rx"},
     "sdk/db": {"sdk/db", "sdk/dxf", "sdk/ge", "sdk/rx"},
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.M)
