@@ -20,17 +20,35 @@ std::vector<std::string_view> OdDbDrawingWriter::pieces() {
     prepareHeader();
     if (header.isChanged() && impl.sections.count("HEADER") == 0)
         emitHeaderSection();
+    headerBegin = beginOf("HEADER");
+    previewBegin = beginOf("THUMBNAILIMAGE");
+    const OdDbStub* fileEnd = beginOf("EOF");
     for (std::size_t i = 0; i < impl.fileStubCount; ++i) {
         OdDbStub& stub = impl.stubs[i];
-        for (OdDbStub* added : before[&stub])
-            emitNew(*added);
-        for (OdDbStub* added : blocksBefore[&stub])
-            emitBlock(*added);
-        if (impl.sections["EOF"].begin == &stub)
+        if (!before.empty() || !blocksBefore.empty())
+            emitAdded(stub);
+        if (&stub == fileEnd)
             emitMissingSections();
         emitFileRecord(stub);
     }
     return std::move(result);
+}
+
+// What comes before a record of the file; only ends of tables, blocks and sections have something.
+void OdDbDrawingWriter::emitAdded(const OdDbStub& stub) {
+    const auto records = before.find(&stub);
+    if (records != before.end())
+        for (OdDbStub* added : records->second)
+            emitNew(*added);
+    const auto blocks = blocksBefore.find(&stub);
+    if (blocks != blocksBefore.end())
+        for (OdDbStub* added : blocks->second)
+            emitBlock(*added);
+}
+
+const OdDbStub* OdDbDrawingWriter::beginOf(const char* sectionName) const {
+    const auto found = impl.sections.find(sectionName);
+    return found == impl.sections.end() ? nullptr : found->second.begin;
 }
 
 const OdDbStub* OdDbDrawingWriter::endOf(const char* sectionName) const {
@@ -142,15 +160,15 @@ bool OdDbDrawingWriter::refersToErased(OdDbStub& stub) const {
 void OdDbDrawingWriter::emitFileRecord(OdDbStub& stub) {
     if (isLeftOut(stub))
         return;
-    if (&stub == impl.sections["HEADER"].begin && header.isChanged()) {
+    if (&stub == headerBegin && header.isChanged()) {
         emit(stub.bytes().substr(0, impl.headerStart));
         return emitOwned(header.bytes());
     }
-    if (&stub == impl.sections["THUMBNAILIMAGE"].begin && impl.newPreview)
+    if (&stub == previewBegin && impl.newPreview)
         return emitOwned(odDbThumbnailSectionText(*impl.newPreview, impl.carriageReturns, true));
     if (stub.has(OdDbStub::kChanged) || refersToErased(stub))
         return emitObject(stub);
-    if (impl.typeName(stub).compare(0, 6, "TABLE:") == 0)
+    if (!before.empty() && impl.typeName(stub).compare(0, 6, "TABLE:") == 0)
         return emitTableHead(stub);
     emit(stub.bytes());
 }
@@ -231,6 +249,6 @@ void OdDbDrawingWriter::emitMissingSections() {
             std::string_view(name) == "BLOCKS" ? emitBlock(*stub) : emitNew(*stub);
         emitTag(0, "ENDSEC");
     }
-    if (impl.newPreview && !impl.sections["THUMBNAILIMAGE"].begin)
+    if (impl.newPreview && !previewBegin)
         emitOwned(odDbThumbnailSectionText(*impl.newPreview, impl.carriageReturns, false));
 }

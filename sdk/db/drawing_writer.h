@@ -32,6 +32,8 @@ private:
     void emitMissingSections();
     bool isLeftOut(const OdDbStub& stub) const;
     bool refersToErased(OdDbStub& stub) const;
+    void emitAdded(const OdDbStub& stub);
+    const OdDbStub* beginOf(const char* sectionName) const;
     const OdDbStub* endOf(const char* sectionName) const;
 
     OdDbDatabaseImpl& impl;
@@ -39,6 +41,8 @@ private:
     std::unordered_map<const OdDbStub*, Stubs> before; // new records to write before a record of the file
     std::unordered_map<const OdDbStub*, Stubs> blocksBefore;
     std::map<std::string, Stubs> missing; // by section or table name: new records without such a place
+    const OdDbStub* headerBegin = nullptr;
+    const OdDbStub* previewBegin = nullptr;
     std::vector<std::string_view> result;
     std::deque<std::string> texts;
 };
