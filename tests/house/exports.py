@@ -8,7 +8,7 @@ import sys
 def wanted(path):
     text = re.sub(r"#[^\n]*", "", open(path, encoding="utf-8").read())
     text = text[text.index("global:"):text.index("local:")]
-    demangled = set(re.findall(r'"([^"]+)"', text))
+    demangled = set(re.findall(r'"([^"]+)";', text))
     plain = set(re.findall(r"^\s*([A-Za-z_]\w*);", text, re.M))
     return plain | demangled
 
