@@ -25,39 +25,68 @@ OdResBufPtr storedValue(const SysVarDef& definition, IParam* section) {
     return accepts(definition, *result) ? result : OdResBufPtr();
 }
 
+// Keeps a value for a scope.
+class Marked {
+public:
+    Marked(DrawingVars*& variable, DrawingVars* value) : mark(variable), former(variable) { mark = value; }
+    ~Marked() { mark = former; }
+    Marked(const Marked&) = delete;
+    Marked& operator=(const Marked&) = delete;
+
+private:
+    DrawingVars*& mark;
+    DrawingVars* former;
+};
+
 } // namespace
 
 VarService::VarService(SysVarTable variableTable, DrawingVarsLookup drawingVars)
-    : variables(std::move(variableTable)), drawingVarsOf(std::move(drawingVars)) {}
+    : variables(std::move(variableTable)), drawingVarsOf(std::move(drawingVars)) {
+    odDbSetApplicationVariables(this);
+}
+
+VarService::~VarService() {
+    if (odDbApplicationVariables() == this)
+        odDbSetApplicationVariables(nullptr);
+}
 
 void VarService::keepIn(Ref<IParam> section) {
-    store = std::move(section);
+    profileSection = std::move(section);
     applicationValues.clear();
     for (const SysVarDef& definition : variables.all())
         if (definition.scope == VarScope::Application && !definition.readOnly)
-            if (const OdResBufPtr value = storedValue(definition, store.get()))
+            if (const OdResBufPtr value = storedValue(definition, profileSection.get()))
                 applicationValues[definition.name] = value;
 }
 
-std::map<QString, OdResBufPtr>* VarService::valuesFor(const SysVarDef& definition, OdRxObject* context) {
+std::map<QString, OdResBufPtr>* VarService::valuesFor(const SysVarDef& definition, DrawingVars* drawing) {
     if (definition.scope == VarScope::Application)
         return &applicationValues;
-    DrawingVars* drawing = drawingVarsOf ? drawingVarsOf(context) : nullptr;
     return drawing ? &drawing->values : nullptr;
+}
+
+OdResBufPtr VarService::valueIn(const SysVarDef& definition, DrawingVars* drawing) {
+    const auto* values = valuesFor(definition, drawing);
+    if (!values)
+        return {};
+    const auto set = values->find(definition.name);
+    return (set == values->end() ? definition.defaultValue : set->second)->clone();
 }
 
 int VarService::getVar(const OdString& name, OdResBufPtr* out, OdRxObject* context, int) {
     const SysVarDef* definition = variables.find(hostqt::qString(name));
-    auto* values = definition ? valuesFor(*definition, context) : nullptr;
-    if (!values)
+    if (!definition)
         return kVarUnavailable;
+    DrawingVars* drawing = drawingVarsOf(context);
     OdResBufPtr value;
-    if (definition->scope == VarScope::Drawing)
-        value = drawingVarsOf(context)->ownValue(definition->name);
-    const auto set = values->find(definition->name);
+    if (definition->scope == VarScope::Drawing && drawing) {
+        const Marked asking(askedFor, drawing);
+        value = drawing->valueInDrawing(definition->name);
+    }
+    value = value.isNull() ? valueIn(*definition, drawing) : converted(*definition, *value);
     if (value.isNull())
-        value = set == values->end() ? definition->defaultValue : set->second;
-    *out = value->clone();
+        return kVarUnavailable;
+    *out = value;
     return kVarOk;
 }
 
@@ -65,19 +94,27 @@ int VarService::setVar(const OdString& name, OdResBuf* value, OdRxObject* contex
     const SysVarDef* definition = variables.find(hostqt::qString(name));
     if (!definition || definition->readOnly || !value || !accepts(*definition, *value))
         return kVarUnavailable;
-    auto* values = valuesFor(*definition, context);
-    if (!values)
+    DrawingVars* drawing = drawingVarsOf(context);
+    if (!valuesFor(*definition, drawing))
         return kVarUnavailable;
-    const OdResBufPtr kept = converted(*definition, *value);
-    (*values)[definition->name] = kept;
-    keep(*definition, *kept);
+    store(*definition, converted(*definition, *value), drawing);
     if (changed)
         changed(definition->name);
     return kVarOk;
 }
 
+void VarService::store(const SysVarDef& definition, const OdResBufPtr& value, DrawingVars* drawing) {
+    if (definition.scope == VarScope::Drawing) {
+        const Marked asking(askedFor, drawing);
+        if (drawing->setInDrawing(definition.name, *value))
+            return;
+    }
+    (*valuesFor(definition, drawing))[definition.name] = value;
+    keep(definition, *value);
+}
+
 void VarService::keep(const SysVarDef& definition, const OdResBuf& value) {
-    if (!store || definition.scope == VarScope::Drawing)
+    if (!profileSection || definition.scope == VarScope::Drawing)
         return;
     CKWVariant variant;
     if (definition.type == VarType::Text)
@@ -86,7 +123,23 @@ void VarService::keep(const SysVarDef& definition, const OdResBuf& value) {
         variant = value.getDouble();
     else
         variant = int{value.getInt32()};
-    store->setValue(definition.name.toLatin1(), &variant);
+    profileSection->setValue(definition.name.toLatin1(), &variant);
+}
+
+OdResBufPtr VarService::getVariable(const OdString& name) {
+    const SysVarDef* definition = variables.find(hostqt::qString(name));
+    return definition ? valueIn(*definition, askedFor ? askedFor : drawingVarsOf(nullptr)) : OdResBufPtr();
+}
+
+bool VarService::setVariable(const OdString& name, const OdResBuf* value) {
+    const SysVarDef* definition = variables.find(hostqt::qString(name));
+    DrawingVars* drawing = askedFor ? askedFor : drawingVarsOf(nullptr);
+    if (!definition || !value || !accepts(*definition, *value) || !valuesFor(*definition, drawing))
+        return false;
+    const OdResBufPtr kept = converted(*definition, *value);
+    (*valuesFor(*definition, drawing))[definition->name] = kept;
+    keep(*definition, *kept);
+    return true;
 }
 
 // The tree lives at least as long as its walk.

@@ -2,18 +2,20 @@
 #pragma once
 
 #include "host/documents.h"
+#include "sdk/db/application_variables.h"
 #include "standin/sysvars/sysvar_table.h"
 
 #include <functional>
 
 namespace standin {
 
-// The values of the drawing variables of one document. A variable that was never set has its default.
+// The drawing variables of one document. What the drawing itself doesn't hold stands in `values`; a variable
+// that was never set has its default.
 class DrawingVars {
 public:
     virtual ~DrawingVars() = default;
-    // Values that follow from the document itself (its name, its folder), or null.
-    virtual OdResBufPtr ownValue(const QString& /*name*/) { return {}; }
+    virtual OdResBufPtr valueInDrawing(const QString& /*name*/) { return {}; } // null when it holds none
+    virtual bool setInDrawing(const QString& /*name*/, const OdResBuf& /*value*/) { return false; }
     std::map<QString, OdResBufPtr> values;
 };
 
@@ -23,9 +25,11 @@ enum { kVarOk = 5100 };
 // may be null when there is no document.
 using DrawingVarsLookup = std::function<DrawingVars*(OdRxObject* context)>;
 
-class VarService : public HostVarService {
+class VarService : public HostVarService, public OdDbApplicationVariables {
 public:
+    // Serves the drawings too for what they don't hold by themselves, as long as it lives.
     VarService(SysVarTable variableTable, DrawingVarsLookup drawingVars);
+    ~VarService() override;
     // The section that application variables live in; their values are read from it at once.
     void keepIn(Ref<IParam> section);
 
@@ -37,17 +41,24 @@ public:
     void openOptionTree(IParam* tree) override;
     void closeOptionTree(IParam* tree) override;
 
+    // Asked by a drawing for a variable that it doesn't hold.
+    OdResBufPtr getVariable(const OdString& name) override;
+    bool setVariable(const OdString& name, const OdResBuf* value) override;
+
     const SysVarTable& table() const { return variables; }
     std::function<void(const QString& name)> changed; // after every successful setVar
 
 private:
-    std::map<QString, OdResBufPtr>* valuesFor(const SysVarDef& definition, OdRxObject* context);
+    std::map<QString, OdResBufPtr>* valuesFor(const SysVarDef& definition, DrawingVars* drawing);
+    OdResBufPtr valueIn(const SysVarDef& definition, DrawingVars* drawing);
+    void store(const SysVarDef& definition, const OdResBufPtr& value, DrawingVars* drawing);
     void keep(const SysVarDef& definition, const OdResBuf& value);
 
     SysVarTable variables;
     DrawingVarsLookup drawingVarsOf;
     std::map<QString, OdResBufPtr> applicationValues;
-    Ref<IParam> store;
+    DrawingVars* askedFor = nullptr; // the document whose drawing is being asked
+    Ref<IParam> profileSection;
     Ref<IParam> openTree;
 };
 

@@ -1,0 +1,89 @@
+#include "standin/documents/document_manager.h"
+
+#include "host/text.h"
+#include "sdk/db/database.h"
+#include "standin/console/console.h"
+#include "standin/registry.h"
+#include "standin/sysvars/read_context.h"
+
+#include <QFileInfo>
+#include <algorithm>
+
+namespace standin {
+
+DocumentManager::DocumentManager(Console& console, SysVarTable variables)
+    : io(console),
+      variableService(std::move(variables), [this](OdRxObject* context) { return drawingVars(context); }) {
+    registry().documents = this;
+}
+
+DocumentManager::~DocumentManager() {
+    if (registry().documents == this)
+        registry().documents = nullptr;
+}
+
+HostCommandIO* DocumentManager::fallbackIO() { return &io; }
+
+std::vector<Document*> DocumentManager::all() const {
+    std::vector<Document*> result;
+    for (const auto& document : documents)
+        result.push_back(document.get());
+    return result;
+}
+
+Document* DocumentManager::adopt(std::unique_ptr<Document> document) {
+    documents.push_back(std::move(document));
+    activate(documents.back().get());
+    return current;
+}
+
+Document* DocumentManager::openEmpty() {
+    const QString title = tr("Drawing%1").arg(++emptyCount);
+    return adopt(std::make_unique<Document>(OdDbDatabase::createEmpty(), io, title));
+}
+
+Document* DocumentManager::openFile(const QString& path) {
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    auto database = OdDbDatabase::readFile(hostqt::odString(absolute));
+    auto document = std::make_unique<Document>(std::move(database), io, QString());
+    document->setPath(absolute);
+    return adopt(std::move(document));
+}
+
+void DocumentManager::activate(Document* document) {
+    if (document == current)
+        return;
+    current = document;
+    emit currentChanged();
+}
+
+void DocumentManager::close(Document* document) {
+    const auto found = std::find_if(documents.begin(), documents.end(),
+                                    [&](const auto& open) { return open.get() == document; });
+    if (found == documents.end())
+        return;
+    const std::unique_ptr<Document> closing = std::move(*found);
+    const auto after = documents.erase(found);
+    if (current == document) {
+        const auto next = after == documents.begin() ? after : std::prev(after);
+        activate(documents.empty() ? nullptr : next->get());
+    }
+    emit documentClosed(closing->displayName());
+}
+
+Document* DocumentManager::documentOf(const OdRxObject* database) const {
+    const auto found = std::find_if(documents.begin(), documents.end(),
+                                    [&](const auto& open) { return open->database().get() == database; });
+    return found == documents.end() ? nullptr : found->get();
+}
+
+// Without a context, or with one that no open document belongs to, the current document counts.
+DrawingVars* DocumentManager::drawingVars(OdRxObject* context) const {
+    const OdRxObject* database = databaseOf(context);
+    Document* document = database ? documentOf(database) : nullptr;
+    return document ? document : current;
+}
+
+} // namespace standin
+
+#include "moc_document_manager.cpp"

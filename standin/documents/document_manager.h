@@ -1,0 +1,47 @@
+// The open documents and which of them is the current one.
+#pragma once
+
+#include "standin/documents/document.h"
+
+#include <QObject>
+#include <vector>
+
+namespace standin {
+
+// Registers itself as HostDocManager() for its lifetime.
+class DocumentManager : public QObject, public HostDocumentManager {
+    Q_OBJECT
+public:
+    DocumentManager(Console& console, SysVarTable variables);
+    ~DocumentManager() override;
+
+    HostDocument* currentDocument() override { return current; }
+    HostCommandIO* fallbackIO() override;
+    HostVarService* varService() override { return &variableService; }
+    VarService& variables() { return variableService; }
+
+    Document* currentOne() const { return current; }
+    std::vector<Document*> all() const;
+    // Both make the new document the current one. An empty one is titled Drawing1, Drawing2 and so on.
+    Document* openEmpty();
+    Document* openFile(const QString& path); // throws OdError
+    void activate(Document* document);
+    void close(Document* document);                         // the one opened before it becomes current
+    Document* documentOf(const OdRxObject* database) const; // null when it is none of the open ones'
+
+signals:
+    void currentChanged();
+    void documentClosed(const QString& title);
+
+private:
+    Document* adopt(std::unique_ptr<Document> document);
+    DrawingVars* drawingVars(OdRxObject* context) const;
+
+    Console& io;
+    VarService variableService;
+    std::vector<std::unique_ptr<Document>> documents;
+    Document* current = nullptr;
+    int emptyCount = 0;
+};
+
+} // namespace standin

@@ -1,0 +1,24 @@
+// Loads a plug-in module at run time, as the host does.
+#pragma once
+
+#include "sdk/rx/rx_module.h"
+
+#include <QString>
+
+namespace workbench {
+
+class LoadedModule {
+public:
+    // Loads the library, makes its module object and starts it. On failure `problem` says why.
+    LoadedModule(const QString& file, QString* problem);
+    // Stops and destroys the module object. The library stays: objects made by it may live on.
+    ~LoadedModule();
+    LoadedModule(const LoadedModule&) = delete;
+    LoadedModule& operator=(const LoadedModule&) = delete;
+    bool isLoaded() const { return module != nullptr; }
+
+private:
+    OdRxModule* module = nullptr;
+};
+
+} // namespace workbench

@@ -1,0 +1,53 @@
+// Plays a script: its lines answer the console one after the other, lines that begin with @ act on the active
+// window.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QStringList>
+#include <QTimer>
+#include <functional>
+
+namespace standin {
+class CommandLoop;
+class Console;
+} // namespace standin
+
+namespace workbench {
+
+class ScriptPlayer : public QObject {
+    Q_OBJECT
+public:
+    ScriptPlayer(const QString& scriptName, const QString& text, standin::Console& console,
+                 const standin::CommandLoop& commandLoop);
+    ~ScriptPlayer() override;
+    void start();
+    // How long a line waits until the console or a window is ready for it.
+    void setPatience(int milliseconds) { patience = milliseconds; }
+    bool isAtEnd() const { return position == lines.size(); } // every line was taken
+
+signals:
+    // `problem` is empty when every line was taken; else it names the line and what is wrong with it.
+    void finished(const QString& problem);
+
+private:
+    enum class Outcome { Taken, NotYet };
+    void step();
+    Outcome take(const QString& line);
+    Outcome act(const QString& line);
+    void runAction(const std::function<void()>& action);
+    void finish(const QString& problem);
+    QString whatIsThere() const;
+
+    QString name;
+    QStringList lines;
+    standin::Console& io;
+    const standin::CommandLoop& loop;
+    QTimer timer;
+    QElapsedTimer waiting; // since the present line became due
+    int position = 0;
+    int patience = 10000;
+    bool acting = false; // an action was posted and has not begun
+};
+
+} // namespace workbench

@@ -1,0 +1,43 @@
+#include "workbench/window/window_place.h"
+
+#include "host/app.h"
+#include "host/typed_reads.h"
+
+#include <QMainWindow>
+
+namespace workbench {
+
+namespace {
+
+const char* const geometryKey = "WindowGeometry";
+const char* const stateKey = "WindowState";
+
+void store(IParam* section, const char* key, const QByteArray& bytes) {
+    CKWVariant value;
+    value = bytes.toBase64().constData();
+    section->setValue(key, &value);
+}
+
+QByteArray stored(IParam* section, const char* key) {
+    CXString text;
+    readValue(section, key, &text);
+    return QByteArray::fromBase64(text.c_str());
+}
+
+} // namespace
+
+void saveWindowPlace(const QMainWindow& window) {
+    const Ref<IParam> section = openChild(appService<IProfile>().get(), "Workbench", 1);
+    if (!section)
+        return;
+    store(section.get(), geometryKey, window.saveGeometry());
+    store(section.get(), stateKey, window.saveState());
+}
+
+void restoreWindowPlace(QMainWindow& window) {
+    const Ref<IParam> section = openChild(appService<IProfile>().get(), "Workbench");
+    window.restoreGeometry(stored(section.get(), geometryKey));
+    window.restoreState(stored(section.get(), stateKey));
+}
+
+} // namespace workbench

@@ -1,0 +1,161 @@
+#include "workbench/workbench.h"
+
+#include "host/app.h"
+#include "host/typed_reads.h"
+#include "standin/console/error_text.h"
+#include "standin/events/events.h"
+#include "standin/help/help_service.h"
+#include "standin/params/application.h"
+#include "standin/qt_application/host_application.h"
+#include "standin/registry.h"
+#include "workbench/commands/commands.h"
+#include "workbench/module_loader.h"
+#include "workbench/script/script_player.h"
+#include "workbench/window/main_window.h"
+#include "workbench/window/window_place.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLocale>
+#include <cstdio>
+
+using namespace standin;
+
+namespace workbench {
+
+namespace {
+
+SysVarTable readVariables(const QString& dataDir, Console& console) {
+    QStringList problems;
+    SysVarTable table = SysVarTable::fromFile(dataDir + QStringLiteral("/sysvars.yaml"), &problems);
+    for (const QString& problem : problems)
+        console.print(problem);
+    return table;
+}
+
+} // namespace
+
+Workbench::Workbench(const Launch& launchOptions) : launch(launchOptions) {
+    if (launch.headless)
+        printTranscript();
+    catalogues.load(QCoreApplication::applicationDirPath() + QStringLiteral("/translations"),
+                    QLocale().name());
+    ApplicationSetup setup;
+    setup.dataDir = launch.dataDir;
+    setup.rootDir = launch.rootDir;
+    setup.io.reportProblem = [this](const QString& problem) { report(problem); };
+    application = std::make_unique<Application>(setup);
+    documents = std::make_unique<DocumentManager>(io, readVariables(launch.dataDir, io));
+    documents->variables().keepIn(openChild(appService<IProfile>().get(), "SysVars", 1));
+    provideServices();
+    appliedTheme = readSettings(appService<IProfile>().get()).theme;
+    styles.setTheme(launch.theme.value_or(appliedTheme));
+    QString problem;
+    module = std::make_unique<LoadedModule>(launch.moduleFile, &problem);
+    if (!problem.isEmpty())
+        report(problem);
+    mainWindow = std::make_unique<MainWindow>(io, loop, *documents, styles);
+    addCommands();
+    applySettings();
+}
+
+// The module goes first: it still finds the host around it.
+Workbench::~Workbench() {
+    player.reset();
+    mainWindow.reset();
+    module.reset();
+    registry().help = nullptr;
+    registry().events = nullptr;
+    registry().dialogParent = nullptr;
+}
+
+void Workbench::provideServices() {
+    help = Ref<HelpService>::share(new HelpService(launch.dataDir + QStringLiteral("/help")));
+    events = Ref<Events>::share(new Events([this](const QString& text) { io.print(text); }));
+    registry().help = help.get();
+    registry().events = events.get();
+    if (auto* host = qobject_cast<HostApplication*>(QCoreApplication::instance()))
+        host->report = [this](const QString& problem) { report(problem); };
+}
+
+void Workbench::addCommands() {
+    const CommandScope scope{io, loop, *documents, styles};
+    addProgramCommands(scope);
+    addDrawingCommands(scope);
+    addVariableCommands(scope);
+    connect(&loop, &CommandLoop::commandEnded, this, &Workbench::applySettings);
+    connect(mainWindow.get(), &MainWindow::themeChosen, this, &Workbench::chooseTheme);
+}
+
+void Workbench::report(const QString& problem) {
+    if (launch.headless)
+        std::fprintf(stderr, "%s\n", problem.toLocal8Bit().constData());
+    io.print(problem);
+}
+
+void Workbench::printTranscript() {
+    connect(&io, &Console::lineWritten, this, [](const QString& line) {
+        std::printf("%s\n", line.toLocal8Bit().constData());
+        std::fflush(stdout);
+    });
+}
+
+void Workbench::chooseTheme(int theme) {
+    writeTheme(appService<IProfile>().get(), theme);
+    styles.setTheme(theme);
+}
+
+// A theme given on the command line stays until the user chooses one.
+void Workbench::applySettings() {
+    const Settings settings = readSettings(appService<IProfile>().get());
+    if (settings.theme != appliedTheme)
+        styles.setTheme(settings.theme);
+    appliedTheme = settings.theme;
+    mainWindow->apply(settings);
+}
+
+void Workbench::start() {
+    if (readSettings(appService<IProfile>().get()).restoreWindow && launch.scriptFile.isEmpty())
+        restoreWindowPlace(*mainWindow);
+    mainWindow->show();
+    openFirstDrawing();
+    if (launch.headless || !launch.scriptFile.isEmpty())
+        play();
+}
+
+void Workbench::openFirstDrawing() {
+    const QString problem = errorTextOf([this] {
+        if (launch.drawing.isEmpty())
+            return documents->openEmpty();
+        return documents->openFile(launch.drawing);
+    });
+    if (!problem.isNull())
+        report(problem);
+}
+
+void Workbench::play() {
+    QFile file(launch.scriptFile);
+    const bool opened =
+        launch.scriptFile.isEmpty() ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    if (!opened)
+        return endScript(tr("%1: %2").arg(launch.scriptFile, file.errorString()));
+    const QString name = launch.scriptFile.isEmpty() ? tr("standard input") : launch.scriptFile;
+    player = std::make_unique<ScriptPlayer>(name, QString::fromUtf8(file.readAll()), io, loop);
+    connect(player.get(), &ScriptPlayer::finished, this, &Workbench::endScript);
+    player->start();
+}
+
+void Workbench::endScript(const QString& problem) {
+    scriptFailed = !problem.isEmpty();
+    if (scriptFailed)
+        report(problem);
+    // Later: before the main loop runs there is nothing to leave.
+    if (launch.headless)
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+int Workbench::exitStatus() const { return scriptFailed || (player && !player->isAtEnd()) ? 1 : 0; }
+
+} // namespace workbench
+
+#include "moc_workbench.cpp"

@@ -1,0 +1,68 @@
+// The workbench as a whole: the host's pieces put together, the plug-in loaded, the window.
+#pragma once
+
+#include "standin/console/command_loop.h"
+#include "standin/console/console.h"
+#include "standin/documents/document_manager.h"
+#include "standin/themes/style_manager.h"
+#include "standin/translation/translation.h"
+#include "workbench/command_line.h"
+#include "workbench/settings.h"
+
+#include <memory>
+
+namespace standin {
+class Application;
+class Events;
+class HelpService;
+} // namespace standin
+
+namespace workbench {
+
+class LoadedModule;
+class MainWindow;
+class ScriptPlayer;
+
+// Make it after the application object; it registers itself behind the host's functions until it goes.
+class Workbench : public QObject {
+    Q_OBJECT
+public:
+    explicit Workbench(const Launch& launchOptions);
+    ~Workbench() override;
+
+    // Shows the window (or nothing, when headless), opens the drawing, and plays the script.
+    void start();
+    int exitStatus() const;              // 0, or 1 when a script was not taken to its end
+    void report(const QString& problem); // tells the user of something that went wrong
+
+    standin::Console& console() { return io; }
+    standin::CommandLoop& commands() { return loop; }
+    MainWindow* window() const { return mainWindow.get(); }
+
+private:
+    void provideServices();
+    void addCommands();
+    void openFirstDrawing();
+    void play();
+    void endScript(const QString& problem);
+    void applySettings();
+    void chooseTheme(int theme);
+    void printTranscript();
+
+    const Launch launch;
+    standin::Console io;
+    standin::CommandLoop loop{io};
+    standin::StyleManager styles;
+    standin::Catalogues catalogues;
+    std::unique_ptr<standin::Application> application;
+    std::unique_ptr<standin::DocumentManager> documents;
+    Ref<standin::HelpService> help;
+    Ref<standin::Events> events;
+    std::unique_ptr<LoadedModule> module;
+    std::unique_ptr<MainWindow> mainWindow;
+    std::unique_ptr<ScriptPlayer> player;
+    int appliedTheme = -1; // the one that the profile held last
+    bool scriptFailed = false;
+};
+
+} // namespace workbench
