@@ -77,7 +77,6 @@ public:
     std::size_t fileStubCount = 0;
     OdDbHandleMap handles;
     std::uint64_t nextHandle = 1;
-    std::uint64_t fileNextHandle = 0; // what the file itself says, or at least allows
     std::map<std::string, OdDbSection> sections;
     std::map<std::string, OdDbTableContent> tables;
     std::unordered_map<const OdDbStub*, OdDbBlockContent> blocks;

@@ -58,13 +58,10 @@ void OdDbDrawingReader::numberTheRest() {
     const std::uint64_t seed = dxfHandle(impl.header.value("$HANDSEED", "0"));
     impl.fileHasHandles = impl.version >= kVersionR13 || impl.handles.highest() > 0;
     impl.nextHandle = std::max(impl.handles.highest() + 1, seed < highestSeed ? seed : 0);
-    impl.fileNextHandle = impl.nextHandle;
     for (OdDbStub* stub : unnumbered) {
         stub->handle = impl.nextHandle++;
         impl.handles.insert(stub);
     }
-    if (!impl.fileHasHandles)
-        impl.fileNextHandle = impl.nextHandle;
 }
 
 void OdDbDrawingReader::addMissingTables() {

@@ -59,8 +59,10 @@ const OdDbStub* OdDbDrawingWriter::endOf(const char* sectionName) const {
 void OdDbDrawingWriter::placeNewRecords() {
     for (std::size_t i = impl.fileStubCount; i < impl.stubs.size(); ++i) {
         OdDbStub& stub = impl.stubs[i];
-        if (!stub.has(OdDbStub::kErased) && !stub.has(OdDbStub::kUnwritten))
-            placeNewRecord(stub);
+        if (stub.has(OdDbStub::kErased) || stub.has(OdDbStub::kUnwritten))
+            continue;
+        placeNewRecord(stub);
+        writesNewHandles = true;
     }
     for (const auto& [record, content] : impl.blocks) {
         if (!content.begin || content.begin->source || content.begin->has(OdDbStub::kErased))
@@ -123,7 +125,7 @@ void OdDbDrawingWriter::refuseWhatTheVersionLacks() const {
 
 void OdDbDrawingWriter::prepareHeader() {
     header = impl.header;
-    if (impl.fileHasHandles && impl.nextHandle != impl.fileNextHandle)
+    if (impl.fileHasHandles && writesNewHandles)
         header.set("$HANDSEED", 5, dxfHandleText(impl.nextHandle));
 }
 

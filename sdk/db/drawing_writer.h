@@ -41,6 +41,7 @@ private:
     std::unordered_map<const OdDbStub*, Stubs> before; // new records to write before a record of the file
     std::unordered_map<const OdDbStub*, Stubs> blocksBefore;
     std::map<std::string, Stubs> missing; // by section or table name: new records without such a place
+    bool writesNewHandles = false;
     const OdDbStub* headerBegin = nullptr;
     const OdDbStub* previewBegin = nullptr;
     std::vector<std::string_view> result;

@@ -71,7 +71,9 @@ void OdDbObject::assertWriteEnabled() {
         ownStub->database->impl().rememberImage(*this);
 }
 
-const DxfCodec& OdDbObject::codec() const { return ownStub ? ownStub->database->impl().codec : unicodeCodec(); }
+const DxfCodec& OdDbObject::codec() const {
+    return ownStub ? ownStub->database->impl().codec : unicodeCodec();
+}
 
 OdString OdDbObject::textValue(std::string_view subclassName, int code) const {
     const std::size_t found = content.find(code, content.subclass(subclassName));

@@ -164,17 +164,7 @@ TEST_F(Undo, UndoneDrawingIsWrittenAsItWasRead) {
     addGroup(*read, L"G", {addLine(*read, 1)});
     EXPECT_NE(read->writeBytes(), bytes);
     read->undo();
-    std::string after = read->writeBytes();
-    // Handles that were given out once are not given out again: that is all that stays.
-    const OdDbDatabasePtr again = OdDbDatabase::readBytes(after);
-    const auto seed = [](std::string& text) {
-        const std::size_t at = text.find("$HANDSEED");
-        text.erase(at, text.find("  9\n", at) - at);
-    };
-    std::string expected = bytes;
-    seed(after);
-    seed(expected);
-    EXPECT_EQ(after, expected);
+    EXPECT_EQ(read->writeBytes(), bytes);
 }
 
 TEST_F(Undo, SummaryIsUndoneLikeAnyChange) {

@@ -1,0 +1,227 @@
+# Drawings written by ezdxf, read and saved by us; drawings written by us, read and audited by ezdxf.
+import json
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+import ezdxf
+import ezdxf.bbox
+from ezdxf.lldxf.encoding import decode_dxf_unicode as decoded
+
+TOOL = sys.argv.pop()
+VERSIONS = ["R12", "R2000", "R2004", "R2007", "R2010", "R2013", "R2018"]
+EVERYTHING = "layer,entities,group,summary,xref"
+
+
+def tool(*arguments):
+    done = subprocess.run([TOOL, *map(str, arguments)], capture_output=True, text=True)
+    assert done.returncode == 0, done.stderr
+    return done.stdout
+
+
+def report(path):
+    return json.loads(tool("report", path))
+
+
+def raw_tags(path, encoding):
+    with open(path, encoding=encoding) as stream:
+        lines = stream.read().split("\n")
+    return [(int(lines[i]), lines[i + 1]) for i in range(0, len(lines) - 1, 2)]
+
+
+def build(version):
+    """A drawing with a bit of everything."""
+    doc = ezdxf.new(version)
+    doc.encoding = "cp1252" if version < "R2007" else "utf8"
+    space = doc.modelspace()
+    doc.layers.add("Mauern", color=3)
+    part = doc.blocks.new("PART")
+    part.add_circle((1, 1), 1)
+    nested = doc.blocks.new("NESTED")
+    nested.add_blockref("PART", (10, 0))
+    nested.add_line((0, 0), (3, 4))
+    entities = [
+        space.add_line((0, 0), (10, 5), dxfattribs={"layer": "Mauern"}),
+        space.add_circle((20, 20), 5, dxfattribs={"color": 1}),
+        space.add_arc((0, 30), 4, 30, 200),
+        space.add_point((-7, -8)),
+        space.add_text("Küche größer", dxfattribs={"height": 1}),
+        space.add_blockref("NESTED", (40, 10)),
+    ]
+    space.add_polyline2d([(0, 0, 0, 0, 0.5), (5, 0, 0, 0, 0), (5, 5, 0, 0, 0)], format="xyseb")
+    if version != "R12":
+        entities.append(space.add_lwpolyline([(50, 0, 1), (60, 0, 0)], format="xyb", close=True))
+        entities.append(space.add_mtext("Zeile eins\\PZeile zwei"))
+        doc.groups.new("Erste", description="die erste").extend(entities[:3])
+        doc.groups.new("Zweite", selectable=False).extend(entities[2:5])
+        doc.layout("Layout1").add_viewport((5, 5), (10, 10), (0, 0), 20)
+        doc.header.custom_vars.append("Projekt", "Haus am See")
+        doc.header.custom_vars.append("Projekt", "zweimal")
+        doc.add_xref_def("grund/plan.dxf", "Plan")
+        space.add_blockref("Plan", (1, 2))
+    return doc
+
+
+class WithEzdxf(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.path = pathlib.Path(self.folder.name)
+
+    def tearDown(self):
+        self.folder.cleanup()
+
+    def saved(self, version):
+        path = self.path / f"{version}.dxf"
+        build(version).saveas(path)
+        return path
+
+    def audited(self, path):
+        doc = ezdxf.readfile(path)
+        auditor = doc.audit()
+        self.assertEqual([], [e.message for e in auditor.errors])
+        self.assertEqual([], [e.message for e in auditor.fixes])
+        return doc
+
+    def test_unchanged_drawings_come_back_byte_for_byte(self):
+        for version in VERSIONS:
+            with self.subTest(version):
+                path = self.saved(version)
+                tool("copy", path, self.path / "copy.dxf")
+                self.assertEqual(path.read_bytes(), (self.path / "copy.dxf").read_bytes())
+
+    def test_entities_and_texts_are_found(self):
+        for version in VERSIONS:
+            with self.subTest(version):
+                path = self.saved(version)
+                found = report(path)
+                expected = {}
+                for entity in ezdxf.readfile(path).modelspace():
+                    expected[entity.dxftype()] = expected.get(entity.dxftype(), 0) + 1
+                self.assertEqual(expected, found["entities"])
+                self.assertIn("Küche größer", found["texts"])
+                self.assertEqual([], found["warnings"])
+                self.assertIn("Mauern", found["layers"])
+
+    def test_groups_custom_properties_and_references_are_found(self):
+        for version in VERSIONS[1:]:
+            with self.subTest(version):
+                path = self.saved(version)
+                doc = ezdxf.readfile(path)
+                found = report(path)
+                groups = {name: sorted(e.dxf.handle for e in group) for name, group in doc.groups}
+                self.assertEqual(groups, {n: sorted(g["members"]) for n, g in found["groups"].items()})
+                tags = raw_tags(path, "cp1252" if version < "R2007" else "utf8")
+                handles = {e.dxf.handle for e in doc.modelspace()}
+                in_file = [v for c, v in tags if c == 340 and v in handles]
+                ours = found["groups"]["Erste"]["members"] + found["groups"]["Zweite"]["members"]
+                self.assertEqual(in_file, ours)
+                self.assertFalse(found["groups"]["Zweite"]["selectable"])
+                self.assertEqual("die erste", found["groups"]["Erste"]["description"])
+                self.assertEqual(True, found["blocks"]["Plan"]["xref"])
+                self.assertEqual("grund/plan.dxf", found["blocks"]["Plan"]["path"])
+                if version >= "R2004":
+                    self.assertEqual([["Projekt", "Haus am See"], ["Projekt", "zweimal"]], found["custom"])
+
+    def test_extents_agree(self):
+        for version in VERSIONS:
+            with self.subTest(version):
+                path = self.path / "extents.dxf"
+                doc = build(version)
+                for entity in list(doc.modelspace().query("TEXT MTEXT")):
+                    for _, group in doc.groups:
+                        if entity in list(group):
+                            group.clear()
+                    doc.modelspace().delete_entity(entity)
+                doc.saveas(path)
+                box = ezdxf.bbox.extents(doc.modelspace())
+                found = report(path)
+                for ours, theirs in zip(found["extmin"][:2] + found["extmax"][:2],
+                                        list(box.extmin)[:2] + list(box.extmax)[:2]):
+                    self.assertAlmostEqual(ours, theirs, 2)
+
+    def test_changed_drawings_are_read_without_complaint(self):
+        for version in VERSIONS[1:]:
+            with self.subTest(version):
+                path = self.saved(version)
+                before = ezdxf.readfile(path)
+                out = self.path / "changed.dxf"
+                tool("change", path, out, EVERYTHING)
+                doc = self.audited(out)
+                self.assertEqual(len(before.modelspace()) + 5, len(doc.modelspace()))
+                group = doc.groups.get("Everything")
+                self.assertEqual(len(doc.modelspace()) - 1, len(group))
+                self.assertEqual("Grüße 世界", decoded(group.dxf.description))
+                self.assertTrue(doc.blocks.get("Attached").block.is_xref_overlay)
+                self.assertEqual("other.dxf", doc.blocks.get("Attached").block.dxf.xref_path)
+                self.assertIn("Added", doc.layers)
+                text = doc.modelspace().query("TEXT").last
+                self.assertEqual("ÄÖÜ 世", decoded(text.dxf.text))
+                if version >= "R2004":
+                    custom = doc.header.custom_vars.properties
+                    self.assertEqual(("key", "value"), custom[2])
+                self.assertEqual(report(out)["title"], "Tïtle")
+                self.assertEqual(["key", "世界"], report(out)["custom"][-1])
+
+    def test_only_what_was_changed_differs(self):
+        for version in VERSIONS[1:]:
+            with self.subTest(version):
+                path = self.saved(version)
+                out = self.path / "changed.dxf"
+                tool("change", path, out, "group")
+                encoding = "cp1252" if version < "R2007" else "utf8"
+                before, after = raw_tags(path, encoding), raw_tags(out, encoding)
+                handles = [v for c, v in after if c == 5]
+                self.assertEqual(len(set(handles)), len(handles))
+                gone = [t for t in before if t not in after]
+                self.assertLessEqual(len(gone), 8, gone)
+
+    def test_oldest_version_takes_entities_and_references(self):
+        path = self.saved("R12")
+        out = self.path / "changed.dxf"
+        tool("change", path, out, "layer,entities,xref")
+        doc = self.audited(out)
+        self.assertIn("Attached", doc.blocks)
+        self.assertIn("Added", doc.layers)
+
+    def test_oldest_version_refuses_groups_instead_of_losing_them(self):
+        path = self.saved("R12")
+        out = self.path / "changed.dxf"
+        done = subprocess.run([TOOL, "change", path, out, "group"], capture_output=True, text=True)
+        self.assertEqual(1, done.returncode)
+        self.assertIn("R12", done.stderr)
+        self.assertFalse(out.exists())
+
+    def test_erased_entities_are_gone_without_a_trace(self):
+        for version in VERSIONS[1:]:
+            with self.subTest(version):
+                path = self.saved(version)
+                out = self.path / "changed.dxf"
+                tool("change", path, out, "erase")
+                doc = self.audited(out)
+                self.assertEqual(len(ezdxf.readfile(path).modelspace()) - 1, len(doc.modelspace()))
+                self.assertEqual(2, len(doc.groups.get("Erste")))
+
+    def test_new_drawings_are_read_without_complaint(self):
+        out = self.path / "new.dxf"
+        tool("new", out, EVERYTHING)
+        doc = self.audited(out)
+        self.assertEqual(5, len(doc.modelspace()))
+        self.assertEqual(4, len(doc.groups.get("Everything")))
+
+    def test_binary_drawings_hold_the_same(self):
+        for version in VERSIONS:
+            with self.subTest(version):
+                doc = build(version)
+                text, binary = self.path / "text.dxf", self.path / "binary.dxf"
+                doc.saveas(text)
+                doc.saveas(binary, fmt="bin")
+                self.assertEqual(report(text), report(binary))
+                tool("copy", binary, self.path / "copy.dxf")
+                self.assertEqual(report(text), report(self.path / "copy.dxf"))
+                self.audited(self.path / "copy.dxf")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=1)
