@@ -1,0 +1,128 @@
+// The program on its command line: scripts, their exit status, what goes where.
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Result {
+    int status;
+    QString out, err;
+};
+
+struct ScriptTest : testing::Test {
+    Result run(QStringList arguments, const QByteArray& input = {}) {
+        QProcess process;
+        process.setWorkingDirectory(folder.path());
+        process.start(QStringLiteral(WORKBENCH_FILE), arguments);
+        process.write(input);
+        process.closeWriteChannel();
+        EXPECT_TRUE(process.waitForFinished(60000));
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                QString::fromLocal8Bit(process.readAllStandardOutput()),
+                QString::fromLocal8Bit(process.readAllStandardError())};
+    }
+    Result play(const QByteArray& script) {
+        QFile file(folder.filePath("test.script"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(script);
+        file.close();
+        return run({"--headless", "--root", folder.filePath("root"), "--script", file.fileName()});
+    }
+    QTemporaryDir folder;
+};
+
+TEST_F(ScriptTest, LinesAnswerTheConsoleInOrder) {
+    const Result result = play("SETVAR\nPICKBOX\n9\nPICKBOX\n\n");
+    EXPECT_EQ(result.status, 0) << result.err.toStdString();
+    EXPECT_EQ(result.out, "Command: SETVAR\nEnter variable name or [?]: PICKBOX\n"
+                          "Half height of the pick box, in pixels.\n"
+                          "Enter new value for PICKBOX <4>: 9\nCommand: PICKBOX\n"
+                          "Half height of the pick box, in pixels.\nEnter new value for PICKBOX <9>: \n");
+}
+
+TEST_F(ScriptTest, BlankLineIsEnterAndRepeatsTheCommand) {
+    EXPECT_EQ(play("NEW\n\nDRAWINGS\n").out,
+              "Command: NEW\nCommand: NEW\nCommand: DRAWINGS\n  Drawing1\n  Drawing2\n* Drawing3\n");
+}
+
+TEST_F(ScriptTest, ControlCCancels) {
+    const Result result = play("SETVAR\n^C\nDRAWINGS\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(result.out.contains("Enter variable name or [?]: *Cancel*\nCommand: DRAWINGS\n"));
+}
+
+TEST_F(ScriptTest, LinesAfterQuitAreNotTaken) {
+    EXPECT_EQ(play("QUIT\n").status, 0);
+    EXPECT_EQ(play("QUIT\nNEW\n").status, 1);
+}
+
+TEST_F(ScriptTest, ActionThatIsNoneNamesItsLine) {
+    const Result result = play("NEW\n@fly away\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.err.contains("test.script:2: \"@fly away\" is no action on a window"));
+}
+
+TEST_F(ScriptTest, ActionsClickSetAndPressKeys) {
+    const Result result = play("@set commandLine DRAWINGS\n@key Return\n@click Light\n@screenshot light\n"
+                               "@click Dark\n@screenshot dark\n");
+    EXPECT_EQ(result.status, 0) << result.err.toStdString();
+    EXPECT_EQ(result.out, "Command: DRAWINGS\n* Drawing1\n");
+    const QImage light(folder.filePath("light.png")), dark(folder.filePath("dark.png"));
+    EXPECT_GT(light.pixelColor(300, 12).lightness(), 200);
+    EXPECT_LT(dark.pixelColor(300, 12).lightness(), 80);
+}
+
+TEST_F(ScriptTest, ScreenshotThatCannotBeWrittenIsAFault) {
+    const Result result = play("@screenshot no/such/folder/x\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.err.contains("test.script:1: no/such/folder/x.png can't be written"))
+        << result.err.toStdString();
+}
+
+TEST_F(ScriptTest, DialogOfACommandIsWorkedThrough) {
+    const Result result = play("QPREF\n@wait Preferences\n@key Escape\nDRAWINGS\n");
+    EXPECT_EQ(result.status, 0) << result.err.toStdString();
+    EXPECT_EQ(result.out, "Command: QPREF\nCommand: DRAWINGS\n* Drawing1\n");
+}
+
+TEST_F(ScriptTest, LinesComeFromTheStandardInputWithoutAScript) {
+    const Result result = run({"--headless", "--root", folder.filePath("root")}, "DRAWINGS\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out, "Command: DRAWINGS\n* Drawing1\n");
+}
+
+TEST_F(ScriptTest, MissingScriptIsTold) {
+    const Result result = run({"--headless", "--root", folder.filePath("root"), "--script", "nowhere"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.err.contains("nowhere: No such file or directory"));
+}
+
+TEST_F(ScriptTest, UnknownOptionIsTold) {
+    const Result result = run({"--frobnicate"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_TRUE(result.err.contains("frobnicate"));
+}
+
+TEST_F(ScriptTest, ThemeOutsideTheListIsTold) {
+    EXPECT_EQ(run({"--theme", "7"}).status, 2);
+    EXPECT_EQ(run({"--theme", "dark"}).status, 2);
+}
+
+TEST_F(ScriptTest, HelpIsPrinted) {
+    const Result result = run({"--help"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(result.out.contains("--script"));
+}
+
+TEST_F(ScriptTest, DrawingThatCannotBeOpenedIsTold) {
+    const Result result =
+        run({"--headless", "--root", folder.filePath("root"), folder.filePath("missing.dxf")}, "DRAWINGS\n");
+    EXPECT_TRUE(result.err.contains("missing.dxf")) << result.err.toStdString();
+    EXPECT_TRUE(result.out.endsWith("Command: DRAWINGS\nNo drawing is open.\n"));
+}
+
+} // namespace
