@@ -95,6 +95,13 @@ QString rowText(QTreeWidget* tree, QTreeWidgetItem* item) {
     return plain(label ? label->text() : item->text(0));
 }
 
+bool isShown(const QTreeWidgetItem* item) {
+    for (const QTreeWidgetItem* above = item->parent(); above; above = above->parent())
+        if (!above->isExpanded())
+            return false;
+    return true;
+}
+
 // The editor of a row whose only text is its label: what a user clicks to change it.
 Click clickOnRow(QWidget* window, const QString& text) {
     QTreeWidgetItem* item = treeRow(window, text);
@@ -128,12 +135,19 @@ std::function<void()> clickOn(QWidget* window, const QString& nameOrText) {
 }
 
 QTreeWidgetItem* treeRow(QWidget* window, const QString& text) {
-    for (QTreeWidget* tree : window->findChildren<QTreeWidget*>())
-        if (isReachable(tree, window))
-            for (QTreeWidgetItemIterator item(tree); *item; ++item)
-                if (rowText(tree, *item) == text)
-                    return *item;
-    return nullptr;
+    QTreeWidgetItem* collapsed = nullptr;
+    for (QTreeWidget* tree : window->findChildren<QTreeWidget*>()) {
+        if (!isReachable(tree, window))
+            continue;
+        for (QTreeWidgetItemIterator item(tree, QTreeWidgetItemIterator::NotHidden); *item; ++item) {
+            if (rowText(tree, *item) != text)
+                continue;
+            if (isShown(*item))
+                return *item;
+            collapsed = collapsed ? collapsed : *item;
+        }
+    }
+    return collapsed;
 }
 
 } // namespace workbench

@@ -17,8 +17,8 @@ QWidget* widgetNamed(QWidget* window, const QString& name);
 // text. Null when there is no such part, or it is disabled.
 std::function<void()> clickOn(QWidget* window, const QString& nameOrText);
 
-// The tree row that reads `text`, in the first tree of the window that has one; null when there is none. The
-// text of a row that is a widget is that of its label.
+// The tree row that reads `text`, one that is not inside a collapsed row if there is such; null when there is
+// none. The text of a row that is a widget is that of its label.
 QTreeWidgetItem* treeRow(QWidget* window, const QString& text);
 
 } // namespace workbench
