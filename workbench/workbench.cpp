@@ -25,6 +25,8 @@ namespace workbench {
 
 namespace {
 
+const int themeCheckInterval = 50; // milliseconds
+
 SysVarTable readVariables(const QString& dataDir, Console& console) {
     QStringList problems;
     SysVarTable table = SysVarTable::fromFile(dataDir + QStringLiteral("/sysvars.yaml"), &problems);
@@ -84,6 +86,11 @@ void Workbench::addCommands() {
     addDrawingCommands(scope);
     addVariableCommands(scope);
     connect(&loop, &CommandLoop::commandEnded, this, &Workbench::applySettings);
+    // A dialog that applies a theme shows it at once; everything else waits for the end of the command.
+    connect(&loop, &CommandLoop::commandStarted, &themeCheck,
+            [this] { themeCheck.start(themeCheckInterval); });
+    connect(&loop, &CommandLoop::commandEnded, &themeCheck, &QTimer::stop);
+    connect(&themeCheck, &QTimer::timeout, this, &Workbench::applyTheme);
     connect(mainWindow.get(), &MainWindow::themeChosen, this, &Workbench::chooseTheme);
 }
 
@@ -106,12 +113,16 @@ void Workbench::chooseTheme(int theme) {
 }
 
 // A theme given on the command line stays until the user chooses one.
+void Workbench::applyTheme() {
+    const int theme = readSettings(appService<IProfile>().get()).theme;
+    if (theme != appliedTheme)
+        styles.setTheme(theme);
+    appliedTheme = theme;
+}
+
 void Workbench::applySettings() {
-    const Settings settings = readSettings(appService<IProfile>().get());
-    if (settings.theme != appliedTheme)
-        styles.setTheme(settings.theme);
-    appliedTheme = settings.theme;
-    mainWindow->apply(settings);
+    applyTheme();
+    mainWindow->apply(readSettings(appService<IProfile>().get()));
 }
 
 void Workbench::start() {

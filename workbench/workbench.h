@@ -9,6 +9,7 @@
 #include "workbench/command_line.h"
 #include "workbench/settings.h"
 
+#include <QTimer>
 #include <memory>
 
 namespace standin {
@@ -46,6 +47,7 @@ private:
     void play();
     void endScript(const QString& problem);
     void applySettings();
+    void applyTheme();
     void chooseTheme(int theme);
     void printTranscript();
 
@@ -61,6 +63,7 @@ private:
     std::unique_ptr<LoadedModule> module;
     std::unique_ptr<MainWindow> mainWindow;
     std::unique_ptr<ScriptPlayer> player;
+    QTimer themeCheck;     // runs while a command does
     int appliedTheme = -1; // the one that the profile held last
     bool scriptFailed = false;
 };

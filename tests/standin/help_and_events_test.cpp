@@ -1,0 +1,94 @@
+// Help pages and messages to the user.
+#include "standin/events/events.h"
+#include "standin/help/help_service.h"
+#include "standin/registry.h"
+
+#include <QDialog>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTextBrowser>
+#include <gtest/gtest.h>
+
+using namespace standin;
+
+namespace {
+
+struct HelpTest : testing::Test {
+    HelpTest() {
+        QFile page(folder.filePath("IDH_GroupCmd[1].html"));
+        EXPECT_TRUE(page.open(QIODevice::WriteOnly));
+        page.write("<html><head><title>Groups</title></head><body>About groups.</body></html>");
+    }
+    QString shown() {
+        return help->window()->findChild<QTextBrowser*>(QStringLiteral("pageBrowser"))->toPlainText();
+    }
+    QTemporaryDir folder;
+    Ref<HelpService> help = Ref<HelpService>::share(new HelpService(folder.path()));
+};
+
+TEST_F(HelpTest, PageOfTheTopicIsShown) {
+    help->showTopic("IDH_GroupCmd[1]");
+    ASSERT_NE(help->window(), nullptr);
+    EXPECT_TRUE(help->window()->isVisible());
+    EXPECT_EQ(shown(), "About groups.");
+    EXPECT_EQ(help->window()->windowTitle(), "Help - Groups");
+}
+
+TEST_F(HelpTest, MissingPageIsTold) {
+    help->showTopic("IDH_None");
+    EXPECT_EQ(shown(), "There is no help page \"IDH_None\".");
+}
+
+TEST_F(HelpTest, TopicDoesNotLeadOutOfTheFolder) {
+    help->showTopic("../IDH_None");
+    EXPECT_TRUE(shown().startsWith("There is no help page"));
+}
+
+TEST_F(HelpTest, WindowBelongsToTheModalDialogSoThatItCanBeUsed) {
+    QDialog dialog;
+    dialog.setModal(true);
+    dialog.show();
+    help->showTopic("IDH_GroupCmd[1]");
+    EXPECT_EQ(help->window()->parentWidget(), &dialog);
+    dialog.hide();
+    help->showTopic("IDH_GroupCmd[1]");
+    EXPECT_EQ(help->window()->parentWidget(), nullptr);
+}
+
+struct EventsTest : testing::Test {
+    EventsTest() {
+        registry().messageBox = [this](MessageKind kind, const QString&, const QString& text,
+                                       EV_MB_RET offered) {
+            boxKind = kind;
+            box = text;
+            buttons = offered;
+            return answer;
+        };
+    }
+    ~EventsTest() override { registry() = saved; }
+    const HostRegistry saved = registry();
+    QString printed, box;
+    MessageKind boxKind = MessageKind::Critical;
+    EV_MB_RET buttons = EV_MB_NONE, answer = EV_MB_OK;
+    Ref<Events> events = Ref<Events>::share(new Events([this](const QString& text) { printed = text; }));
+};
+
+TEST_F(EventsTest, MessageIsShownAndPrinted) {
+    for (const int kind : {0, 12}) {
+        EXPECT_EQ(events->notify(kind, L"Invalid insertion point.", 0, 7), 1);
+        EXPECT_EQ(box, "Invalid insertion point.");
+        EXPECT_EQ(printed, box);
+        EXPECT_EQ(buttons, EV_MB_OK);
+    }
+}
+
+TEST_F(EventsTest, NoToAQuestionIsCancel) {
+    answer = EV_MB_NO;
+    EXPECT_EQ(events->notify(14, L"Continue?", 0, 7), 2);
+    EXPECT_EQ(boxKind, MessageKind::Question);
+    EXPECT_EQ(buttons, EV_MB_YES | EV_MB_NO);
+    answer = EV_MB_YES;
+    EXPECT_NE(events->notify(14, L"Continue?", 0, 7), 2);
+}
+
+} // namespace
