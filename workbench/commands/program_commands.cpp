@@ -19,9 +19,18 @@ namespace {
 
 QString tr(const char* text) { return QCoreApplication::translate("ProgramCommands", text); }
 
+// Commands of the plug-in bring no description of their own.
+QString descriptionOf(const CommandLoop& loop, const QString& name) {
+    if (name == QLatin1String("QPREF"))
+        return tr("Opens the options.");
+    if (name == QLatin1String("DWGPROPS"))
+        return tr("Opens the properties of the drawing.");
+    return loop.descriptionOf(name);
+}
+
 void listCommands(Console& console, const CommandLoop& loop) {
     for (const QString& name : loop.names()) {
-        const QString description = loop.descriptionOf(name);
+        const QString description = descriptionOf(loop, name);
         console.print(description.isEmpty() ? name : name.leftJustified(12) + description);
     }
     console.print(

@@ -36,11 +36,14 @@ void MainWindow::buildMenus() {
     QMenu* tools = menuBar()->addMenu(tr("&Tools"));
     tools->addAction(commandAction(tr("&Options..."), QStringLiteral("QPREF"), QStringLiteral("pref")));
     tools->addAction(commandAction(tr("System &variable"), QStringLiteral("SETVAR")));
+    tools->addSeparator();
+    tools->addAction(
+        commandAction(tr("Drawing &properties..."), QStringLiteral("DWGPROPS"), QStringLiteral("show_msg")));
     buildThemeMenu();
     drawingsMenu = menuBar()->addMenu(tr("&Drawings"));
     QMenu* help = menuBar()->addMenu(tr("&Help"));
     help->addAction(
-        commandAction(tr("List of &commands"), QStringLiteral("HELP"), QStringLiteral("show_msg")));
+        commandAction(tr("List of &commands"), QStringLiteral("HELP"), QStringLiteral("command_pref")));
 }
 
 void MainWindow::buildThemeMenu() {
