@@ -2,6 +2,7 @@
 #include "options/editor_parts.h"
 
 #include "module/icons/icons.h"
+#include "options/icon_numbers.h"
 #include "options/pages/line_edit.h"
 #include "options/preferences.h"
 
@@ -13,10 +14,10 @@ void nameEditor(QWidget* editor, const TreeItem* item) {
 
 void addBrowseAction(Preferences& preferences, LineEdit* edit, QAction* action) {
     action->setObjectName(QStringLiteral("browseAction"));
-    action->setIcon(treeIcon(2));
+    action->setIcon(treeIcon(kIconFolders));
     edit->addAction(action, QLineEdit::TrailingPosition);
     QObject::connect(&preferences, &Preferences::themeChanged, action,
-                     [action] { action->setIcon(treeIcon(2)); });
+                     [action] { action->setIcon(treeIcon(kIconFolders)); });
 }
 
 void showText(LineEdit* edit, const QString& text) {

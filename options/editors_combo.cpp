@@ -100,6 +100,7 @@ void Preferences::buildCombo(TreeItem* item, IParam* node, int id) {
         listChoices(box, choices.get(), value, item);
     else if (id == kIdSaveFormats)
         listSaveFormats(box, storedFormatNumber(node, parentNode(item)), item);
+    // The place in the list counts, also where it is out of step with the numbers of the save formats: meant.
     connect(
         box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
         [this, box, item](int index) {

@@ -45,6 +45,7 @@ void pickFiles(const FileRow& row) {
         takeFiles(row, joined);
 }
 
+// An emptied field is refused without a word, text of a wrong extension with the message. That is meant.
 void acceptFiles(const FileRow& row) {
     QString filter;
     QStringList extensions;

@@ -77,6 +77,7 @@ void replaceMissing(Preferences& preferences, LineEdit* edit, const QString& typ
         takeDirectory(edit, chosen);
 }
 
+// Blanks count as no path: they are accepted, and kept as they stand. That is meant.
 void validateDirectory(Preferences& preferences, LineEdit* edit, TreeItem* item) {
     const QString typed = edit->text().trimmed();
     if (!typed.isEmpty()) {

@@ -6,6 +6,20 @@
 #include <QPushButton>
 #include <QTreeWidget>
 
+namespace {
+
+// Compares addresses only: `wanted` may belong to an item that no longer exists.
+bool holdsItem(const QTreeWidgetItem* item, const QTreeWidgetItem* wanted) {
+    if (item == wanted)
+        return true;
+    for (int i = 0; i < item->childCount(); ++i)
+        if (holdsItem(item->child(i), wanted))
+            return true;
+    return false;
+}
+
+} // namespace
+
 CollapseWidget::CollapseWidget(QTreeWidget* optionTree, SearchingLineEdit* searchBox, QWidget* parent)
     : QWidget(parent), tree(optionTree), searchEdit(searchBox) {
     hide(); // it has no place in a layout and would lie over the tree's corner
@@ -110,20 +124,6 @@ bool CollapseWidget::holdsCurrentItem(const QTreeWidgetItem* item) const {
         current = current->parent();
     return current != nullptr;
 }
-
-namespace {
-
-// Compares addresses only: `wanted` may belong to an item that no longer exists.
-bool holdsItem(const QTreeWidgetItem* item, const QTreeWidgetItem* wanted) {
-    if (item == wanted)
-        return true;
-    for (int i = 0; i < item->childCount(); ++i)
-        if (holdsItem(item->child(i), wanted))
-            return true;
-    return false;
-}
-
-} // namespace
 
 void CollapseWidget::expandAgain() {
     if (QTreeWidgetItem* root = tree->topLevelItem(0))

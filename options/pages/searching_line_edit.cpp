@@ -37,6 +37,7 @@ void SearchingLineEdit::buildClearAction() {
 void SearchingLineEdit::connectAll() {
     connect(clearAction, &QAction::triggered, this, &QLineEdit::clear);
     connect(this, &QLineEdit::textChanged, this, [this] { clearAction->setVisible(!holdsNothing()); });
+    // Meant: whenever the focus leaves an empty box the root becomes current, also without a search.
     connect(this, &SearchingLineEdit::focusOut, this, [this] {
         if (holdsNothing())
             reset(QString());
@@ -53,7 +54,8 @@ void SearchingLineEdit::setTextQuietly(const QString& newText) {
     setText(newText);
 }
 
-// Return is not passed on, so that the dialog's default button does not fire.
+// Return is not passed on, so that the dialog's default button does not fire. The expansion is saved whether
+// a search follows or not; a second Return saves what the search before it has left. Both are meant.
 void SearchingLineEdit::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         QLineEdit::keyPressEvent(event);
