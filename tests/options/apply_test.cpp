@@ -4,7 +4,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QRadioButton>
 #include <QSpinBox>
 
 namespace {
@@ -112,84 +111,6 @@ TEST_F(Apply, ARealStoredAsIntegerIsReplacedByARealOfItsDefault) {
     apply();
     EXPECT_EQ(stored("S", "Real").vt, kVtDouble);
     EXPECT_EQ(double(stored("S", "Real")), 2.5);
-}
-
-TEST_F(Apply, ACheckWithAMaskSetsAndClearsItsOwnBitsOnly) {
-    store("S", "Bits", 3);
-    node("Four").type(L"Check").profile("S", "Bits").set("mask", 4);
-    open();
-    apply();
-    EXPECT_EQ(storedInt("S", "Bits"), 3);
-    editor<QCheckBox>("Four")->click();
-    apply();
-    EXPECT_EQ(storedInt("S", "Bits"), 7);
-    editor<QCheckBox>("Four")->click();
-    apply();
-    EXPECT_EQ(storedInt("S", "Bits"), 3);
-}
-
-TEST_F(Apply, ChecksThatShareAnIntegerSeeWhatTheRowBeforeHasWritten) {
-    node("One").type(L"Check").profile("S", "Bits").set("mask", 1);
-    node("Two").type(L"Check").profile("S", "Bits").set("mask", 2);
-    node("Four").type(L"Check").profile("S", "Bits").set("mask", 4);
-    open();
-    editor<QCheckBox>("One")->click();
-    editor<QCheckBox>("Four")->click();
-    apply();
-    EXPECT_EQ(storedInt("S", "Bits"), 5);
-}
-
-TEST_F(Apply, AMaskWithoutAStoredIntegerStartsFromTheDefault) {
-    node("Four").type(L"Check").profile("S", "Bits").set("mask", 4).set("Default", 10);
-    open();
-    editor<QCheckBox>("Four")->click();
-    apply();
-    EXPECT_EQ(storedInt("S", "Bits"), 14);
-}
-
-TEST_F(Apply, OnlyTheSelectedRadioWritesItsValue) {
-    store("S", "Choice", 1);
-    const OptionTreeWriter group = node("Group");
-    group.profile("S", "Choice");
-    group.node("First").type(L"Radio").set("Value", 1);
-    group.node("Second").type(L"Radio").set("Value", 2);
-    open();
-    editor<QRadioButton>("Second")->click();
-    apply();
-    EXPECT_EQ(storedInt("S", "Choice"), 2);
-}
-
-TEST_F(Apply, ASelectedMaskedRadioLosesTheBitsOfALaterUnselectedOne) {
-    store("S", "Bits", 16);
-    const OptionTreeWriter group = node("Group");
-    group.profile("S", "Bits");
-    group.node("Three").type(L"Radio").set("Value", 3).set("mask", 3);
-    group.node("One").type(L"Radio").set("Value", 1).set("mask", 3);
-    open();
-    editor<QRadioButton>("Three")->click();
-    apply();
-    EXPECT_EQ(storedInt("S", "Bits"), 16 | 2); // bit 1 went with the row below
-}
-
-TEST_F(Apply, AnEarlierUnselectedRadioLeavesTheBitsOfTheSelectedOne) {
-    const OptionTreeWriter group = node("Group");
-    group.profile("S", "Bits");
-    group.node("One").type(L"Radio").set("Value", 1).set("mask", 3);
-    group.node("Three").type(L"Radio").set("Value", 3).set("mask", 3);
-    open();
-    editor<QRadioButton>("Three")->click();
-    apply();
-    EXPECT_EQ(storedInt("S", "Bits"), 3);
-}
-
-TEST_F(Apply, TheMaskOfARadioOnlyChoosesTheWay) {
-    const OptionTreeWriter group = node("Group");
-    group.profile("S", "Bits");
-    group.node("Eight").type(L"Radio").set("Value", 8).set("mask", 3); // bits outside of the mask
-    open();
-    editor<QRadioButton>("Eight")->click();
-    apply();
-    EXPECT_EQ(storedInt("S", "Bits"), 8);
 }
 
 TEST_F(Apply, CursorChoiceZeroSetsTheHighByteAndClearsTheFlag) {
@@ -315,6 +236,17 @@ TEST_F(Apply, TheTextOfAnEditIsTrimmedOnItsWayToTheStore) {
     item("Edit")->textValue = "  as it came ";
     apply();
     EXPECT_EQ(storedText("S", "Edit"), "as it came");
+}
+
+TEST_F(Apply, AnIntIsWrittenTruncated) {
+    node("Up").type(L"EditInt").profile("S", "Up");
+    node("Down").type(L"EditInt").profile("S", "Down");
+    open();
+    item("Up")->numberValue = 7.9;
+    item("Down")->numberValue = -7.9;
+    apply();
+    EXPECT_EQ(storedInt("S", "Up"), 7);
+    EXPECT_EQ(storedInt("S", "Down"), -7);
 }
 
 TEST_F(Apply, AnUnknownStoreShowsTheDefaultAndIsNotWritten) {
