@@ -128,6 +128,7 @@ TEST_F(Collapse, InASearchWithAResultExpandTakesItsPlaceAndUndoesIt) {
     window.tree->setCurrentItem(background);
     clickCollapse();
     EXPECT_FALSE(collapseVisible());
+    EXPECT_FALSE(collapseEnabled());
     EXPECT_TRUE(expandVisible());
     EXPECT_EQ(window.tree->currentItem(), display);
     clickExpand();
