@@ -43,6 +43,28 @@ TEST_F(ModifyEditor, NumbersAndTextsGetTheFocus) {
     }
 }
 
+// Keeps the reason of the last focus that a widget has got.
+class FocusReason : public QObject {
+public:
+    explicit FocusReason(QWidget* watched) { watched->installEventFilter(this); }
+    Qt::FocusReason reason = Qt::NoFocusReason;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn)
+            reason = static_cast<QFocusEvent*>(event)->reason();
+        return false;
+    }
+};
+
+TEST_F(ModifyEditor, TheFocusIsGivenForAReasonOfItsOwn) {
+    node("Int").type(L"EditInt");
+    show();
+    const FocusReason seen(editor<QSpinBox>("Int"));
+    doubleClick("Int");
+    EXPECT_EQ(seen.reason, Qt::OtherFocusReason);
+}
+
 TEST_F(ModifyEditor, ADisabledEditorIsEnabledFirst) {
     node("Edit").type(L"Edit");
     show();

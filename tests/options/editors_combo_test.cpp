@@ -175,7 +175,39 @@ TEST_F(ComboEditor, ATipLandsOnTheEntryOfItsNumberNotOnItsOwn) {
     EXPECT_EQ(tip(0), "");
     EXPECT_EQ(tip(1), "");
     EXPECT_EQ(item("Combo")->numberValue, 2); // the number is found, but its place isn't there yet
+    EXPECT_EQ(box()->currentIndex(), -1);
     EXPECT_EQ(item("Combo")->description, "Drawing exchange");
+}
+
+TEST_F(ComboEditor, AnEntryBehindAFormatThatIsPassedOverIsStoredByItsPlace) {
+    addFormat(1, "DXF", L"Drawing exchange");
+    addFormat(2, "BAD", nullptr);
+    addFormat(3, "DWG", L"Drawing");
+    addSaveFormats();
+    open();
+    box()->setCurrentIndex(1); // "Drawing", whose own number is 3
+    apply();
+    EXPECT_EQ(storedInt("S", "Combo"), 2);
+}
+
+TEST_F(ComboEditor, ASaveFormatThatNothingNamesIsStoredAsZero) {
+    addFormat(1, "DXF", L"Drawing exchange");
+    addSaveFormats();
+    open();
+    EXPECT_EQ(box()->currentIndex(), 0);
+    apply();
+    EXPECT_EQ(stored("S", "Combo").vt, kVtInt);
+    EXPECT_EQ(storedInt("S", "Combo"), 0);
+}
+
+TEST_F(ComboEditor, SaveFormatsAreTranslated) {
+    host.translations[L"Drawing exchange"] = L"Austausch";
+    addFormat(1, "DXF", L"Drawing exchange");
+    addSaveFormats().set("Default", 1);
+    open();
+    EXPECT_EQ(box()->itemText(0), "Austausch");
+    EXPECT_EQ(tip(0), "Austausch");
+    EXPECT_EQ(item("Combo")->description, "Austausch");
 }
 
 TEST_F(ComboEditor, TheListEndsAtTheFirstMissingNumber) {

@@ -55,7 +55,7 @@ private:
     Ref<Directories> directories;
 };
 
-const QString kDesktop() { return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation); }
+QString desktop() { return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation); }
 
 class FileEditor : public OptionsFixture {
 protected:
@@ -116,21 +116,21 @@ TEST_F(FileEditor, ADirectoryMayComeAsNarrowText) {
 }
 
 TEST_F(FileEditor, AnotherIdLeavesFilterAndExtensionsEmpty) {
-    EXPECT_EQ(fileDialogSetup(-1, &filter, &extensions), kDesktop());
+    EXPECT_EQ(fileDialogSetup(-1, &filter, &extensions), desktop());
     EXPECT_EQ(filter, "");
     EXPECT_TRUE(extensions.isEmpty());
 }
 
 TEST_F(FileEditor, AMissingDirectoryEntryLeavesTheDesktopWithTheFilter) {
     directories->folders.clear();
-    EXPECT_EQ(fileDialogSetup(0x195C5, &filter, &extensions), kDesktop());
+    EXPECT_EQ(fileDialogSetup(0x195C5, &filter, &extensions), desktop());
     EXPECT_EQ(extensions, QStringList(".dwt"));
 }
 
 TEST_F(FileEditor, WithoutStandardDirectoriesNoExtensionIsAllowed) {
     theOnlyIApp = host.application();
     host.withhold(typeid(IStdDirs));
-    EXPECT_EQ(fileDialogSetup(0x195C5, &filter, &extensions), kDesktop());
+    EXPECT_EQ(fileDialogSetup(0x195C5, &filter, &extensions), desktop());
     EXPECT_EQ(filter, "");
     EXPECT_TRUE(extensions.isEmpty());
 }
@@ -216,6 +216,26 @@ TEST_F(FileEditor, AWrongExtensionAlonePutsTheLastTextBack) {
     EXPECT_EQ(edit()->text(), "a.dwt");
     EXPECT_EQ(item("File")->textValue, "a.dwt");
     EXPECT_EQ(host.messages.size(), 1u);
+}
+
+TEST_F(FileEditor, ReturnInTheFocusedFieldRefusesOnceThoughTheEditEndsTwice) {
+    store("S", "File", CXStringW(L"first.dwt"));
+    node("File").type(L"EditFile").profile("S", "File").set("ID", 0x195C5);
+    show();
+    dialog->tree->setCurrentItem(item("File"));
+    edit()->setFocus();
+    ASSERT_TRUE(waitUntil([this] { return edit()->hasFocus(); }));
+    typeAndReturn("b.txt");
+    EXPECT_EQ(host.messages.size(), 1u);
+    EXPECT_EQ(edit()->text(), "first.dwt");
+}
+
+TEST_F(FileEditor, TypedFilesWaitForTheEndOfTheEdit) {
+    addAndOpen("old.dwt");
+    edit()->setText("new.dwt");
+    EXPECT_EQ(item("File")->textValue, "old.dwt");
+    QTest::keyClick(edit(), Qt::Key_Return);
+    EXPECT_EQ(item("File")->textValue, "new.dwt");
 }
 
 TEST_F(FileEditor, AnEmptiedFieldIsRefusedSilently) {

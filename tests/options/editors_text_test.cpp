@@ -65,6 +65,16 @@ TEST_F(TextEditor, ShowsTheTrimmedValueFromItsStart) {
     EXPECT_EQ(editor<QLineEdit>("B")->text(), "default");
 }
 
+TEST_F(TextEditor, AnEmptyTextInTheProfileGivesWayToTheDefaultButNotInAVariable) {
+    store("S", "A", CXString(""));
+    host.vars.set("VAR", L"");
+    node("A").type(L"Edit").profile("S", "A").set("Default", L"default");
+    node("B").type(L"Edit").variable("VAR").set("Default", L"default");
+    open();
+    EXPECT_EQ(editor<QLineEdit>("A")->text(), "default");
+    EXPECT_EQ(editor<QLineEdit>("B")->text(), "");
+}
+
 TEST_F(TextEditor, TheItemAndTheToolTipFollowTheTrimmedText) {
     node("A").type(L"Edit");
     open();
@@ -193,6 +203,19 @@ TEST_F(DirectoryEditor, LeavingTheFieldAsksToo) {
     EXPECT_EQ(edit()->text(), known);
 }
 
+TEST_F(DirectoryEditor, ReturnInTheFocusedFieldAsksOnceThoughTheEditEndsTwice) {
+    store("S", "Dir", hostqt::cxStringW(known));
+    node("Dir").type(L"EditDir").profile("S", "Dir");
+    show();
+    dialog->tree->setCurrentItem(item("Dir"));
+    edit()->setFocus();
+    ASSERT_TRUE(waitUntil([this] { return edit()->hasFocus(); }));
+    typeAndReturn("/missing/dir");
+    EXPECT_EQ(host.messages.size(), 1u);
+    EXPECT_EQ(edit()->text(), known);
+    EXPECT_EQ(item("Dir")->textValue, known);
+}
+
 TEST_F(DirectoryEditor, TheBrowseActionStartsAtTheTypedDirectoryAndDoesNotTouchTheItemYet) {
     QDir(known).mkdir("chosen");
     addAndOpen(folder.path());
@@ -217,6 +240,14 @@ TEST_F(DirectoryEditor, TheBrowseActionStartsAtTheLastValidOneWhenTheTypedOneIsM
     browse()->trigger();
     EXPECT_EQ(user.directory, known);
     EXPECT_EQ(edit()->text(), "/missing/dir"); // cancelled: nothing changes
+}
+
+TEST_F(DirectoryEditor, TheBrowseActionStartsAtTheLastValidOneWhenNothingIsTyped) {
+    addAndOpen(known);
+    edit()->setText("  ");
+    FileDialogDriver user;
+    browse()->trigger();
+    EXPECT_EQ(user.directory, known);
 }
 
 TEST_F(DirectoryEditor, TheBrowsePictureFollowsTheTheme) {

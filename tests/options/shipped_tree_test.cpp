@@ -49,6 +49,16 @@ protected:
             EXPECT_EQ(shown(item), found->second) << item->nodeName.constData();
         }
     }
+    // Whether a combo's `Default` is one of its entries: by name, or by the number of a save format.
+    bool isOfferedByDefault(TreeItem* item) {
+        const auto* box = editorOf<QComboBox>(item);
+        int number = 0;
+        if (item->optionId == kIdSaveFormats)
+            return readValue(nodeOf(item), "Default", &number) && number >= 1 && number <= box->count();
+        CXStringW name;
+        readValue(nodeOf(item), "Default", &name);
+        return box->findData(hostqt::qString(name), Qt::UserRole, Qt::MatchFixedString) >= 0;
+    }
     template <class Limits> void expectWithin(TreeItem* item, double value, Limits limits) {
         readValue(nodeOf(item), "Limits", &limits);
         EXPECT_GE(value, limits.cx) << item->nodeName.constData();
@@ -132,6 +142,38 @@ TEST_F(ShippedTreeTest, EveryNumberHasADefaultWithinItsLimits) {
             double value = 0;
             EXPECT_TRUE(readValue(nodeOf(item), "Default", &value)) << item->nodeName.constData();
             expectWithin(item, value, tagRSIZE{0, 2147483647.0});
+        }
+    }
+}
+
+TEST_F(ShippedTreeTest, EveryOtherOptionHasADefaultOfItsKindThatItsEditorTakes) {
+    open();
+    for (TreeItem* item : options()) {
+        IParam* const node = nodeOf(item);
+        const char* const name = item->nodeName.constData();
+        int number = 0;
+        unsigned int color = 0;
+        CKWVariant text;
+        switch (item->nodeType) {
+        case kNodeCheck:
+        case kNodeAcColor:
+            EXPECT_TRUE(readValue(node, "Default", &number)) << name;
+            break;
+        case kNodeColor:
+            EXPECT_TRUE(readValue(node, "Default", &color)) << name;
+            break;
+        case kNodeEdit:
+        case kNodeEditFile:
+        case kNodeEditMultiFile:
+        case kNodeEditDir:
+            EXPECT_TRUE(node->getValue("Default", &text)) << name;
+            EXPECT_TRUE(text.vt == kVtString || text.vt == kVtWideString) << name;
+            break;
+        case kNodeCombo:
+            EXPECT_TRUE(isOfferedByDefault(item)) << name;
+            break;
+        default: // numbers have a test of their own, radios have no default
+            break;
         }
     }
 }
