@@ -47,7 +47,7 @@ void CustomTab::fill(const OdDbDatabaseSummaryInfo& info) {
     for (int index = 0; index < count; ++index) {
         OdString key, value;
         info.getCustomSummaryInfo(index, key, value);
-        setRow(index, convertToNormalShow(key), convertToNormalShow(value));
+        setRow(index, convertToNormalShow(std::move(key)), convertToNormalShow(std::move(value)));
     }
 }
 

@@ -40,9 +40,9 @@ OdDbDate writeTime(const OdString& path) {
     date.setSecond(info.second);
     date.setMinute(info.minute);
     date.setHour(info.hour);
-    date.setYear(info.year); // the day last: the months before it are of different lengths
-    date.setMonth(info.month);
     date.setDay(info.day);
+    date.setMonth(info.month);
+    date.setYear(info.year);
     date.universalToLocal();
     return date;
 }

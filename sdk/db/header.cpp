@@ -117,11 +117,16 @@ void OdDbHeader::remove(std::string_view name) {
 
 std::vector<std::pair<std::string, std::string>> OdDbHeader::customProperties() const {
     std::vector<std::pair<std::string, std::string>> result;
+    result.reserve(variables.size() / 2);
     for (const Variable& variable : variables) {
-        const std::string value(variable.tags.size() > 1 ? variable.tags[1].value() : std::string_view());
-        if (variable.name == kCustomName)
+        const bool isName = variable.name == kCustomName;
+        if (!isName && variable.name != kCustomValue)
+            continue;
+        const std::string_view value =
+            variable.tags.size() > 1 ? variable.tags[1].value() : std::string_view();
+        if (isName)
             result.emplace_back(value, std::string());
-        if (variable.name == kCustomValue && !result.empty())
+        else if (!result.empty())
             result.back().second = value;
     }
     return result;

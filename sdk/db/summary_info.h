@@ -3,6 +3,8 @@
 
 #include "sdk/db/database.h"
 
+#include <deque>
+
 // A copy of the record as it was when it was read; oddbPutSummaryInfo stores it.
 class OdDbDatabaseSummaryInfo : public OdRxObject {
     ODRX_DECLARE_CLASS(OdDbDatabaseSummaryInfo)
@@ -19,7 +21,7 @@ public:
         kHyperlinkBase,
         kFieldCount
     };
-    using CustomEntries = std::vector<std::pair<OdString, OdString>>;
+    using CustomEntries = std::deque<std::pair<OdString, OdString>>; // a whole list is deleted from its front
 
     OdString getTitle() const { return fields[kTitle]; }
     void setTitle(const OdString& text) { fields[kTitle] = text; }

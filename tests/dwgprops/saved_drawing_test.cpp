@@ -9,7 +9,8 @@ std::string header(const std::string& version) {
     return "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\n" + version +
            "\n  9\n$TDCREATE\n 40\n2460377.586909722\n  9\n$TDUPDATE\n 40\n2460378.0\n"
            "  9\n$CUSTOMPROPERTYTAG\n  1\nb\n  9\n$CUSTOMPROPERTY\n  1\n1\n"
-           "  9\n$CUSTOMPROPERTYTAG\n  1\na\n  9\n$CUSTOMPROPERTY\n  1\n2\n  9\n$HANDSEED\n  5\nFF\n  0\nENDSEC\n";
+           "  9\n$CUSTOMPROPERTYTAG\n  1\na\n  9\n$CUSTOMPROPERTY\n  1\n2\n  9\n$HANDSEED\n  5\nFF\n  "
+           "0\nENDSEC\n";
 }
 std::string drawingOf(const std::string& version) {
     return header(version) + "  0\nSECTION\n  2\nENTITIES\n  0\nENDSEC\n  0\nEOF\n";
