@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <type_traits>
+#include <vector>
 
 // Root of the list classes.
 class COList {
@@ -123,5 +124,8 @@ using StdDirList = CTListEnum<IStdDirInfo*, IStdDirInfo*>;
 inline Ref<StdDirList> stdDirListOf(const CKWVariant& value) {
     return Ref<StdDirList>::share(static_cast<StdDirList*>(static_cast<IKWUnknown*>(value)));
 }
+
+// The elements of a list, in order; none for a null or a closed list.
+std::vector<Ref<IStdDirInfo>> elementsOf(const Ref<StdDirList>& list);
 
 #include "host/dir_list_impl.h"

@@ -70,3 +70,14 @@ template <class T, class A> void _CListEnum<T, A>::Reset() {
     current = list->headNode();
     started = true;
 }
+
+inline std::vector<Ref<IStdDirInfo>> elementsOf(const Ref<StdDirList>& list) {
+    std::vector<Ref<IStdDirInfo>> elements;
+    if (!list)
+        return elements;
+    const auto walk = Ref<CTEnum<IStdDirInfo*>>::take(list->newEnum());
+    IStdDirInfo* info = nullptr;
+    while (walk->Next(1, &info, nullptr))
+        elements.push_back(Ref<IStdDirInfo>::take(info));
+    return elements;
+}

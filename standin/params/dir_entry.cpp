@@ -26,18 +26,7 @@ Ref<IStdDirInfo> newDirEntry(const char* key, const wchar_t* path, int editable)
     return Ref<IStdDirInfo>::share(new DirEntry(key, path, editable));
 }
 
-std::vector<Ref<IStdDirInfo>> elementsOf(StdDirList* list) {
-    std::vector<Ref<IStdDirInfo>> elements;
-    if (!list)
-        return elements;
-    const auto walk = Ref<CTEnum<IStdDirInfo*>>::take(list->newEnum());
-    IStdDirInfo* element = nullptr;
-    while (walk->Next(1, &element, nullptr))
-        elements.push_back(Ref<IStdDirInfo>::take(element));
-    return elements;
-}
-
-Ref<StdDirList> copyOfList(StdDirList* list) {
+Ref<StdDirList> copyOfList(const Ref<StdDirList>& list) {
     if (!list)
         return nullptr;
     const auto copy = Ref<StdDirList>::share(new StdDirList);

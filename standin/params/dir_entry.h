@@ -3,15 +3,11 @@
 
 #include "host/dir_list.h"
 
-#include <vector>
-
 namespace standin {
 
 // Null texts give empty ones.
 Ref<IStdDirInfo> newDirEntry(const char* key, const wchar_t* path, int editable);
 // A new list of new elements; null for a null list, empty for a closed one.
-Ref<StdDirList> copyOfList(StdDirList* list);
-// The elements, in order.
-std::vector<Ref<IStdDirInfo>> elementsOf(StdDirList* list);
+Ref<StdDirList> copyOfList(const Ref<StdDirList>& list);
 
 } // namespace standin

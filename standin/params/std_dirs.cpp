@@ -13,6 +13,7 @@ namespace standin {
 
 namespace {
 
+const QLatin1String escape("$"), escaped("$$");
 const char pathValue[] = "path", keyValue[] = "key", editableValue[] = "editable";
 
 template <class T> void setValue(IParam* node, const char* name, const T& value) {
@@ -51,9 +52,12 @@ PathWords::PathWords(const QString& dataDir, const QString& rootDir) {
               [](const Word& a, const Word& b) { return a.path.size() > b.path.size(); });
 }
 
-QString PathWords::expanded(QString path) const {
+QString PathWords::expanded(const QString& path) const {
+    if (path.startsWith(escaped))
+        return path.mid(1);
     for (const Word& word : words)
-        path.replace(word.word, word.path);
+        if (path == word.word || path.startsWith(word.word + QLatin1Char('/')))
+            return word.path + path.mid(word.word.size());
     return path;
 }
 
@@ -61,7 +65,7 @@ QString PathWords::contracted(const QString& path) const {
     for (const Word& word : words)
         if (path == word.path || path.startsWith(word.path + QLatin1Char('/')))
             return word.word + path.mid(word.path.size());
-    return path;
+    return path.startsWith(escape) ? escape + path : path; // else it would be taken for a word
 }
 
 Ref<IParam> StdDirs::listSection(const char* key, int create) {
@@ -80,7 +84,7 @@ bool StdDirs::GetDir(const char* key, tagKWVARIANT* out, int) {
     if (readValue(openChild(tree.get(), "Dirs").get(), key, &path)) {
         path = hostqt::cxStringW(words.expanded(hostqt::qString(path)));
     } else {
-        const auto elements = elementsOf(readList(listSection(key, 0).get()).get());
+        const auto elements = elementsOf(readList(listSection(key, 0).get()));
         if (elements.empty())
             return false;
         path = elements.front()->GetPath();
@@ -124,7 +128,7 @@ bool StdDirs::SetDirList(const char* key, const CKWVariant& value) {
         before.emplace(pathOf(entry.get()), copyOf(entry.get()));
     }
     std::vector<Ref<IParam>> entries;
-    for (const auto& element : elementsOf(list.get())) {
+    for (const auto& element : elementsOf(list)) {
         const QString path = QString::fromWCharArray(element->GetPath());
         const Ref<IParam> entry = takeEntry(before, path);
         if (pathOf(entry.get()) != path)

@@ -9,11 +9,12 @@
 
 namespace standin {
 
-// Stands for the places that differ from one installation to the next: "${data}" and "${root}".
+// Stands at the beginning of a stored path for the places that differ from one installation to the next:
+// "${data}" and "${root}". A path that begins with a "$" of its own is stored with two.
 class PathWords {
 public:
     PathWords(const QString& dataDir, const QString& rootDir);
-    QString expanded(QString path) const;
+    QString expanded(const QString& path) const;
     QString contracted(const QString& path) const;
 
 private:

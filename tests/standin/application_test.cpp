@@ -79,7 +79,7 @@ protected:
     }
     std::vector<QString> pathsOf(const char* key) {
         std::vector<QString> paths;
-        for (const auto& element : standin::elementsOf(listOf(key).get()))
+        for (const auto& element : elementsOf(listOf(key)))
             paths.push_back(QString::fromWCharArray(element->GetPath()));
         return paths;
     }
@@ -208,7 +208,7 @@ TEST_F(ApplicationTest, AThousandPapersAreOneWrite) {
 
 TEST_F(ApplicationTest, DirectoryListsNameTheRealFolders) {
     EXPECT_EQ(pathsOf("Fonts"), (std::vector<QString>{root + "/fonts", data + "/fonts"}));
-    const auto elements = standin::elementsOf(listOf("Fonts").get());
+    const auto elements = elementsOf(listOf("Fonts"));
     EXPECT_STREQ(elements[0]->GetKey(), ".Local");
     EXPECT_EQ(elements[0]->GetEditable(), 1);
     EXPECT_STREQ(elements[1]->GetKey(), ".Shipped");
@@ -223,7 +223,7 @@ TEST_F(ApplicationTest, ASectionWithoutAListFails) {
 
 TEST_F(ApplicationTest, TheListThatIsHandedOutIsACopy) {
     const auto list = listOf("Fonts");
-    standin::elementsOf(list.get())[0]->SetPath(L"/elsewhere");
+    elementsOf(list)[0]->SetPath(L"/elsewhere");
     list->append(standin::newDirEntry(".Local", L"/more", 1).get());
     EXPECT_EQ(pathsOf("Fonts").size(), 2u);
     EXPECT_EQ(pathsOf("Fonts")[0], root + "/fonts");
@@ -236,7 +236,7 @@ TEST_F(ApplicationTest, AListThatIsStoredReplacesTheOldOneAndIsThereAfterARestar
     EXPECT_TRUE(store("Fonts", list));
     start();
     EXPECT_EQ(pathsOf("Fonts"), (std::vector<QString>{"/a \"b\" %1 <i>\nc", "/z"}));
-    EXPECT_EQ(standin::elementsOf(listOf("Fonts").get())[1]->GetEditable(), 0);
+    EXPECT_EQ(elementsOf(listOf("Fonts"))[1]->GetEditable(), 0);
     EXPECT_TRUE(store("Fonts", Ref<StdDirList>::share(new StdDirList)));
     start();
     EXPECT_TRUE(listOf("Fonts"));
@@ -246,7 +246,7 @@ TEST_F(ApplicationTest, AListThatIsStoredReplacesTheOldOneAndIsThereAfterARestar
 TEST_F(ApplicationTest, AStoredListStaysItsOwn) {
     const auto list = listOf("Fonts");
     EXPECT_TRUE(store("Fonts", list));
-    standin::elementsOf(list.get())[0]->SetPath(L"/elsewhere");
+    elementsOf(list)[0]->SetPath(L"/elsewhere");
     EXPECT_EQ(pathsOf("Fonts")[0], root + "/fonts");
 }
 
@@ -257,7 +257,7 @@ TEST_F(ApplicationTest, StoringTheListAsItIsWritesNothing) {
 }
 
 TEST_F(ApplicationTest, EntriesThatMoveKeepWhatElseTheyHoldAndTheirPlaceWords) {
-    const auto elements = standin::elementsOf(listOf("Fonts").get());
+    const auto elements = elementsOf(listOf("Fonts"));
     const auto turned = Ref<StdDirList>::share(new StdDirList);
     turned->append(elements[1].get());
     turned->append(elements[0].get());
@@ -280,6 +280,18 @@ TEST_F(ApplicationTest, ANewPathBelowTheRootMovesWithTheRoot) {
     EXPECT_TRUE(application->flush());
     EXPECT_TRUE(readText(user("stddirs")).contains("${root}/mine"));
     EXPECT_TRUE(readText(user("stddirs")).contains(root.toUtf8() + "less"));
+}
+
+TEST_F(ApplicationTest, APathThatHoldsOrLooksLikeAPlaceWordStaysAsTyped) {
+    const std::vector<QString> typed{"/a/${data}/b", "${root}/mine", "${data}",
+                                     "$HOME/x",      "$$/y",         "${rootless}"};
+    const auto list = Ref<StdDirList>::share(new StdDirList);
+    for (const QString& path : typed)
+        list->append(standin::newDirEntry(".Local", path.toStdWString().c_str(), 1).get());
+    EXPECT_TRUE(store("Fonts", list));
+    EXPECT_TRUE(store("Fonts", listOf("Fonts")));
+    start();
+    EXPECT_EQ(pathsOf("Fonts"), typed);
 }
 
 TEST_F(ApplicationTest, AListIsNotStoredWithoutAList) {

@@ -76,14 +76,16 @@ bool FixtureStdDirs::GetDirList(const char* key, CKWVariant* out) {
     const auto found = lists.find(key);
     if (found == lists.end())
         return false;
-    const Ref<StdDirList> copy = standin::copyOfList(found->second.get());
+    const Ref<StdDirList> copy = standin::copyOfList(found->second);
     *out = static_cast<IKWUnknown*>(copy.get());
     return true;
 }
 
 bool FixtureStdDirs::SetDirList(const char* key, const CKWVariant& value) {
+    if (mayStore && !mayStore(key))
+        return false;
     stored.push_back(key);
-    lists[key] = standin::copyOfList(stdDirListOf(value).get());
+    lists[key] = standin::copyOfList(stdDirListOf(value));
     return true;
 }
 
@@ -97,7 +99,7 @@ std::vector<std::wstring> FixtureStdDirs::paths(const std::string& key) const {
     std::vector<std::wstring> found;
     const auto list = lists.find(key);
     if (list != lists.end())
-        for (const auto& element : standin::elementsOf(list->second.get()))
+        for (const auto& element : elementsOf(list->second))
             found.push_back(element->GetPath());
     return found;
 }

@@ -105,8 +105,9 @@ public:
     std::vector<std::wstring> paths(const std::string& key) const;
 
     std::map<std::string, Ref<StdDirList>> lists;
-    std::map<std::string, std::wstring> dirs; // what GetDir finds
-    std::vector<std::string> stored;          // the keys given to SetDirList
+    std::map<std::string, std::wstring> dirs;             // what GetDir finds
+    std::vector<std::string> stored;                      // the keys that SetDirList has taken
+    std::function<bool(const std::string& key)> mayStore; // empty: yes
 };
 
 class FixtureDocuments : public HostDocumentManager {
