@@ -4,6 +4,7 @@
 #include "options/editor_parts.h"
 #include "options/option_values.h"
 #include "options/pages/clickable_label.h"
+#include "options/pages/page_rows.h"
 #include "options/pages/pref_widget.h"
 
 #include <QButtonGroup>
@@ -93,11 +94,12 @@ void Preferences::buildRadio(TreeItem* item, IParam* node) {
     updateGroupLabel(item, item->parentItem());
 }
 
+// The group shows the selected choice behind its own name. Brackets of the name itself are cut too: meant.
 void Preferences::updateGroupLabel(TreeItem* item, TreeItem* parentItem) {
     QLabel* label = rowWidgets.value(parentItem)->label();
-    const QString own = labelText(parentItem);
+    const QString own = plainLabelText(*this, parentItem);
     const QString text = own.left(own.indexOf(QStringLiteral(" ["))) + QStringLiteral(" [") +
-                         labelText(item) + QStringLiteral("]");
+                         plainLabelText(*this, item) + QStringLiteral("]");
     label->setText(text);
     label->setToolTip(text);
 }

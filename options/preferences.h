@@ -138,7 +138,6 @@ private:
     void onThemeClicked();
     void setThemeIcons();
     void focusOkButton();
-    QString labelText(TreeItem* item) const; // of the item's row, without search marks
     void movePaperRow(TreeItem* item, int step);
     void moveRow(TreeItem* item, int step, QWidget* editor);
     void applyChildren(TreeItem* item);

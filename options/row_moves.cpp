@@ -2,10 +2,9 @@
 // makes it anew.
 #include "options/preferences.h"
 
-#include "options/pages/clickable_label.h"
+#include "options/pages/page_rows.h"
 #include "options/pages/paper_page.h"
 #include "options/pages/pref_widget.h"
-#include "options/pages/searching_line_edit.h"
 #include "options/pages/std_dirs_page.h"
 
 #include <QAbstractButton>
@@ -30,14 +29,6 @@ void Preferences::moveCurrent(int step) {
     }
 }
 
-QString Preferences::labelText(TreeItem* item) const {
-    QPrefWidget* const row = rowWidgets.value(item);
-    QString text = row ? row->label()->text() : QString();
-    if (searchEdit) // not yet there while the tree is being built, and neither is any mark
-        searchEdit->removeHighlight(text);
-    return text;
-}
-
 // The editor lives on in the new row: it leaves the old one before that goes.
 void Preferences::movePaperRow(TreeItem* item, int step) {
     QPrefWidget* const row = rowWidgets.value(item);
@@ -49,7 +40,7 @@ void Preferences::movePaperRow(TreeItem* item, int step) {
 }
 
 void Preferences::moveRow(TreeItem* item, int step, QWidget* editor) {
-    const QString text = labelText(item);
+    const QString text = plainLabelText(*this, item);
     TreeItem* const parent = item->parentItem();
     const int index = parent->indexOfChild(item);
     forgetWidgets(item);

@@ -47,14 +47,13 @@ void Preferences::startDisabledWhereTold(TreeItem* item, QPrefWidget* row) {
 }
 
 void Preferences::clearTree() {
-    releaseStdDirs(*this); // the path items hold references
+    releaseStdDirs(*this); // while the path items, which hold references, are there
     tree->clear();
     qDeleteAll(buttonGroups);
     qDeleteAll(radioButtons);
     qDeleteAll(rowWidgets);
     releasePaperFormats(*this);
     releaseRasterFormats(*this);
-    stdDirs.clear();
     expandedItems.clear();
     buttonGroups.clear();
     rowWidgets.clear();

@@ -18,7 +18,8 @@ QString labelText(const Preferences& preferences, TreeItem* item) {
 
 QString plainLabelText(const Preferences& preferences, TreeItem* item) {
     QString text = labelText(preferences, item);
-    preferences.searchEdit->removeHighlight(text);
+    if (preferences.searchEdit) // not yet there while the tree is being built, and neither is any mark
+        preferences.searchEdit->removeHighlight(text);
     return text;
 }
 

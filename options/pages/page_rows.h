@@ -1,4 +1,4 @@
-// What the rows of the list pages have in common: their icon, and how a row leaves the tree.
+// What the rows of the tree have in common: their icon, their text, and how a row leaves the tree.
 #pragma once
 
 class Preferences;
@@ -9,7 +9,7 @@ class TreeItem;
 
 // The icon of an item, or an empty one when its decoration is something else.
 QIcon iconOf(const TreeItem* item);
-// A row's text as its label shows it, with the marks of a search in it.
+// A row's text as its label shows it, with the marks of a search in it; empty for an item without a row.
 QString labelText(const Preferences& preferences, TreeItem* item);
 // The same without the marks.
 QString plainLabelText(const Preferences& preferences, TreeItem* item);

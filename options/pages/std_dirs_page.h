@@ -9,7 +9,7 @@ class TreeItem;
 // Builds the sections and paths under `parent`; leaves the page out when the host doesn't offer the lists.
 void loadStdDirs(Preferences& preferences, TreeItem* parent);
 void storeStdDirs(Preferences& preferences);
-// Gives back the references that the path items below the page hold; call it before the tree is cleared.
+// Gives back the lists, and the references that the path items hold; call it before the tree is cleared.
 void releaseStdDirs(Preferences& preferences);
 
 // The operations on a row. `path` has node type 14; `item` of addPath may be a path or a section (15). A move
