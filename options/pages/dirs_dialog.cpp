@@ -12,7 +12,7 @@
 
 using host_qt_ui_core::QHostMessageBox;
 
-DirsDialog::DirsDialog(QString& path, QWidget* parent) : QDialog(parent), startPath(path), resultPath(&path) {
+DirsDialog::DirsDialog(QString& path, QWidget* parent) : QDialog(parent), startPath(path), result(&path) {
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::CustomizeWindowHint);
     setFixedSize(400, 100);
     build();
@@ -66,7 +66,7 @@ void DirsDialog::onOkClicked() {
     if (QDir(text).exists()) {
         acceptWith(QDir::toNativeSeparators(text));
     } else if (text.compare(startPath, Qt::CaseInsensitive) == 0) {
-        accept();
+        accept(); // meant: the caller keeps the old path in its old letter case
     } else if (confirmMissing(text)) {
         const bool hasSeparator = text.contains(QDir::separator());
         const QString application = QDir::toNativeSeparators(QCoreApplication::applicationDirPath());
@@ -75,13 +75,14 @@ void DirsDialog::onOkClicked() {
 }
 
 bool DirsDialog::confirmMissing(const QString& text) {
+    // Meant: "does not exists", as it stands.
     const QString question =
         QStringLiteral("Path \"%1\" does not exists.\nAre you sure you want to use this value?").arg(text);
     return QHostMessageBox::question(windowTitle(), question, EV_MB_YES | EV_MB_NO) == EV_MB_YES;
 }
 
 void DirsDialog::acceptWith(const QString& path) {
-    *resultPath = path;
+    *result = path;
     accept();
 }
 

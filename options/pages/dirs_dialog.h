@@ -29,5 +29,5 @@ private:
     QPushButton* cancelButton = nullptr;
     QPushButton* browseButton = nullptr;
     QString startPath;
-    QString* resultPath;
+    QString* result; // not QDialog::result(), which is still there under its full name
 };

@@ -31,7 +31,8 @@ bool PaperFormat::takeUp(unsigned flag) {
     return missing;
 }
 
-// The order counts: the later defaults read the earlier fields.
+// The order counts: the later defaults read the earlier fields. Meant: an origin of the store stays, also
+// where it no longer fits.
 void PaperFormat::fillDefaults() {
     if (takeUp(kPaperName))
         name = L"<<Unnamed paper>>";

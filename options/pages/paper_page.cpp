@@ -47,10 +47,11 @@ QTreeWidgetItem* newPaperItem(const TreeItem& root, const QIcon& icon, PaperForm
 void makePaperRow(Preferences& preferences, TreeItem* item) {
     PaperFormat* paper = paperOf(item);
     QCheckBox* check = makeCheckRow(preferences, item, paper->used != 0);
-    QObject::connect(check, &QCheckBox::stateChanged, check, [paper](int state) {
+    const auto setUsed = [paper](int state) {
         paper->presentFlags |= kPaperUsed;
         paper->used = state == Qt::Checked ? 1 : 0;
-    });
+    };
+    QObject::connect(check, &QCheckBox::stateChanged, check, setUsed, Qt::DirectConnection);
 }
 
 // All items go in at once: with the page open on the screen the tree lays itself out, and every row widget in
@@ -101,6 +102,8 @@ void storePaperFormats(IKWUnknown* app, std::vector<PaperFormat*>& paperFormats)
         CXString key;
         key.Format("Paper%08d", int(index) + 1);
         const auto section = Ref<IParam>::take(store->createChild(key));
+        // Meant: the numbers follow the places in the array. A section that isn't made leaves a gap, and a
+        // missing record an empty section.
         if (section && paperFormats[index])
             paperFormats[index]->writeTo(section.get());
     }
@@ -115,7 +118,7 @@ void addPaperFormat(Preferences& preferences, TreeItem*) {
     reloadPaperRows(preferences);
     if (rootWasCurrent)
         root->setExpanded(true);
-    if (root->childCount() > 0)
+    if (root->childCount() > 0) // meant: the last row, which need not be the new paper
         preferences.tree->setCurrentItem(root->child(root->childCount() - 1));
 }
 

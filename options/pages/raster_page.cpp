@@ -29,7 +29,7 @@ CXString numberKey(int number) {
     return key;
 }
 
-// The list ends at the first missing number, on reading as on wiping.
+// Meant: the list ends at the first gap, on reading as on wiping; what lies beyond it is never touched.
 bool readNumbered(IParam* raster, int number, CXString* name) {
     return readValue(raster, numberKey(number), name);
 }
@@ -39,7 +39,7 @@ void readFormats(Preferences& preferences, IParam* store, IParam* raster) {
     for (int number = 1; readNumbered(raster, number, &name); ++number) {
         const Ref<IParam> section = openChild(store, CXString("Formats\\") + name);
         if (!section)
-            continue;
+            continue; // meant: such a name is dropped, from the numbering too on the next Apply
         const auto copy = Ref<IParam>::take(new_MemParam());
         Param_CopyTo(section.get(), copy.get());
         preferences.rasterFormats.append(new RasterFormat(name, copy));
@@ -55,8 +55,9 @@ void makeFormatRow(Preferences& preferences, TreeItem* parent, const QIcon& icon
     item->payload = format;
     item->buttonMask = format->buttonMask();
     QCheckBox* check = makeCheckRow(preferences, item, format->enabled != 0);
-    QObject::connect(check, &QCheckBox::stateChanged, check,
-                     [format](int state) { format->enabled = state == Qt::Checked ? 1 : 0; });
+    QObject::connect(
+        check, &QCheckBox::stateChanged, check,
+        [format](int state) { format->enabled = state == Qt::Checked ? 1 : 0; }, Qt::DirectConnection);
 }
 
 void setValue(IParam* node, const char* name, const CKWVariant& value) { node->setValue(name, &value); }
@@ -157,6 +158,7 @@ void modifyRasterFormat(Preferences& preferences, TreeItem* item) {
 
 void deleteRasterFormat(Preferences& preferences, TreeItem* item) {
     RasterFormat* format = formatOf(item);
+    // Meant: the blank before the colon.
     const QString question = Preferences::tr("Do you really want to delete raster format :\n%1?")
                                  .arg(hostqt::qString(format->description));
     const EV_MB_RET answer =

@@ -54,6 +54,7 @@ void exchangePaths(IStdDirInfo* one, IStdDirInfo* other) {
 bool validatePath(Preferences& preferences, const QString& path, const QString& sectionTitle,
                   int sectionIndex) {
     if (path.contains(QLatin1Char(';'))) {
+        // Meant: the wording as it stands, with a back-tick for an apostrophe.
         const QString text =
             QStringLiteral("Path \"%1\" is not valid. You can`t use ';' character.").arg(path);
         QHostMessageBox::critical(sectionTitle, text, EV_MB_OK);
@@ -94,7 +95,7 @@ void modifyPath(Preferences& preferences, TreeItem* item) {
     if (!askForPath(preferences, title, path))
         return;
     if (path.compare(before, Qt::CaseInsensitive) == 0)
-        return;
+        return; // meant: a change of letter case alone is dropped
     if (!validatePath(preferences, path, title, sectionIndexOf(item)))
         return;
     preferences.rowWidgets.value(item)->label()->setText(path);
@@ -124,7 +125,7 @@ void movePath(Preferences& preferences, TreeItem* item, int step) {
     // shows what the other's element holds.
     exchangePaths(payloadOf(item), payloadOf(neighbour));
     item->setText(0, text);
-    preferences.makeRow(2, item, nullptr, true, 0);
+    preferences.makeRow(2, item, nullptr, true, 0); // meant: a moved row doesn't open on double click either
     makeCurrent(preferences, item);
 }
 

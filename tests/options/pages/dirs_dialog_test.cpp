@@ -63,7 +63,7 @@ TEST_F(DirsDialogs, CancelLeavesTheCallersPath) {
     typeInto(dialog, "lineEdit", folder.path());
     clickOn(dialog, "cancelButton");
     EXPECT_EQ(path, "/somewhere");
-    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_EQ(dialog.QDialog::result(), QDialog::Rejected);
 }
 
 TEST_F(DirsDialogs, AnExistingDirectoryIsTakenWithoutTheBlanksAroundIt) {
@@ -71,7 +71,7 @@ TEST_F(DirsDialogs, AnExistingDirectoryIsTakenWithoutTheBlanksAroundIt) {
     DirsDialog dialog(path, nullptr);
     enter(dialog, "  " + folder.path() + " ");
     EXPECT_EQ(path, QDir::toNativeSeparators(folder.path()));
-    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.QDialog::result(), QDialog::Accepted);
     EXPECT_TRUE(host.messages.empty());
 }
 
@@ -80,7 +80,7 @@ TEST_F(DirsDialogs, AMissingPathThatIsTheOldOneClosesTheDialogAndKeepsTheOldOne)
     DirsDialog dialog(path, nullptr);
     enter(dialog, "/missing/PATH");
     EXPECT_EQ(path, "/Missing/Path");
-    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.QDialog::result(), QDialog::Accepted);
     EXPECT_TRUE(host.messages.empty());
 }
 
@@ -114,7 +114,7 @@ TEST_F(DirsDialogs, YesTakesAPathWithASeparatorAsItStands) {
     host.answer(EV_MB_YES);
     enter(dialog, " missing/below ");
     EXPECT_EQ(path, "missing/below");
-    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.QDialog::result(), QDialog::Accepted);
 }
 
 TEST_F(DirsDialogs, YesPutsANameWithoutASeparatorBelowTheApplicationDirectory) {
@@ -131,7 +131,7 @@ TEST_F(DirsDialogs, AnEmptyPathIsAccepted) {
     DirsDialog dialog(path, nullptr);
     enter(dialog, "");
     EXPECT_EQ(path, "");
-    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.QDialog::result(), QDialog::Accepted);
     EXPECT_TRUE(host.messages.empty());
 }
 

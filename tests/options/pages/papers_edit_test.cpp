@@ -82,6 +82,27 @@ TEST_F(PaperEdits, AddOnTheRootExpandsItAndMakesTheLastRowCurrent) {
     EXPECT_EQ(names(), (QStringList{"A", "B", "C", "D"}));
 }
 
+TEST_F(PaperEdits, WhetherTheRootIsToBeExpandedIsDecidedBeforeTheHostsDialog) {
+    openWithThree();
+    host.papers().onAdd = [this](QWidget*) {
+        preferences->tree->setCurrentItem(preferences->tree->topLevelItem(0));
+        host.papers().clear();
+        return true;
+    };
+    page()->setExpanded(false);
+    select(page());
+    click(preferences->addButton);
+    EXPECT_TRUE(page()->isExpanded());
+}
+
+TEST_F(PaperEdits, AStoreWithoutDialogsOfItsOwnAddsAndModifiesNothing) {
+    struct PlainStore : standin::ParamOf<IStdPapersParam> {};
+    const auto store = Ref<PlainStore>::share(new PlainStore);
+    EXPECT_FALSE(store->AddPaper(nullptr));
+    EXPECT_FALSE(store->ModifyPaper(L"A4 (210.00 x 297.00 mm)", nullptr));
+    EXPECT_TRUE(childrenOf(*store).isEmpty());
+}
+
 TEST_F(PaperEdits, AddThatIsTurnedDownLeavesRowsAndSelectionAsTheyWere) {
     openWithThree();
     host.papers().onAdd = [](QWidget*) { return false; };
@@ -150,6 +171,7 @@ TEST_F(PaperEdits, AModifyThatDropsTheLastPaperLeavesNoRowToMakeCurrent) {
 
 TEST_F(PaperEdits, ADeletedPaperIsGoneFromTheStoreAtOnce) {
     openWithThree();
+    const int rowsBefore = preferences->rowWidgets.size();
     host.answer(EV_MB_YES);
     select(row(rowB));
     click(preferences->deleteButton);
@@ -160,6 +182,7 @@ TEST_F(PaperEdits, ADeletedPaperIsGoneFromTheStoreAtOnce) {
     EXPECT_EQ(childrenOf(host.papers()), (QStringList{"Paper00000001", "Paper00000002"}));
     EXPECT_EQ(names(), (QStringList{"A", "C"}));
     EXPECT_EQ(rowsBelow(page()), (QStringList{rowA, rowC}));
+    EXPECT_EQ(preferences->rowWidgets.size(), rowsBefore - 1) << "the dialog has forgotten the row";
     click(preferences->cancelButton);
     EXPECT_EQ(storedNames(), (QStringList{"A", "C"}));
 }

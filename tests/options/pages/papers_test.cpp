@@ -7,10 +7,19 @@
 #include <QIcon>
 #include <QLocale>
 #include <cmath>
+#include <utility>
 
 namespace {
 
 using Papers = PaperFixture;
+
+// A store that names a section and doesn't open it.
+struct LockedPapers : standin::ParamOf<IStdPapersParam> {
+    IParam* openSection(const char* name, int create) override {
+        return locked && CXString("Locked").Compare(name) == 0 ? nullptr : ParamOf::openSection(name, create);
+    }
+    bool locked = false;
+};
 
 PaperFormat filled(tagRSIZE size) {
     PaperFormat paper;
@@ -86,9 +95,12 @@ TEST_F(Papers, UnitsAreShownTranslatedAndKeptAsTheyAre) {
 }
 
 TEST_F(Papers, NamesInAnyScriptAndOfAnyFormAreShownAsTheyAre) {
-    addPaper("P", L"\u7d19 %1 \"x\" %s", 1, 2);
+    const std::wstring name = L"\u7d19 %1 \"x\" %s <b>y</b>\nz";
+    addPaper("P", name.c_str(), 1, 2);
     open();
-    EXPECT_EQ(rowsBelow(page()).front(), QString::fromUtf8("紙 %1 \"x\" %s (1.00 x 2.00 mm)"));
+    EXPECT_EQ(rowsBelow(page()).front(), QString::fromStdWString(name) + " (1.00 x 2.00 mm)");
+    apply();
+    EXPECT_EQ(storedNames(), QStringList{QString::fromStdWString(name)});
 }
 
 TEST_F(Papers, ValuesOfAWrongTypeCountAsMissing) {
@@ -186,6 +198,33 @@ TEST_F(Papers, WritingWithoutAnApplicationDoesNothing) {
     section("P");
     storePaperFormats(nullptr, papers);
     EXPECT_EQ(childrenOf(host.papers()), QStringList{"P"});
+}
+
+TEST_F(Papers, ASectionThatCannotBeMadeLeavesAGapInTheNumbers) {
+    PaperFormat paper;
+    std::vector<PaperFormat*> papers{&paper, nullptr, &paper};
+    bool refused = false; // the second section, once
+    host.rules(host.papers()).mayChange = [this, &refused] {
+        const bool between = childrenOf(host.papers()).size() == 1 &&
+                             valueOf(host.papers(), "Paper00000001", "PaperOriginPoint").vt != kVtEmpty;
+        return !between || std::exchange(refused, true);
+    };
+    storePaperFormats(theOnlyIApp, papers);
+    EXPECT_EQ(childrenOf(host.papers()), (QStringList{"Paper00000001", "Paper00000003"}));
+}
+
+TEST_F(Papers, ASectionThatCannotBeOpenedIsPassedOver) {
+    open();
+    const auto store = Ref<LockedPapers>::share(new LockedPapers);
+    host.load(*store, "Locked: {Name: !wide \"Nowhere\"}\nC: {Name: !wide \"C\"}");
+    const auto hub = Ref<standin::ServiceHub>::share(new standin::ServiceHub);
+    hub->add(store);
+    store->locked = true;
+    theOnlyIApp = hub.get();
+    reloadPaperRows(*preferences);
+    theOnlyIApp = host.application();
+    EXPECT_EQ(names(), QStringList{"C"});
+    EXPECT_EQ(page()->childCount(), 1);
 }
 
 TEST_F(Papers, AMissingRecordLeavesAnEmptySectionAndAGapInNothing) {

@@ -122,6 +122,10 @@ TEST_F(RasterFormats, WhatARowOffersFollowsFromDeletableAndAdjustable) {
     select(page()->childItem(1));
     EXPECT_TRUE(preferences->deleteButton->isEnabled());
     EXPECT_FALSE(preferences->addButton->isEnabled()) << "not adjustable";
+    EXPECT_FALSE(chooseInMenu(page()->childItem(2), "Delete"));
+    EXPECT_FALSE(chooseInMenu(page()->childItem(1), "Add"));
+    EXPECT_EQ(dialogsOpened, 0);
+    EXPECT_EQ(page()->childCount(), 4);
 }
 
 TEST_F(RasterFormats, UncheckingChangesTheRecordAtOnceAndTheStoreOnApply) {
@@ -275,6 +279,30 @@ TEST_F(RasterFormats, DeletingAsksAndWaitsForApply) {
     EXPECT_EQ(numbered(3), "");
     apply();
     EXPECT_EQ(storedFormats(), (QStringList{"tif", "png"}));
+}
+
+TEST_F(RasterFormats, ADeletedRowIsForgottenByTheDialog) {
+    addFreeFormat(1, "tif");
+    addFormat(2, "bmp");
+    open();
+    const int before = preferences->rowWidgets.size();
+    deleteRow("tif");
+    EXPECT_EQ(preferences->rowWidgets.size(), before - 1);
+    EXPECT_EQ(page()->childCount(), 1);
+}
+
+TEST_F(RasterFormats, DescriptionsOfEveryFormAreShownWholeAndSurviveApply) {
+    const wchar_t* const words = L"A \"b\" %1 <i>c</i>\nd";
+    const Ref<IParam> format = addFormat(1, "odd name");
+    setValue(format, "Description", words);
+    setValue(format, "LongDescription", words);
+    open();
+    EXPECT_EQ(rowsBelow(page()), QStringList{QString::fromWCharArray(words)});
+    EXPECT_EQ(page()->childItem(0)->description, QString::fromWCharArray(words));
+    apply();
+    EXPECT_EQ(textOf(stored("odd name", "Description")), QString::fromWCharArray(words));
+    EXPECT_EQ(textOf(stored("odd name", "LongDescription")), QString::fromWCharArray(words));
+    EXPECT_EQ(numbered(1), "odd name");
 }
 
 TEST_F(RasterFormats, DeletingIsDroppedOnNo) {

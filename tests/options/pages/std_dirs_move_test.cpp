@@ -76,6 +76,17 @@ TEST_F(StdDirMoves, ADeleteAfterAMoveRemovesTheElementThatHoldsTheOthersText) {
     EXPECT_EQ(held(), (QStringList{"/1", "/3"})) << "meant: the row points at the other's element";
 }
 
+TEST_F(StdDirMoves, ASecondMoveOfARowCarriesTheTextOfItsElementAndNotItsOwn) {
+    openWithThree();
+    select(row("/1"));
+    click(preferences->downButton);
+    click(preferences->downButton);
+    EXPECT_EQ(rows(), (QStringList{"/2", "/3", "/1"}));
+    EXPECT_EQ(held(), (QStringList{"/3", "/1", "/2"})) << "meant: rows and elements stay crossed";
+    apply();
+    EXPECT_EQ(stored("A"), (QStringList{"/3", "/1", "/2"}));
+}
+
 TEST_F(StdDirMoves, ReTypingAStoredPathMayBeRefusedAsADuplicateOfItself) {
     openWithThree();
     select(row("/1"));

@@ -7,6 +7,8 @@
 #include "options/pages/std_dirs_page.h"
 #include "tests/options/pages/std_dirs_fixture.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QIcon>
 
 namespace {
@@ -17,6 +19,19 @@ std::int64_t countOf(IStdDirInfo* info) {
     info->AddRef();
     return info->Release();
 }
+
+// Names a section "Locked" and doesn't open it.
+struct LockedDescriptions : standin::MemParam {
+    LockedDescriptions() {
+        for (const char* name : {"Locked", "Open"})
+            ::setValue(Ref<IParam>::take(standin::MemParam::openSection(name, 1)), "Name", CXStringW(name));
+    }
+    IParam* openSection(const char* name, int create) override {
+        if (CXString("StdDirsDescriptions").Compare(name) == 0)
+            return Ref<IParam>::share(this).detach();
+        return CXString("Locked").Compare(name) == 0 ? nullptr : standin::MemParam::openSection(name, create);
+    }
+};
 
 } // namespace
 
@@ -138,6 +153,34 @@ TEST_F(StdDirs, APathThatIsNotEditableIsDisabledAndCannotBeSelected) {
     EXPECT_EQ(dialogsOpened, 0);
 }
 
+TEST_F(StdDirs, APathThatIsNotEditableIsPassedOverByTheKeyboardAndOffersNoMenu) {
+    addSection("A", L"A", {L"/a"});
+    host.stdDirs().lists["A"]->append(Ref<IStdDirInfo>::take(new_StdDirInfo("Host", L"/fixed", 0)).get());
+    addSection("B", L"B", {});
+    open();
+    select(row("/a"));
+    QTest::keyClick(preferences->tree, Qt::Key_Down);
+    EXPECT_EQ(current(), section(1));
+    select(row("/a"));
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(1, 1));
+    QApplication::sendEvent(labelOf(row("/fixed")), &event);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(rows(), (QStringList{"/a", "/fixed"}));
+}
+
+TEST_F(StdDirs, ASectionThatCannotBeOpenedIsPassedOver) {
+    open();
+    const auto descriptions = Ref<LockedDescriptions>::share(new LockedDescriptions);
+    const auto hub = Ref<standin::ServiceHub>::share(new standin::ServiceHub);
+    hub->add(descriptions);
+    hub->add(Ref<FixtureStdDirs>::share(&host.stdDirs()));
+    theOnlyIApp = hub.get();
+    loadStdDirs(*preferences, page());
+    theOnlyIApp = host.application();
+    EXPECT_EQ(rowsBelow(page()), QStringList{"Open"});
+    EXPECT_EQ(preferences->stdDirs.size(), 1u);
+}
+
 TEST_F(StdDirs, ApplyWritesEverySectionInOrder) {
     addSection("B", L"B", {L"/b"});
     addSection("A", L"A", {L"/a"});
@@ -173,6 +216,24 @@ TEST_F(StdDirs, ApplyIsDroppedWhenTheListsAreGone) {
     EXPECT_TRUE(host.stdDirs().stored.empty());
 }
 
+TEST_F(StdDirs, AListThatTheHostRefusesStopsNoOtherAndIsStoredByTheNextApply) {
+    addSection("A", L"A", {L"/a"});
+    addSection("B", L"B", {L"/b"});
+    open();
+    select(section(0));
+    add("/new");
+    select(section(1));
+    add("/more");
+    host.stdDirs().mayStore = [](const std::string& key) { return key != "A"; };
+    apply();
+    EXPECT_EQ(stored("A"), QStringList{"/a"});
+    EXPECT_EQ(stored("B"), (QStringList{"/b", "/more"}));
+    EXPECT_EQ(held(0), (QStringList{"/a", "/new"})) << "nothing is lost in the dialog";
+    host.stdDirs().mayStore = nullptr;
+    apply();
+    EXPECT_EQ(stored("A"), (QStringList{"/a", "/new"}));
+}
+
 TEST_F(StdDirs, NamesAndPathsOfEveryFormSurviveApply) {
     const std::vector<std::wstring> paths{L"/quote\"s'", L"/%1 %2", L"/<b>bold</b>",         L"/two\nlines",
                                           L" /spaces ",  L"",       std::wstring(4000, L'x')};
@@ -181,6 +242,8 @@ TEST_F(StdDirs, NamesAndPathsOfEveryFormSurviveApply) {
     EXPECT_EQ(section()->childCount(), int(paths.size()));
     EXPECT_EQ(rows()[0], "/quote\"s'");
     EXPECT_EQ(rows()[1], "/%1 %2");
+    EXPECT_EQ(rows()[2], "/") << "meant: a row of this page ends at the first \"<\"";
+    EXPECT_EQ(rowsBelow(page()), QStringList{"Name"});
     apply();
     EXPECT_EQ(host.stdDirs().paths("A"), paths);
 }
