@@ -68,8 +68,8 @@ OdGeScale3d OdDbBlockReference::scaleFactors() const {
 
 void OdDbBlockReference::setScaleFactors(const OdGeScale3d& factors) {
     const double parts[] = {factors.sx, factors.sy, factors.sz};
-    if (std::any_of(parts, parts + 3, [](double part) { return part == 0 || !std::isfinite(part); }))
-        throw OdError(eInvalidInput, L"A scale factor must be a number other than zero");
+    if (std::any_of(parts, parts + 3, [](double part) { return !std::isfinite(part); }))
+        throw OdError(eInvalidInput, L"A scale factor must be a finite number");
     for (int axis = 0; axis < 3; ++axis)
         edit().set(kMarker, 41 + axis, dxfText(parts[axis]));
 }

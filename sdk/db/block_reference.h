@@ -15,7 +15,8 @@ public:
     OdGePoint3d position() const;
     void setPosition(const OdGePoint3d& point);
     OdGeScale3d scaleFactors() const;
-    // Throws eInvalidInput for a factor of 0 or one that is no number.
+    // 0 is taken: the reference then shows nothing along that axis. Throws eInvalidInput for a factor that
+    // is no finite number.
     void setScaleFactors(const OdGeScale3d& factors);
     double rotation() const; // radians, in the plane
     void setRotation(double angle);

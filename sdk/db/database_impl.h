@@ -59,6 +59,7 @@ public:
     DxfCodec codec;
     int version = kVersionR12;
     OdString filename;
+    std::pair<long long, long long> fileStamp; // size and time of the file, of a drawing loaded as a reference
     std::vector<OdString> warnings;
     OdDbHeader header;
     std::size_t headerStart = 0; // of the first variable in the header section's record

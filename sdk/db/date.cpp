@@ -24,15 +24,17 @@ OdTimeStamp::OdTimeStamp(InitialValue initial) {
         *this = stampOf(QDateTime::currentDateTimeUtc());
 }
 
+OdTimeStamp::OdTimeStamp(std::uint32_t julianDayNumber, std::uint32_t milliseconds)
+    : days(julianDayNumber), msecs(milliseconds), yearField(year()), monthField(month()), dayField(day()) {}
+
 int OdTimeStamp::day() const { return QDate::fromJulianDay(days).day(); }
 int OdTimeStamp::month() const { return QDate::fromJulianDay(days).month(); }
 int OdTimeStamp::year() const { return QDate::fromJulianDay(days).year(); }
 
-void OdTimeStamp::setDay(int value) { setDate(month(), value, year()); }
-void OdTimeStamp::setMonth(int value) { setDate(value, day(), year()); }
-void OdTimeStamp::setYear(int value) { setDate(month(), day(), value); }
-
 void OdTimeStamp::setDate(int monthValue, int dayValue, int yearValue) {
+    monthField = monthValue;
+    dayField = dayValue;
+    yearField = yearValue;
     const QDate first(yearValue, monthValue, 1);
     if (first.isValid())
         days = static_cast<std::uint32_t>(first.addDays(dayValue - 1).toJulianDay());

@@ -10,12 +10,11 @@ public:
 
     OdTimeStamp() = default;
     explicit OdTimeStamp(InitialValue initial);
-    OdTimeStamp(std::uint32_t julianDayNumber, std::uint32_t milliseconds)
-        : days(julianDayNumber), msecs(milliseconds) {}
+    OdTimeStamp(std::uint32_t julianDayNumber, std::uint32_t milliseconds);
 
     std::uint32_t julianDay() const { return days; }
     std::uint32_t msecsPastMidnight() const { return msecs; }
-    void setJulianDay(std::uint32_t number) { days = number; }
+    void setJulianDay(std::uint32_t number) { *this = OdTimeStamp(number, msecs); }
     void setMsecsPastMidnight(std::uint32_t milliseconds) { msecs = milliseconds; }
 
     int day() const;
@@ -26,11 +25,11 @@ public:
     int second() const { return static_cast<int>(msecs / 1000 % 60); }
     int millisecond() const { return static_cast<int>(msecs % 1000); }
 
-    // Each setter changes its field alone. A day past the end of its month runs into the next one, so that
-    // the fields may come in any order.
-    void setDay(int value);
-    void setMonth(int value);
-    void setYear(int value);
+    // The fields may come in any order: each setter changes its own alone, and a day that its month lacks is
+    // only carried into the next month while it stands there.
+    void setDay(int value) { setDate(monthField, value, yearField); }
+    void setMonth(int value) { setDate(value, dayField, yearField); }
+    void setYear(int value) { setDate(monthField, dayField, value); }
     void setDate(int monthValue, int dayValue, int yearValue);
     void setHour(int value) { setClock(value, minute(), second(), millisecond()); }
     void setMinute(int value) { setClock(hour(), value, second(), millisecond()); }
@@ -53,6 +52,7 @@ private:
     void setClock(int h, int m, int s, int ms);
     std::uint32_t days = 0;
     std::uint32_t msecs = 0;
+    int yearField = 1, monthField = 1, dayField = 1; // as they were set, or those of the day
 };
 
 using OdDbDate = OdTimeStamp;

@@ -26,7 +26,7 @@ void OdDbDrawingReader::readHeader() {
         return;
     // The first two tags open the section.
     const std::string_view bytes = found->second.begin->bytes();
-    DxfScanner scanner(bytes);
+    DxfScanner scanner(bytes.substr(bytes.substr(0, 3) == kByteOrderMark ? 3 : 0));
     DxfTag tag;
     bool opened = false;
     while (scanner.next(tag) && !(opened && tag.code == 9))

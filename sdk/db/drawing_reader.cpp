@@ -8,7 +8,6 @@
 namespace {
 
 constexpr std::uint64_t kHighestHandle = std::uint64_t{1} << 60;
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 } // namespace
 

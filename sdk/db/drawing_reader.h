@@ -4,6 +4,8 @@
 #include "sdk/db/database_impl.h"
 #include "sdk/dxf/scanner.h"
 
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 class OdDbDrawingReader {
 public:
     // `name` is for messages.

@@ -2,6 +2,7 @@
 
 #include "sdk/db/database_impl.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
@@ -50,13 +51,28 @@ void loadNested(OdDbDatabase& database) {
     }
 }
 
+// Size and time of a file: while both are the same, so is what was read from it.
+std::pair<long long, long long> stampOf(const QFileInfo& file) {
+    return {file.size(), file.lastModified().toMSecsSinceEpoch()};
+}
+
+bool isLoadedFrom(const OdDbBlockTableRecord& record, const QFileInfo& file) {
+    const OdDbDatabasePtr loaded = record.xrefDatabase();
+    return !loaded.isNull() && loaded->impl().fileStamp == stampOf(file) &&
+           QFileInfo(qt(loaded->getFilename())).canonicalFilePath() == file.canonicalFilePath();
+}
+
 OdResult loadFile(OdDbBlockTableRecord& record, const QFileInfo& file) {
     OdDbDatabase& host = *record.database();
     const QString path = file.canonicalFilePath();
     if (isOnTheWay(path, host))
         return eSelfReference;
+    if (isLoadedFrom(record, file))
+        return eOk;
     const LoadingFile guard(path);
+    const auto stamp = stampOf(file);
     OdDbDatabasePtr loaded = OdDbDatabase::readFile(od(file.absoluteFilePath()));
+    loaded->impl().fileStamp = stamp;
     loadNested(*loaded);
     const bool wasWritable = record.isWriteEnabled();
     record.upgradeOpen();

@@ -10,8 +10,8 @@ QTextCodec* westernPage() { return QTextCodec::codecForName("windows-1252"); }
 
 const char* codecName(const std::string& page) {
     static const std::map<std::string, const char*> names{
-        {"ANSI_874", "TIS-620"},       {"ANSI_932", "Shift_JIS"},
-        {"ANSI_936", "GBK"},           {"ANSI_949", "cp949"},
+        {"ANSI_874", "windows-874"},   {"ANSI_932", "Shift_JIS"},
+        {"ANSI_936", "GBK"},           {"ANSI_949", "windows-949"},
         {"ANSI_950", "Big5"},          {"ANSI_1250", "windows-1250"},
         {"ANSI_1251", "windows-1251"}, {"ANSI_1252", "windows-1252"},
         {"ANSI_1253", "windows-1253"}, {"ANSI_1254", "windows-1254"},

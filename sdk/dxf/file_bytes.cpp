@@ -10,6 +10,13 @@ OdString messageFor(const OdString& path, const QString& reason) {
     return path + OdString(L": ") + OdString(reason.toStdWString());
 }
 
+// A device or a pipe must never be replaced by a file.
+void refuseSpecialFile(const OdString& path) {
+    const QFileInfo present(QString::fromStdWString(path.wide()));
+    if (present.exists() && !present.isFile())
+        throw OdError(eFileWriteError, messageFor(path, "is not a regular file"));
+}
+
 } // namespace
 
 std::string dxfReadFile(const OdString& path) {
@@ -33,11 +40,13 @@ std::string dxfReadFile(const OdString& path) {
 }
 
 void dxfWriteFile(const OdString& path, const std::vector<std::string_view>& pieces) {
+    refuseSpecialFile(path);
     QSaveFile file(QString::fromStdWString(path.wide()));
     bool good = file.open(QIODevice::WriteOnly);
     for (const std::string_view piece : pieces)
         good = good && file.write(piece.data(), static_cast<qint64>(piece.size())) ==
                            static_cast<qint64>(piece.size());
+    good = good && file.flush();
     if (!good || !file.commit())
         throw OdError(eFileWriteError, messageFor(path, file.errorString()));
 }

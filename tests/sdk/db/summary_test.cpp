@@ -1,0 +1,123 @@
+// The summary record, where each version keeps it, and what a save writes into it.
+#include "tests/sdk/db/drawing_fixture.h"
+
+#include "sdk/db/summary_info.h"
+
+#include <QTemporaryDir>
+
+namespace {
+
+OdDbDatabasePtr drawingOf(const char* version) {
+    std::string text = OdDbDatabase::createEmpty()->writeBytes();
+    text.replace(text.find("AC1027"), 6, version);
+    return OdDbDatabase::readBytes(text);
+}
+
+OdDbDatabasePtr again(OdDbDatabase& database) { return OdDbDatabase::readBytes(database.writeBytes()); }
+
+using Entries = OdDbDatabaseSummaryInfo::CustomEntries;
+
+} // namespace
+
+class Summary : public testing::TestWithParam<const char*> {};
+
+TEST_P(Summary, EveryFieldSurvivesSavingAndReading) {
+    const OdDbDatabasePtr database = drawingOf(GetParam());
+    auto info = oddbGetSummaryInfo(database.get());
+    info->setTitle(L"Title \u00fc");
+    info->setSubject(L"Subject");
+    info->setAuthor(L"Author");
+    info->setKeywords(L"Keywords");
+    info->setComments(L"two\nlines ^J");
+    info->setHyperlinkBase(L"http://example.org/?a=b");
+    info->setCustomSummaryInfo(5, L"key", L"value=with=signs");
+    info->setCustomSummaryInfo(5, L"key", L"\u4e16");
+    oddbPutSummaryInfo(info.get());
+    const OdDbDatabasePtr read = again(*database);
+    info = oddbGetSummaryInfo(read.get());
+    EXPECT_EQ(info->getTitle(), OdString(L"Title \u00fc"));
+    EXPECT_EQ(info->getSubject(), OdString(L"Subject"));
+    EXPECT_EQ(info->getAuthor(), OdString(L"Author"));
+    EXPECT_EQ(info->getKeywords(), OdString(L"Keywords"));
+    EXPECT_EQ(info->getComments(), OdString(L"two\nlines ^J"));
+    EXPECT_EQ(info->getHyperlinkBase(), OdString(L"http://example.org/?a=b"));
+    EXPECT_EQ(info->custom, (Entries{{L"key", L"value=with=signs"}, {L"key", L"\u4e16"}}));
+    EXPECT_EQ(info->database(), read.get());
+}
+
+TEST_P(Summary, AbortTakesTheRecordBack) {
+    const OdDbDatabasePtr database = drawingOf(GetParam());
+    const std::string before = database->writeBytes();
+    database->startTransaction();
+    const auto info = oddbGetSummaryInfo(database.get());
+    info->setTitle(L"Title");
+    info->setCustomSummaryInfo(0, L"key", L"value");
+    oddbPutSummaryInfo(info.get());
+    EXPECT_NE(database->writeBytes(), before);
+    database->abortTransaction();
+    EXPECT_EQ(oddbGetSummaryInfo(database.get())->getTitle(), OdString());
+    EXPECT_EQ(oddbGetSummaryInfo(database.get())->numCustomInfo(), 0);
+    EXPECT_FALSE(database->isModified());
+}
+
+INSTANTIATE_TEST_SUITE_P(Versions, Summary, testing::Values("AC1015", "AC1018", "AC1021", "AC1032"),
+                         [](const auto& version) { return std::string(version.param); });
+
+TEST(SummaryRecord, OlderVersionKeepsItInItsDictionary) {
+    const OdDbDatabasePtr database = drawingOf("AC1015");
+    const auto info = oddbGetSummaryInfo(database.get());
+    info->setTitle(L"Title");
+    oddbPutSummaryInfo(info.get());
+    EXPECT_NE(database->writeBytes().find("DWGPROPS COOKIE"), std::string::npos);
+    EXPECT_EQ(database->writeBytes().find("$TITLE"), std::string::npos);
+}
+
+TEST(SummaryRecord, PuttingItBackUnchangedChangesNothing) {
+    const OdDbDatabasePtr database = drawingOf("AC1032");
+    oddbPutSummaryInfo(oddbGetSummaryInfo(database.get()).get());
+    EXPECT_FALSE(database->isModified());
+}
+
+TEST(SummaryRecord, EntriesAreReachedByIndexAndMadeBehindTheEnd) {
+    OdDbDatabaseSummaryInfoPtr info = oddbGetSummaryInfo(nullptr);
+    OdString key, value;
+    EXPECT_THROW(info->getCustomSummaryInfo(0, key, value), OdError_InvalidIndex);
+    EXPECT_THROW(info->deleteCustomSummaryInfo(0), OdError_InvalidIndex);
+    info->setCustomSummaryInfo(7, L"a", L"1");
+    info->setCustomSummaryInfo(1, L"b", L"2");
+    info->setCustomSummaryInfo(0, L"c", L"3");
+    EXPECT_EQ(info->custom, (Entries{{L"c", L"3"}, {L"b", L"2"}}));
+    info->deleteCustomSummaryInfo(0);
+    info->getCustomSummaryInfo(0, key, value);
+    EXPECT_EQ(key, OdString(L"b"));
+    EXPECT_EQ(codeOf([&] { oddbPutSummaryInfo(info.get()); }), eNotInDatabase);
+}
+
+TEST(SummaryRecord, SavingAChangedDrawingAdvancesItsRevision) {
+    QTemporaryDir folder;
+    const OdString path = folder.filePath("plan.dxf").toStdWString();
+    const OdDbDatabasePtr database = OdDbDatabase::createEmpty();
+    const OdDbDate created = database->getTDCREATE();
+    for (int save = 1; save <= 2; ++save) {
+        addLine(*database, save);
+        database->writeFile(path);
+        EXPECT_FALSE(database->isModified());
+    }
+    const OdDbDatabasePtr read = OdDbDatabase::readFile(path);
+    EXPECT_EQ(oddbGetSummaryInfo(read.get())->getRevisionNumber(), OdString(L"2"));
+    EXPECT_FALSE(oddbGetSummaryInfo(read.get())->getLastSavedBy().isEmpty());
+    EXPECT_GT(read->getTDINDWG().asJulianFraction(), 0);
+    EXPECT_EQ(read->getTDCREATE(), created);
+    EXPECT_EQ(read->getFilename(), path);
+}
+
+TEST(SummaryRecord, SavingAnUnchangedDrawingAdvancesNothing) {
+    QTemporaryDir folder;
+    const OdString path = folder.filePath("plan.dxf").toStdWString();
+    const OdDbDatabasePtr database = OdDbDatabase::createEmpty();
+    addLine(*database, 1);
+    database->writeFile(path);
+    const std::string bytes = database->writeBytes();
+    database->writeFile(path);
+    EXPECT_EQ(OdDbDatabase::readFile(path)->writeBytes(), bytes);
+}

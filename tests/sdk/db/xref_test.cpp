@@ -1,0 +1,174 @@
+// External references: definitions, loading, nesting, cycles and the graph.
+#include "tests/sdk/db/drawing_fixture.h"
+
+#include "sdk/db/block_reference.h"
+#include "sdk/db/file_dependency.h"
+#include "sdk/db/xref_graph.h"
+
+#include <QTemporaryDir>
+#include <cmath>
+
+class References : public DrawingTest {
+protected:
+    void SetUp() override { database->setFilename(pathOf("host.dxf")); }
+    OdString pathOf(const char* name) const { return folder.filePath(name).toStdWString(); }
+    // A drawing in metres with one line and the references named.
+    void write(const char* name, std::initializer_list<const char*> attached,
+               std::initializer_list<const char*> overlaid = {}) {
+        const OdDbDatabasePtr drawing = OdDbDatabase::createEmpty();
+        drawing->setINSUNITS(OdDb::kUnitsMeters);
+        addLine(*drawing, 1);
+        for (const char* other : attached)
+            OdDbXRefManExt::addNewXRefDefBlock(drawing.get(), OdString(other), OdString(other), false);
+        for (const char* other : overlaid)
+            OdDbXRefManExt::addNewXRefDefBlock(drawing.get(), OdString(other), OdString(other), true);
+        drawing->writeFile(pathOf(name));
+    }
+    OdDbBlockTableRecordPtr attach(const char* file, bool overlay = false) {
+        const OdDbObjectId id =
+            OdDbXRefManExt::addNewXRefDefBlock(database.get(), OdString(file), OdString(file), overlay);
+        return odrxCast<OdDbBlockTableRecord>(id.safeOpenObject());
+    }
+    std::vector<std::string> graphNames() {
+        OdDbXrefGraph graph;
+        EXPECT_EQ(OdDbXrefGraph::getFrom(database.get(), graph, false), eOk);
+        std::vector<std::string> names;
+        for (std::size_t i = 1; i < graph.numNodes(); ++i)
+            names.push_back(graph.node(i).name.toUtf8());
+        return names;
+    }
+    QTemporaryDir folder;
+};
+
+using Names = std::vector<std::string>;
+
+TEST_F(References, NewDefinitionIsUnloadedAndHasItsPath) {
+    write("a.dxf", {});
+    const auto record = attach("a.dxf");
+    EXPECT_TRUE(record->isFromExternalReference());
+    EXPECT_FALSE(record->isFromOverlayReference());
+    EXPECT_EQ(record->pathName(), OdString(L"a.dxf"));
+    EXPECT_TRUE(record->xrefDatabase(false).isNull());
+    EXPECT_EQ(codeOf([&] { attach("A.DXF"); }), eDuplicateKey);
+}
+
+TEST_F(References, LoadingSetsUnitsAndDatabase) {
+    write("a.dxf", {});
+    const auto record = attach("a.dxf");
+    EXPECT_EQ(OdDbXRefMan::load(record.get()), eOk);
+    EXPECT_EQ(record->blockInsertUnits(), OdDb::kUnitsMeters);
+    ASSERT_FALSE(record->xrefDatabase(false).isNull());
+    EXPECT_EQ(record->xrefDatabase(false)->getFilename(), pathOf("a.dxf"));
+}
+
+TEST_F(References, LoadingFailsWithoutAnException) {
+    EXPECT_NE(OdDbXRefMan::load(nullptr), eOk);
+    EXPECT_EQ(OdDbXRefMan::load(attach("missing.dxf").get()), eCantOpenFile);
+    OdDbDatabase::createEmpty()->writeFile(pathOf("bad.dxf"));
+    QFile file(folder.filePath("bad.dxf"));
+    ASSERT_TRUE(file.resize(100));
+    EXPECT_EQ(OdDbXRefMan::load(attach("bad.dxf").get()), eDxfReadError);
+    const auto plain = odrxCast<OdDbBlockTableRecord>(database->getModelSpaceId().safeOpenObject());
+    EXPECT_NE(OdDbXRefMan::load(plain.get()), eOk);
+}
+
+TEST_F(References, OverlayFlagGoesOnAndOff) {
+    const auto record = attach("a.dxf");
+    OdDbXRefMan::setOverlaid(record.get(), true);
+    EXPECT_TRUE(record->isFromOverlayReference());
+    EXPECT_TRUE(record->isFromExternalReference());
+    OdDbXRefMan::setOverlaid(record.get(), false);
+    EXPECT_FALSE(record->isFromOverlayReference());
+    EXPECT_TRUE(record->isFromExternalReference());
+}
+
+TEST_F(References, NestedReferencesComeAlongButOverlaysDoNot) {
+    write("c.dxf", {});
+    write("d.dxf", {});
+    write("b.dxf", {"c.dxf"}, {"d.dxf"});
+    write("a.dxf", {"b.dxf"});
+    OdDbXRefMan::load(attach("a.dxf").get());
+    EXPECT_EQ(graphNames(), (Names{"a.dxf", "b.dxf", "c.dxf"}));
+}
+
+TEST_F(References, CyclesAreStopped) {
+    write("a.dxf", {"b.dxf"});
+    write("b.dxf", {"a.dxf", "host.dxf"});
+    database->writeFile(pathOf("host.dxf"));
+    const auto record = attach("a.dxf");
+    EXPECT_EQ(OdDbXRefMan::load(record.get()), eOk);
+    EXPECT_EQ(graphNames(), (Names{"a.dxf", "b.dxf", "a.dxf", "host.dxf"}));
+    EXPECT_EQ(OdDbXRefMan::load(attach("host.dxf").get()), eSelfReference);
+}
+
+TEST_F(References, GraphTellsHostAndStatesApart) {
+    write("a.dxf", {});
+    write("b.dxf", {});
+    OdDbXRefMan::load(attach("a.dxf").get());
+    attach("b.dxf", true);
+    attach("missing.dxf");
+    OdDbXrefGraph graph;
+    OdDbXrefGraph::getFrom(database.get(), graph, false);
+    ASSERT_EQ(graph.numNodes(), 4u);
+    EXPECT_EQ(graph.hostDwg().status, 0);
+    EXPECT_EQ(graph.hostDwg().flags & 0x10, 0);
+    EXPECT_EQ(graph.xrefNode(L"A.dxf")->status, kXrfResolved);
+    EXPECT_EQ(graph.xrefNode(L"b.dxf")->status, kXrfUnloaded);
+    EXPECT_EQ(graph.xrefNode(L"missing.dxf")->status, kXrfFileNotFound);
+    EXPECT_EQ(graph.xrefNode(L"b.dxf")->flags & 0x10, 0x10);
+    EXPECT_EQ(graph.xrefNode(L"nobody"), nullptr);
+    EXPECT_EQ(graph.hostDwg().children.size(), 3u);
+}
+
+TEST_F(References, AbortTakesDefinitionAndLoadingBack) {
+    write("a.dxf", {});
+    const auto kept = attach("a.dxf");
+    write("b.dxf", {});
+    database->startTransaction();
+    OdDbXRefMan::load(kept.get());
+    attach("b.dxf");
+    database->abortTransaction();
+    EXPECT_TRUE(kept->xrefDatabase(false).isNull());
+    EXPECT_EQ(kept->blockInsertUnits(), OdDb::kUnitsUndefined);
+    EXPECT_EQ(graphNames(), Names{"a.dxf"});
+}
+
+TEST_F(References, DependencyTellsWhereTheFileWasFound) {
+    write("a.dxf", {});
+    OdFileDependencyInfo info;
+    EXPECT_EQ(database->fileDependencyManager()->getEntry(L"Acad:XRef", L"a.dxf", info), 0u);
+    OdDbXRefMan::load(attach("a.dxf").get());
+    EXPECT_NE(database->fileDependencyManager()->getEntry(L"Acad:XRef", L"a.dxf", info), 0u);
+    EXPECT_EQ(info.foundPath + info.fileName, pathOf("a.dxf"));
+    EXPECT_EQ(info.fullFileName, OdString(L"a.dxf"));
+}
+
+TEST_F(References, ErasedDefinitionTakesItsBlockAlong) {
+    const auto record = attach("a.dxf");
+    record->upgradeOpen();
+    record->erase(true);
+    EXPECT_TRUE(graphNames().empty());
+    EXPECT_EQ(database->writeBytes().find("a.dxf"), std::string::npos);
+    EXPECT_EQ(codeOf([&] { attach("a.dxf"); }), eOk);
+}
+
+TEST_F(References, ReferenceEntitySurvivesSaving) {
+    write("a.dxf", {});
+    OdDbBlockReferencePtr reference(new OdDbBlockReference);
+    reference->setBlockTableRecord(attach("a.dxf", true)->objectId());
+    reference->setPosition({1, 2, 3});
+    reference->setScaleFactors({2, 2, 2});
+    reference->setRotation(1);
+    EXPECT_EQ(codeOf([&] { reference->setScaleFactors({std::nan(""), 1, 1}); }), eInvalidInput);
+    odrxCast<OdDbBlockTableRecord>(database->getModelSpaceId().safeOpenObject(OdDb::kForWrite))
+        ->appendOdDbEntity(reference.get());
+    const OdDbDatabasePtr read = OdDbDatabase::readBytes(database->writeBytes());
+    const auto space = odrxCast<OdDbBlockTableRecord>(read->getModelSpaceId().safeOpenObject());
+    const auto copy = odrxCast<OdDbBlockReference>(space->entityIds()[0].safeOpenObject());
+    EXPECT_EQ(copy->position(), OdGePoint3d(1, 2, 3));
+    EXPECT_EQ(copy->scaleFactors(), OdGeScale3d(2));
+    EXPECT_DOUBLE_EQ(copy->rotation(), 1);
+    const auto block = odrxCast<OdDbBlockTableRecord>(copy->blockTableRecord().safeOpenObject());
+    EXPECT_TRUE(block->isFromOverlayReference());
+    EXPECT_EQ(block->pathName(), OdString(L"a.dxf"));
+}
