@@ -6,8 +6,25 @@
 
 #include <QApplication>
 #include <QToolTip>
+#include <QWidget>
 
 namespace standin {
+
+namespace {
+
+// A widget with a style sheet of its own keeps the colours of the theme in which it was polished; setting the
+// sheet anew makes it take the present ones.
+void polishWidgetsWithSheets() {
+    for (QWidget* widget : QApplication::allWidgets()) {
+        const QString sheet = widget->styleSheet();
+        if (sheet.isEmpty())
+            continue;
+        widget->setStyleSheet(QString());
+        widget->setStyleSheet(sheet);
+    }
+}
+
+} // namespace
 
 StyleManager::StyleManager() : systemPalette(QApplication::palette()) {
     QApplication::setStyle(new HouseStyle);
@@ -35,6 +52,7 @@ void StyleManager::apply() {
                                                     : systemPalette;
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
+    polishWidgetsWithSheets();
 }
 
 } // namespace standin

@@ -4,6 +4,7 @@
 #include "standin/themes/style_manager.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QStyle>
 #include <gtest/gtest.h>
@@ -44,6 +45,17 @@ TEST_F(ThemesTest, SystemThemeGivesTheSystemsColours) {
     manager.setTheme(kThemeSystem);
     EXPECT_EQ(manager.themeNumber(), 2);
     EXPECT_EQ(QApplication::palette().color(QPalette::Window), before.color(QPalette::Window));
+}
+
+TEST_F(ThemesTest, ShownLabelWithAStyleSheetTakesTheColoursOfTheNewTheme) {
+    QWidget window;
+    QLabel label(QStringLiteral("Default"), &window);
+    label.setStyleSheet(QStringLiteral("font-weight: bold;"));
+    window.show();
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), darkPalette().color(QPalette::WindowText));
+    manager.setTheme(kThemeLight);
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), lightPalette().color(QPalette::WindowText));
+    EXPECT_EQ(label.styleSheet(), QStringLiteral("font-weight: bold;"));
 }
 
 TEST_F(ThemesTest, UnknownNumberIsTheSystemTheme) {
