@@ -1,3 +1,5 @@
+// The part of every command object that the command classes share: the held object and the interfaces
+// answered.
 #include "host/cmd_process.h"
 
 int CKWUnknownImpl<ICmdProcess>::getHeld(IKWUnknown** out) {

@@ -1,3 +1,4 @@
+// An event loop of the module's own in the place of QDialog::exec, so that an exception can leave it cleanly.
 #include "host/modal_runner.h"
 
 #include <QDialog>

@@ -1,3 +1,4 @@
+// Casts by name: the two interfaces may come from a library with type information of its own.
 #include "host/qt_application.h"
 
 #include <QCoreApplication>

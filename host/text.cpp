@@ -1,3 +1,5 @@
+// All wide texts here hold one unit for each character, so that none of these conversions loses anything but
+// the one through the local 8-bit code page.
 #include "host/text.h"
 
 #include "host/app.h"

@@ -1,3 +1,5 @@
+// A read looks at the type code that the store has given and never converts, so that a caller's default
+// stands for a value of another type.
 #include "host/typed_reads.h"
 
 namespace {

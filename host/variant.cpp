@@ -1,3 +1,4 @@
+// Ownership in a variant: texts are copied, interfaces are counted, everything else is plain data.
 #include "host/variant.h"
 
 #include "host/unknown.h"

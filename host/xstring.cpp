@@ -1,3 +1,5 @@
+// Both string classes over one set of buffer functions; only what differs by the width of a character is
+// spelled twice.
 #include "host/xstring.h"
 
 #include "sdk/rx/od_string.h"

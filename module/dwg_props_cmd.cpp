@@ -1,3 +1,4 @@
+// Hands DWGPROPS on to the job that shows the drawing properties.
 #include "module/dwg_props_cmd.h"
 
 #include "dwgprops/dwg_props_command.h"

@@ -1,3 +1,4 @@
+// Which commands exist while the module is loaded: QPREF by the mode of the application, DWGPROPS always.
 #include "module/module_object.h"
 
 #include "host/app.h"

@@ -3,6 +3,7 @@
 
 #include "host/app.h"
 #include "host/text.h"
+#include "options/dialog_state.h"
 #include "options/option_values.h"
 #include "options/pages/paper_page.h"
 #include "options/pages/pref_widget.h"
@@ -124,7 +125,7 @@ QStringList expandedNames(QTreeWidget* tree) {
 }
 
 // The section that keeps what the dialog itself remembers.
-Ref<IParam> dialogSection() { return openChild(appService<IProfile>().get(), "Dialogs\\QPref", 1); }
+Ref<IParam> dialogSection() { return openChild(appService<IProfile>().get(), kDialogSection, 1); }
 
 } // namespace
 
@@ -133,7 +134,7 @@ void Preferences::applyChanges() {
     storeStdDirs(*this);
     storePaperFormats(theOnlyIApp, paperFormats);
     if (const Ref<IParam> section = dialogSection())
-        section->removeEntry("ExpandedSections");
+        section->removeEntry(kExpandedSections);
     for (int i = 0; i < tree->topLevelItemCount(); ++i) {
         auto* item = static_cast<TreeItem*>(tree->topLevelItem(i));
         applyItem(item);
@@ -185,8 +186,8 @@ void Preferences::saveExpandedSections() {
     const Ref<IParam> section = dialogSection();
     if (!section)
         return;
-    section->removeEntry("ExpandedSections");
-    const Ref<IParam> saved = openChild(section.get(), "ExpandedSections", 1);
+    section->removeEntry(kExpandedSections);
+    const Ref<IParam> saved = openChild(section.get(), kExpandedSections, 1);
     if (!saved)
         return;
     CKWVariant one;

@@ -7,6 +7,7 @@
 #include "host/text.h"
 #include "host/typed_reads.h"
 #include "module/icons/icons.h"
+#include "options/dialog_state.h"
 #include "options/icon_numbers.h"
 #include "options/node_types.h"
 #include "options/pages/paper_page.h"
@@ -177,9 +178,9 @@ void Preferences::restoreExpansion(TreeItem* item) {
     const Ref<IProfile> profile = appService<IProfile>();
     if (!profile)
         return;
-    CXString path("Dialogs\\QPref");
+    CXString path(kDialogSection);
     path.AddDirDelim();
-    path += "ExpandedSections";
+    path += kExpandedSections;
     const Ref<IParam> expandedSections = openChild(profile.get(), path.c_str());
     unsigned int expanded = 0;
     if (readValue(expandedSections.get(), item->nodeName.constData(), &expanded))

@@ -27,7 +27,7 @@ QTreeWidgetItem* lastOpenItem(QTreeWidgetItem* item) {
 // Calls the base of QDialog on purpose: QDialog's own would choose the widget that gets the focus.
 void Preferences::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    okButton->setFocus(Qt::OtherFocusReason);
+    focusOkButton();
 }
 
 // Shows as much of a newly opened branch as there is room for, and never scrolls the opened item out of view.

@@ -1,3 +1,4 @@
+// Built when the library is loaded; the numbers are known to the option data and must not change.
 #include "module/icons/icon_table.h"
 
 namespace {

@@ -1,3 +1,4 @@
+// Tree icons come from the host's store of icons, tool icons straight from the resources of the theme.
 #include "module/icons/icons.h"
 
 #include "host/qt_ui_core.h"

@@ -4,6 +4,7 @@
 
 #include "options/pages/collapse_widget.h"
 #include "options/pages/searching_line_edit.h"
+#include "sdk/db/application_variables.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -41,6 +42,23 @@ protected:
 class BrokenDatabase : public OdRxObject {
 public:
     OdRxObject* queryX(const OdRxClass*) const override { throw OdError(eNotInDatabase); }
+};
+
+// The application's variable `cconfiguration`, for as long as this lives.
+class Configuration : public OdDbApplicationVariables {
+public:
+    explicit Configuration(const wchar_t* text) : value(OdResBuf::newRb(OdResBuf::kRtString)) {
+        value->setString(text);
+        odDbSetApplicationVariables(this);
+    }
+    ~Configuration() override { odDbSetApplicationVariables(nullptr); }
+    OdResBufPtr getVariable(const OdString& name) override {
+        return name.iCompare(L"cconfiguration") == 0 ? value : OdResBufPtr();
+    }
+    bool setVariable(const OdString&, const OdResBuf*) override { return false; }
+
+private:
+    OdResBufPtr value;
 };
 
 QStringList entries(const QComboBox& box) {
@@ -108,11 +126,13 @@ TEST_F(OptionsDialog, StandsInItsToldOrder) {
     EXPECT_EQ(controlsOf(right->layout()),
               QStringList({"configurationLabel", "configurationValue", "profileLabel", "profileCombo",
                            "profileButton", "-", "toolBar", "description"}));
-    EXPECT_EQ(controlsOf(outer->itemAt(1)->widget()->layout()),
-              QStringList({dialog.searchEdit->statusLabel->objectName(), "searchEdit",
-                           dialog.collapseWidget->collapseButton->objectName(),
-                           dialog.collapseWidget->expandButton->objectName(), "applyButton", "-", "okButton",
-                           "cancelButton", "helpButton"}));
+    const QLayout* const rows = outer->itemAt(1)->widget()->layout();
+    ASSERT_EQ(rows->count(), 2);
+    EXPECT_EQ(rows->itemAt(1)->layout()->itemAt(4)->sizeHint(), QSize(30, 0)) << "the gap before OK";
+    EXPECT_EQ(controlsOf(rows), QStringList({dialog.searchEdit->statusLabel->objectName(), "searchEdit",
+                                             dialog.collapseWidget->collapseButton->objectName(),
+                                             dialog.collapseWidget->expandButton->objectName(), "applyButton",
+                                             "-", "okButton", "cancelButton", "helpButton"}));
 }
 
 TEST_F(OptionsDialog, PutsTheToolsIntoTheBarInOrder) {
@@ -148,6 +168,20 @@ TEST_F(OptionsDialog, ShowsDefaultForAMissingConfiguration) {
     EXPECT_EQ(dialog.control<QLabel>("configurationValue")->styleSheet(), "font-weight: bold;");
 }
 
+TEST_F(OptionsDialog, ShowsTheConfigurationOfTheCurrentDrawing) {
+    const Configuration configuration(L"Site office");
+    host.openDocument(OdDbDatabase::createEmpty());
+    OpenDialog dialog;
+    EXPECT_EQ(dialog.control<QLabel>("configurationValue")->text(), "Site office");
+}
+
+TEST_F(OptionsDialog, ShowsDefaultForAnEmptyOrUnknownConfiguration) {
+    host.openDocument(OdDbDatabase::createEmpty());
+    EXPECT_EQ(OpenDialog().control<QLabel>("configurationValue")->text(), "Default") << "no such variable";
+    const Configuration configuration(L"");
+    EXPECT_EQ(OpenDialog().control<QLabel>("configurationValue")->text(), "Default");
+}
+
 TEST_F(OptionsDialog, ShowsDefaultForAConfigurationThatCannotBeRead) {
     const OdRxObjectPtr broken(new BrokenDatabase);
     TestApplication::self()->console.database = broken.get();
@@ -170,6 +204,9 @@ TEST_F(OptionsDialog, MovesTheFocusBackToOkWhenAnyItemIsClicked) {
     dialog.tree->setFocus();
     dialog.clickRow(itemOf(dialog, "grid"));
     EXPECT_EQ(dialog.focusWidget(), dialog.okButton);
+    dialog.tree->setFocus();
+    dialog.tree->setCurrentItem(nullptr);
+    EXPECT_EQ(dialog.focusWidget(), dialog.okButton) << "also when no item is current any more";
 }
 
 TEST_F(OptionsDialog, SpendsTheFirstClickIntoAnEditorOfAnotherRowOnTheRow) {

@@ -113,6 +113,17 @@ TEST_F(RowMoves, GivesAPlainRowANewRowWithoutItsEditor) {
     EXPECT_EQ(shownText(dialog, "name"), "name");
 }
 
+TEST_F(RowMoves, KeepsTheWholeTextOfAMovedRow) {
+    tree.node("lines").set("Name", L"Grid <lines>");
+    tree.node("other");
+    OpenDialog dialog;
+    dialog.clickRow(itemOf(dialog, "lines"));
+    dialog.moveCurrent(1);
+    EXPECT_EQ(shownText(dialog, "lines"), "Grid <lines>");
+    EXPECT_EQ(dialog.labelOf(itemOf(dialog, "lines"))->toolTip(), "Grid <lines>");
+    EXPECT_EQ(itemOf(dialog, "lines")->text(0), "") << "the row alone paints it";
+}
+
 TEST_F(RowMoves, ForgetsTheButtonOfAMovedRadio) {
     OptionTreeWriter group = tree.node("group");
     group.node("a").type(L"Radio").set("Value", 1);

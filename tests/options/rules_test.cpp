@@ -4,6 +4,7 @@
 #include "module/icons/icons.h"
 #include "options/pages/searching_line_edit.h"
 
+#include <QAction>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -272,6 +273,7 @@ TEST_F(DialogRules, TakesTheIconsOfTheNewTheme) {
     EXPECT_EQ(picture(dialog.upButton->icon()), picture(toolIcon(31)));
     EXPECT_EQ(picture(dialog.downButton->icon()), picture(toolIcon(30)));
     EXPECT_EQ(picture(dialog.profileButton->icon()), picture(treeIcon(4)));
+    EXPECT_EQ(picture(dialog.control<QAction>("clearAction")->icon()), picture(treeIcon(29)));
     host.setTheme(0);
     EXPECT_EQ(rowPicture(itemOf(dialog, "group")), darkRow);
 }

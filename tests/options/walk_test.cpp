@@ -1,43 +1,36 @@
-// The walk of the option data: which nodes become rows, what the rows are, and what is kept about them.
-#include "tests/options/open_dialog.h"
+// The walk of the option data: which nodes become rows, which pages they load, and what is kept about them.
+#include "tests/options/walk_fixture.h"
 
 #include "module/icons/icons.h"
-#include "options/pages/line_edit.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
-#include <QComboBox>
-#include <QLayout>
 #include <QLineEdit>
-#include <QRadioButton>
-#include <QSpinBox>
-#include <QToolButton>
 #include <gtest/gtest.h>
 
 namespace {
 
-class OptionWalk : public testing::Test {
+class OptionWalk : public WalkFixture {
 protected:
-    OptionWalk() : tree(optionTree(host)) {}
     // Marks a node as expanded in the profile, under any value.
     template <class Value> void rememberExpanded(const char* name, const Value& value) {
         OptionTreeWriter(openChild(&host.profile(), "Dialogs\\QPref\\ExpandedSections", 1)).set(name, value);
     }
-    FixtureHost host;
-    OptionTreeWriter tree;
 };
 
-QWidget* rowOf(const Preferences& dialog, const char* name) {
-    return dialog.rowWidgets.value(itemOf(dialog, name));
-}
-
-template <class Editor> Editor* editorOf(const Preferences& dialog, const char* name) {
-    return rowOf(dialog, name)->findChild<Editor*>();
-}
-
-bool isOn(const Preferences& dialog, const char* name) {
-    return itemOf(dialog, name)->isEnabled() && rowOf(dialog, name)->isEnabled();
-}
+// Notes what the walk tells and asks, in order, and the trees that it tells of.
+class WalkWatcher : public FixtureVars {
+public:
+    void openOptionTree(IParam* tree) override {
+        calls << "open";
+        trees.push_back(tree);
+    }
+    void closeOptionTree(IParam* tree) override {
+        calls << "close";
+        trees.push_back(tree);
+    }
+    QStringList calls;
+    std::vector<IParam*> trees;
+};
 
 QImage picture(const QIcon& icon) { return icon.pixmap(16).toImage(); }
 
@@ -60,10 +53,14 @@ TEST_F(OptionWalk, MakesARootThatIsOpenAndCurrent) {
     EXPECT_EQ(root->buttonMask, kMaskNone);
 }
 
-TEST_F(OptionWalk, TellsTheHostBeforeAndAfter) {
+TEST_F(OptionWalk, TellsTheHostOfTheTreeBeforeAndAfter) {
+    WalkWatcher watcher;
+    watcher.beforeRead = [&watcher](const std::string& name) { watcher.calls << name.c_str(); };
+    host.documents.vars = &watcher;
+    tree.node("size").type(L"EditInt").variable("GRIPSIZE");
     OpenDialog dialog;
-    EXPECT_EQ(host.vars.treesOpened, 1);
-    EXPECT_EQ(host.vars.treesClosed, 1);
+    EXPECT_EQ(watcher.calls, QStringList({"open", "GRIPSIZE", "close"}));
+    EXPECT_EQ(watcher.trees, std::vector<IParam*>({tree.get(), tree.get()}));
 }
 
 TEST_F(OptionWalk, KeepsTheOrderOfTheStore) {
@@ -179,102 +176,6 @@ TEST_F(OptionWalk, ShowsTheFallbackIconWhereNoNodeAboveNamesOne) {
     EXPECT_EQ(rowPicture(dialog, "option"), picture(treeIcon(33)));
 }
 
-TEST_F(OptionWalk, MakesEachKindOfRowWithItsEditor) {
-    const std::tuple<const wchar_t*, int, const char*> kinds[] = {
-        {L"Check", kNodeCheck, "QCheckBox"},
-        {L"check", kNodeCheck, "QCheckBox"},
-        {L"Radio", kNodeRadio, "QRadioButton"},
-        {L"RadioCursor", kNodeRadioCursor, "QRadioButton"},
-        {L"Color", kNodeColor, "QToolButton"},
-        {L"AcColor", kNodeAcColor, "QToolButton"},
-        {L"EditInt", kNodeEditInt, "QSpinBox"},
-        {L"EditReal", kNodeEditReal, "QDoubleSpinBox"},
-        {L"EditFile", kNodeEditFile, "QLineEdit"},
-        {L"Edit", kNodeEdit, "QLineEdit"},
-        {L"EditMultiFile", kNodeEditMultiFile, "QLineEdit"},
-        {L"EditDir", kNodeEditDir, "QLineEdit"},
-        {L"Combo", kNodeCombo, "QComboBox"}};
-    int count = 0;
-    for (const auto& kind : kinds)
-        tree.node(QStringLiteral("row%1").arg(count++).toLocal8Bit()).type(std::get<0>(kind)).set("Key", "K");
-    OpenDialog dialog;
-    for (int i = 0; i < count; ++i) {
-        const QByteArray name = QStringLiteral("row%1").arg(i).toLocal8Bit();
-        const auto& [type, number, editorClass] = kinds[i];
-        SCOPED_TRACE(testing::Message() << "Type " << QString::fromWCharArray(type).toStdString());
-        EXPECT_EQ(itemOf(dialog, name)->nodeType, number);
-        int editors = 0;
-        for (const QWidget* child :
-             rowOf(dialog, name)->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
-            editors += child->inherits(editorClass);
-        EXPECT_EQ(editors, 1);
-    }
-}
-
-TEST_F(OptionWalk, PutsRadioAndCheckBeforeTheLabelAndOtherEditorsBehindIt) {
-    tree.node("check").type(L"Check");
-    tree.node("edit").type(L"Edit");
-    tree.node("color").type(L"Color");
-    OpenDialog dialog;
-    const auto firstOf = [&dialog](const char* name) {
-        return rowOf(dialog, name)->layout()->itemAt(0)->widget();
-    };
-    const auto left = [&dialog](const char* name) {
-        const QWidget* const label = dialog.labelOf(itemOf(dialog, name));
-        return label->x();
-    };
-    EXPECT_GT(left("check"), firstOf("check")->x());
-    EXPECT_LT(left("edit"), editorOf<QLineEdit>(dialog, "edit")->x());
-    EXPECT_GT(left("color"), editorOf<QToolButton>(dialog, "color")->x());
-}
-
-TEST_F(OptionWalk, TakesATypeInAnotherCaseAsASection) {
-    tree.node("radio").type(L"radio");
-    tree.node("upper").type(L"CHECK");
-    tree.node("plain");
-    OpenDialog dialog;
-    for (const char* name : {"radio", "upper", "plain"}) {
-        EXPECT_EQ(itemOf(dialog, name)->nodeType, int(kNodeSection)) << name;
-        EXPECT_EQ(editorOf<QAbstractButton>(dialog, name), nullptr) << name;
-    }
-}
-
-TEST_F(OptionWalk, CutsOnlyColourRowsAtTheAngleBracket) {
-    tree.node("color").type(L"Color").set("Name", L"Grid <lines>");
-    tree.node("check").type(L"Check").set("Name", L"Grid <lines>");
-    tree.node("section").set("Name", L"Grid <lines>");
-    OpenDialog dialog;
-    EXPECT_EQ(shownText(dialog, "color"), "Grid");
-    EXPECT_EQ(shownText(dialog, "check"), "Grid <lines>");
-    EXPECT_EQ(shownText(dialog, "section"), "Grid <lines>");
-}
-
-TEST_F(OptionWalk, PaintsOnlyTheRow) {
-    tree.node("section");
-    OpenDialog dialog;
-    EXPECT_EQ(itemOf(dialog, "section")->text(0), "");
-    EXPECT_EQ(dialog.tree->itemWidget(itemOf(dialog, "section"), 0), rowOf(dialog, "section"));
-}
-
-TEST_F(OptionWalk, ShowsChoicesThatAreNotHiddenAsRowsBelowTheirCombo) {
-    OptionTreeWriter combo = tree.node("units").type(L"Combo");
-    combo.node("Choices").node("mm").set("Name", L"Millimetres");
-    combo.node("Choices").set("Hidden", 0).node("inch").set("Name", L"Inches");
-    OpenDialog dialog;
-    EXPECT_EQ(namesBelow(itemOf(dialog, "units")), QStringList({"Choices"}));
-    EXPECT_EQ(namesBelow(itemOf(dialog, "Choices")), QStringList({"mm", "inch"}));
-    EXPECT_EQ(itemOf(dialog, "mm")->nodeType, int(kNodeSection));
-    EXPECT_EQ(editorOf<QComboBox>(dialog, "units")->count(), 2);
-}
-
-TEST_F(OptionWalk, ShowsHiddenChoicesInTheComboAlone) {
-    OptionTreeWriter choices = tree.node("units").type(L"Combo").node("Choices").set("Hidden", 1);
-    choices.node("mm").set("Name", L"Millimetres");
-    OpenDialog dialog;
-    EXPECT_EQ(itemOf(dialog, "units")->childCount(), 0);
-    EXPECT_EQ(editorOf<QComboBox>(dialog, "units")->itemText(0), "Millimetres");
-}
-
 TEST_F(OptionWalk, KeepsANameThatOutlivesItsEnumerator) {
     tree.node("a name of more than the few letters that a short text holds in place");
     OpenDialog dialog;
@@ -289,30 +190,6 @@ TEST_F(OptionWalk, BorrowsTheNodesOfTheConfiguration) {
     EXPECT_EQ(dialog.optionItems.value(rootItem(dialog)), tree.get())
         << "the nameless tree is the root's node";
     EXPECT_EQ(dialog.parentNode(itemOf(dialog, "group")), tree.get());
-}
-
-TEST_F(OptionWalk, FindsTheKeyOfARadioInItsParentButNotInItsGrandparent) {
-    OptionTreeWriter(openChild(&host.profile(), "Drawing", 1)).set("Style", 2);
-    OptionTreeWriter group = tree.node("group");
-    group.set("Key", "Style").set("Section", "Drawing").set("IFace", "IProfile");
-    group.node("near").type(L"Radio").set("Value", 2);
-    group.node("between").node("far").type(L"Radio").set("Value", 2);
-    OpenDialog dialog;
-    EXPECT_TRUE(editorOf<QRadioButton>(dialog, "near")->isChecked());
-    EXPECT_FALSE(editorOf<QRadioButton>(dialog, "far")->isChecked());
-}
-
-TEST_F(OptionWalk, IgnoresTheSectionOfASystemVariable) {
-    OptionTreeWriter(openChild(&host.profile(), "Drawing", 1)).set("GRIPSIZE", 9);
-    host.vars.set("GRIPSIZE", 4);
-    tree.node("size")
-        .type(L"EditInt")
-        .set("Key", "GRIPSIZE")
-        .set("sysvar", 1)
-        .set("Section", "Drawing")
-        .set("IFace", "IProfile");
-    OpenDialog dialog;
-    EXPECT_EQ(editorOf<QSpinBox>(dialog, "size")->value(), 4);
 }
 
 TEST_F(OptionWalk, RestoresTheExpansionSavedUnderTheNodesName) {
@@ -355,56 +232,6 @@ TEST_F(OptionWalk, DoesNotScrollWhileItRestoresTheExpansion) {
     EXPECT_EQ(dialog.tree->verticalScrollBar()->value(), 0);
 }
 
-TEST_F(OptionWalk, StartsTheRowsBelowAnUncheckedRowDisabled) {
-    tree.node("off").type(L"Check").node("below").type(L"Edit").node("deeper").type(L"Edit");
-    tree.node("on").type(L"Check").set("Default", 1).node("belowOn").type(L"Edit");
-    OpenDialog dialog;
-    EXPECT_TRUE(isOn(dialog, "off"));
-    EXPECT_FALSE(isOn(dialog, "below"));
-    EXPECT_FALSE(isOn(dialog, "deeper")) << "its parent is disabled";
-    EXPECT_TRUE(isOn(dialog, "belowOn"));
-}
-
-TEST_F(OptionWalk, CountsARowWithoutAStateAsOn) {
-    tree.node("section").node("below").type(L"Edit");
-    OpenDialog dialog;
-    EXPECT_EQ(itemOf(dialog, "section")->state, 2);
-    EXPECT_TRUE(isOn(dialog, "below"));
-}
-
-TEST_F(OptionWalk, DisablesARowByTheValueEightOfItsState) {
-    tree.node("off").type(L"Edit").set("State", 8);
-    tree.node("alsoOff").type(L"Edit").set("State", 12);
-    tree.node("on").type(L"Edit").set("State", 7);
-    tree.node("bitNumberEight").type(L"Edit").set("State", 256);
-    OpenDialog dialog;
-    EXPECT_FALSE(isOn(dialog, "off"));
-    EXPECT_FALSE(isOn(dialog, "alsoOff"));
-    EXPECT_TRUE(isOn(dialog, "on"));
-    EXPECT_TRUE(isOn(dialog, "bitNumberEight"));
-}
-
-TEST_F(OptionWalk, GroupsTheRadiosOfOneParentExclusively) {
-    OptionTreeWriter group = tree.node("group");
-    group.node("a").type(L"Radio").set("Value", 1);
-    group.node("b").type(L"Radio").set("Value", 2);
-    tree.node("other").node("c").type(L"Radio").set("Value", 1);
-    OpenDialog dialog;
-    QButtonGroup* const buttons = dialog.buttonGroups.value(itemOf(dialog, "group"));
-    ASSERT_NE(buttons, nullptr);
-    EXPECT_TRUE(buttons->exclusive());
-    EXPECT_EQ(buttons->buttons().size(), 2);
-    EXPECT_EQ(dialog.buttonGroups.value(itemOf(dialog, "other"))->buttons().size(), 1);
-    EXPECT_EQ(dialog.buttonGroups.size(), 2);
-    EXPECT_EQ(dialog.radioLists.value(itemOf(dialog, "group")).size(), 2);
-    editorOf<QRadioButton>(dialog, "a")->click();
-    editorOf<QRadioButton>(dialog, "b")->click();
-    editorOf<QRadioButton>(dialog, "c")->click();
-    EXPECT_FALSE(editorOf<QRadioButton>(dialog, "a")->isChecked());
-    EXPECT_TRUE(editorOf<QRadioButton>(dialog, "b")->isChecked());
-    EXPECT_TRUE(editorOf<QRadioButton>(dialog, "c")->isChecked());
-}
-
 TEST_F(OptionWalk, RemembersTheColourOfTheCursor) {
     tree.node("cursor").type(L"Color").set("ID", int(kIdCursorColor));
     OpenDialog dialog;
@@ -432,6 +259,17 @@ TEST_F(OptionWalk, FillsThePaperRootAndChoosesItsRowByType) {
     EXPECT_EQ(papers->nodeType, int(kNodePaperRoot));
     EXPECT_EQ(papers->childCount(), 1);
     EXPECT_NE(editorOf<QCheckBox>(dialog, "papers"), nullptr) << "the editor of the told Type";
+}
+
+TEST_F(OptionWalk, LoadsAPageBeforeItsOwnRowIsOff) {
+    OptionTreeWriter(openChild(&host.papers(), "Paper00000001", 1)).set("Name", L"A4");
+    tree.node("papers").type(L"Check").set("ID", int(kIdPapers)).set("State", 8).node("below");
+    OpenDialog dialog;
+    TreeItem* const papers = itemOf(dialog, "papers");
+    EXPECT_FALSE(isOn(dialog, "papers"));
+    EXPECT_EQ(papers->state, 0);
+    EXPECT_TRUE(dialog.rowWidgets.value(papers->childItem(0))->isEnabled()) << "it was there first";
+    EXPECT_FALSE(isOn(dialog, "below")) << "the data's own rows come after";
 }
 
 TEST_F(OptionWalk, FillsTheRasterFormats) {
