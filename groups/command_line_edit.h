@@ -1,0 +1,23 @@
+// The group command that starts from a member: add objects to its group, remove some, or rename it.
+#pragma once
+
+#include "groups/command_line_unified.h"
+
+class CCommandLineGroupEdit : public CCommandLineGroupUnified {
+public:
+    int Run(IParam* params) override;
+    int enableQuery() override;
+
+private:
+    // The group in hand.
+    struct Found {
+        OdDbDictionaryPtr dictionary;
+        OdDbGroupPtr group;
+        OdString name;
+    };
+    bool findGroup(const Scene& scene, Found& found);
+    bool selectMember(const Scene& scene, hostSelectionSetPtr& selection, OdString& name);
+    int runOption(const Scene& scene, Found& found);
+    int removeObjects(const Scene& scene, const Found& found, const OdDbObjectIdArray& members);
+    int renameGroup(const Scene& scene, const Found& found, const OdDbObjectIdArray& members);
+};

@@ -1,0 +1,93 @@
+// The three fills of the table of groups. They differ in order and strictness, and that is meant.
+#include "groups/dialog_parts.h"
+#include "groups/group_dlg.h"
+#include "host/text.h"
+
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTableWidget>
+
+namespace {
+
+constexpr int kRowHeight = 22;
+
+// Where the fill isn't strict, an entry that does not open or is no group is passed over.
+OdDbGroupPtr groupOf(const OdDbDictionaryIteratorPtr& entry, bool strict) {
+    const OdDbObjectPtr object = entry->getObject();
+    return strict ? odrxCast<OdDbGroup>(object) : odrxQuery<OdDbGroup>(object.get());
+}
+
+} // namespace
+
+void CGroupDlg::fillTable() {
+    data->currentRow = -1;
+    showRows(rowsOf(odrxCast<OdDbDictionary>(dictionaryId.safeOpenObject()), kSorted, true), false);
+    reorderButton->setEnabled(namedRows >= 2);
+    findNameButton->setEnabled(namedRows > 0);
+    if (data->currentRow >= 0)
+        group_dialogs::scrollToRow(*groupTable, data->currentRow);
+    enableGroupButtons(false);
+}
+
+// `currentRow` keeps its value when no row has the name: that is meant.
+void CGroupDlg::refillTable() {
+    clearTable();
+    showRows(rowsOf(odrxCast<OdDbDictionary>(dictionaryId.openObject()), kSorted, false), false);
+    const bool isRow = data->currentRow >= 0 && data->currentRow < groupTable->rowCount();
+    if (isRow)
+        group_dialogs::scrollToRow(*groupTable, data->currentRow);
+    enableGroupButtons(isRow);
+    findNameButton->setEnabled(namedRows > 0);
+}
+
+void CGroupDlg::fillForIncludeUnnamed() {
+    data->includeUnnamed = includeUnnamedCheck->isChecked();
+    const int currentRow = data->currentRow;
+    clearTable();
+    showRows(rowsOf(odrxCast<OdDbDictionary>(dictionaryId.openObject()), kCollated, false), true);
+    data->currentRow = currentRow;
+}
+
+void CGroupDlg::clearTable() {
+    groupTable->clearContents();
+    groupTable->setRowCount(0);
+    rowIds.clear();
+}
+
+std::vector<CGroupDlg::Row> CGroupDlg::rowsOf(const OdDbDictionaryPtr& dictionary, Order order, bool strict) {
+    std::vector<Row> rows;
+    namedRows = 0;
+    for (const auto entry = dictionary->newIterator(static_cast<int>(order)); !entry->done(); entry->next()) {
+        const OdDbGroupPtr group = groupOf(entry, strict);
+        if ((group.isNull() && !strict) || (group->isAnonymous() && !data->includeUnnamed))
+            continue;
+        noteNamedRow(group, static_cast<int>(rows.size()), strict);
+        rows.push_back({group->name(), group->isSelectable(), group->objectId()});
+    }
+    return rows;
+}
+
+// At the start only the named groups are compared with the record's name, exactly; later all, in any case.
+void CGroupDlg::noteNamedRow(const OdDbGroupPtr& group, int row, bool strict) {
+    if (!group->isAnonymous())
+        ++namedRows;
+    const OdString name = group->name();
+    if (strict ? !group->isAnonymous() && name == data->name : name.iCompare(data->name) == 0)
+        data->currentRow = row;
+}
+
+void CGroupDlg::showRows(const std::vector<Row>& rows, bool withIds) {
+    groupTable->setRowCount(static_cast<int>(rows.size()));
+    const QString yes = QDialog::tr("Yes"), no = QDialog::tr("No");
+    int at = 0;
+    for (const Row& row : rows) {
+        auto* const nameItem = new QTableWidgetItem(hostqt::qString(row.name));
+        if (withIds)
+            nameItem->setData(Qt::UserRole, group_dialogs::dataOfId(row.id));
+        groupTable->setItem(at, 0, nameItem);
+        groupTable->setItem(at, 1, new QTableWidgetItem(row.selectable ? yes : no));
+        groupTable->setRowHeight(at++, kRowHeight);
+        rowIds.push_back(row.id);
+    }
+}

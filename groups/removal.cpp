@@ -1,0 +1,35 @@
+#include "groups/removal.h"
+
+#include "groups/group_messages.h"
+#include "groups/selection_step.h"
+#include "host/transaction_guard.h"
+
+bool mayRemove(const OdDbGroupPtr& group, std::size_t count, const OdString& name, const QString& title,
+               QMessageBox::StandardButton defaultButton) {
+    OdDbObjectIdArray members;
+    group->allEntityIds(members);
+    if (count != members.size() || count < 2)
+        return true;
+    return QMessageBox::question(nullptr, title, group_messages::removingAll(name),
+                                 QMessageBox::Ok | QMessageBox::Cancel, defaultButton) != QMessageBox::Cancel;
+}
+
+void removeInTransaction(const OdDbDatabasePtr& database, const OdDbGroupPtr& group,
+                         const OdDbObjectIdArray& ids) {
+    DbTransactionGuard guard(database);
+    guard.begin();
+    group->remove(ids);
+    guard.commit();
+}
+
+int removeByPrompt(const OdDbDatabasePtr& database, HostEditorSelection* editor, GroupData& data,
+                   bool alreadyHighlighted) {
+    DbTransactionGuard guard(database);
+    guard.begin();
+    const int failure = removeObjectsPrompt(editor, data, alreadyHighlighted);
+    if (failure == 0)
+        guard.commit();
+    else
+        guard.abort();
+    return failure;
+}
