@@ -25,6 +25,13 @@ template <class W> W* named(W* widget, const char* name) {
 
 PaperDialog::PaperDialog(QWidget* parent, const PaperSheet& sheet) : QDialog(parent) {
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    build();
+    layOut();
+    fill(sheet);
+    connectAll();
+}
+
+void PaperDialog::build() {
     nameEdit = new QLineEdit(this);
     unitsCombo = named(new QComboBox(this), "unitsCombo");
     widthEdit = new LengthEdit(this);
@@ -37,12 +44,10 @@ PaperDialog::PaperDialog(QWidget* parent, const PaperSheet& sheet) : QDialog(par
     usedCheck = named(new QCheckBox(tr("Offer this paper in lists"), this), "usedCheck");
     okButton = named(new QPushButton(tr("OK"), this), "okButton");
     cancelButton = named(new QPushButton(tr("Cancel"), this), "cancelButton");
-    build();
-    fill(sheet);
-    connectAll();
+    okButton->setDefault(true);
 }
 
-void PaperDialog::build() {
+void PaperDialog::layOut() {
     auto* form = new QFormLayout(this);
     addField(form, tr("Name:"), nameEdit, "nameEdit", &PaperDialog::checkName);
     form->addRow(tr("Unit:"), unitsCombo);
@@ -59,7 +64,6 @@ void PaperDialog::build() {
     buttons->addWidget(okButton);
     buttons->addWidget(cancelButton);
     form->addRow(buttons);
-    okButton->setDefault(true);
 }
 
 // The error stands below its edit and takes no room while there is none.

@@ -32,6 +32,7 @@ private:
         bool touched; // a field that nobody has been in shows no error before OK
     };
     void build();
+    void layOut();
     void addField(QFormLayout* form, const QString& label, QLineEdit* edit, const char* name,
                   QString (PaperDialog::*check)() const);
     void fill(const PaperSheet& sheet);
@@ -51,12 +52,13 @@ private:
     QString checkMargin(const LengthEdit* edit, const LengthEdit* opposite, const LengthEdit* size) const;
     QString units() const;
 
-    QLineEdit* nameEdit;
-    QComboBox* unitsCombo;
-    LengthEdit *widthEdit, *heightEdit, *leftEdit, *rightEdit, *topEdit, *bottomEdit;
-    QLabel* otherUnitLabel;
-    QCheckBox* usedCheck;
-    QPushButton *okButton, *cancelButton;
+    QLineEdit* nameEdit = nullptr;
+    QComboBox* unitsCombo = nullptr;
+    LengthEdit *widthEdit = nullptr, *heightEdit = nullptr;
+    LengthEdit *leftEdit = nullptr, *rightEdit = nullptr, *topEdit = nullptr, *bottomEdit = nullptr;
+    QLabel* otherUnitLabel = nullptr;
+    QCheckBox* usedCheck = nullptr;
+    QPushButton *okButton = nullptr, *cancelButton = nullptr;
     std::vector<Field> fields;
     QString shownUnits; // what the lengths are in at the moment
 };

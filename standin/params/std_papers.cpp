@@ -7,6 +7,7 @@
 #include "standin/dialogs/paper_dialog.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 namespace standin {
 
@@ -30,10 +31,11 @@ std::string sectionName(int number) {
     return name.c_str();
 }
 
-// A search leaves its marks in the text of a row.
+// A search leaves its marks in the text of a row; their colours are the module's own.
 QString withoutMarks(QString text) {
-    return text.remove(QStringLiteral("<span style=\"background-color: green\"><font color=\"white\">"))
-        .remove(QStringLiteral("</font></span>"));
+    static const QRegularExpression mark(
+        QStringLiteral("<span style=\"background-color: [^\"]*\"><font color=\"[^\"]*\">|</font></span>"));
+    return text.remove(mark);
 }
 
 Ref<IParam> findPaper(IParam& papers, const QString& rowText) {

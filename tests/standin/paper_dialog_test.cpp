@@ -179,6 +179,13 @@ TEST_F(PaperDialogTest, SearchMarksInTheRowTextAreOverlooked) {
     EXPECT_EQ(host.messages.size(), 0u);
 }
 
+TEST_F(PaperDialogTest, TheColoursOfTheMarksDoNotMatter) {
+    const QString marked =
+        QString::fromLatin1(marks).replace("green", "#ffee00").replace("white", "#000").arg("A4");
+    EXPECT_TRUE(modify(marked + " (210.00 x 297.00 mm)", [](User& user) { user.click("okButton"); }));
+    EXPECT_EQ(host.messages.size(), 0u);
+}
+
 TEST_F(PaperDialogTest, ANameThatLooksLikeASearchMarkIsFoundAsItStands) {
     const QString name = QString::fromLatin1(marks).arg(QStringLiteral("A4"));
     CKWVariant value;
