@@ -50,6 +50,32 @@ TEST_F(ComboEditor, ListsItsChoicesInOrderWithNameAndDescription) {
     EXPECT_EQ(item("Combo")->buttonMask, unsigned(kMaskModify));
 }
 
+// The node of a combo that names a choice "locked" and doesn't open it.
+struct ComboWithLockedChoice : standin::MemParam {
+    ComboWithLockedChoice() {
+        for (const char* name : {"locked", "open"})
+            OptionTreeWriter(Ref<IParam>::take(standin::MemParam::openSection(name, 1))).set("Name", L"Open");
+    }
+    IParam* openSection(const char* name, int create) override {
+        if (CXString("Choices").Compare(name) == 0)
+            return Ref<IParam>::share(this).detach();
+        return CXString("locked").Compare(name) == 0 ? nullptr : standin::MemParam::openSection(name, create);
+    }
+};
+
+TEST_F(ComboEditor, AChoiceThatDoesNotOpenIsPassedOverWithoutCounting) {
+    node("Row");
+    open();
+    const auto combo = Ref<ComboWithLockedChoice>::share(new ComboWithLockedChoice);
+    OptionTreeWriter(Ref<IParam>::share(combo.get())).set("Default", L"open");
+    dialog->buildCombo(item("Row"), combo.get(), -1);
+    auto* box = row("Row")->findChild<QComboBox*>("Row");
+    ASSERT_EQ(box->count(), 1);
+    EXPECT_EQ(box->itemText(0), "Open");
+    EXPECT_EQ(box->itemData(0, Qt::UserRole).toString(), "open");
+    EXPECT_EQ(box->currentIndex(), 0);
+}
+
 TEST_F(ComboEditor, TheStoredChoiceIsShownInAnyCaseWithItsDescription) {
     store("S", "Combo", CXStringW(L"FIRST"));
     addCombo();
