@@ -34,6 +34,16 @@ OdString OdDbBlockReference::blockName() const {
     return found == DxfTagList::npos ? OdString() : codec().decode(content[found].value());
 }
 
+void OdDbBlockReference::setBlockName(const OdString& name) {
+    const std::string text = codec().encode(name);
+    DxfTagList& tags = edit();
+    const std::size_t found = tags.find(2, ownRange(tags));
+    if (found != DxfTagList::npos)
+        tags.replace(found, text);
+    else
+        tags.insert(ownRange(tags).begin, 2, text);
+}
+
 OdDbObjectId OdDbBlockReference::blockTableRecord() const {
     if (!database())
         return pendingBlock;
@@ -43,14 +53,14 @@ OdDbObjectId OdDbBlockReference::blockTableRecord() const {
 
 void OdDbBlockReference::setBlockTableRecord(OdDbObjectId block) {
     const auto record = odrxCast<OdDbBlockTableRecord>(block.safeOpenObject());
-    setTextValue(kMarker, 2, record->getName());
+    setBlockName(record->getName());
     pendingBlock = block;
 }
 
 // The block may have been renamed between the choice and the entry.
 void OdDbBlockReference::enteredDatabase() {
     if (pendingBlock.isValid() && pendingBlock.database() == database() && !pendingBlock.isErased())
-        setTextValue(kMarker, 2, odrxCast<OdDbBlockTableRecord>(pendingBlock.openObject())->getName());
+        setBlockName(odrxCast<OdDbBlockTableRecord>(pendingBlock.openObject())->getName());
 }
 
 OdGePoint3d OdDbBlockReference::position() const {

@@ -11,6 +11,7 @@ public:
     OdDbObjectId blockTableRecord() const;
     void setBlockTableRecord(OdDbObjectId block);
     OdString blockName() const;
+    void setBlockName(const OdString& name);
     // In world coordinates; the file keeps it in those of the reference's plane.
     OdGePoint3d position() const;
     void setPosition(const OdGePoint3d& point);

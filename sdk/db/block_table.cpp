@@ -1,5 +1,6 @@
 #include "sdk/db/block_table.h"
 
+#include "sdk/db/block_reference.h"
 #include "sdk/db/database_impl.h"
 
 #include <algorithm>
@@ -23,6 +24,24 @@ constexpr int kPaperSpaceFlag = 67;
 
 OdDbEntityPtr beginOf(const OdDbBlockTableRecord& record, OdDb::OpenMode mode = OdDb::kForRead) {
     return odrxQuery<OdDbEntity>(record.blockBeginId().openObject(mode, true).get());
+}
+
+// References know their block by its name.
+void renameInserts(OdDbDatabase& database, const OdString& former, const OdString& name) {
+    OdDbDatabaseImpl& impl = database.impl();
+    for (std::size_t i = 0; i < impl.stubs.size(); ++i) {
+        OdDbStub& stub = impl.stubs[i];
+        if (impl.typeName(stub) != "INSERT" || stub.has(OdDbStub::kStructure))
+            continue;
+        const auto insert = odrxQuery<OdDbBlockReference>(impl.load(stub).get());
+        if (!insert.isNull() && insert->blockName().iCompare(former) == 0) {
+            const bool wasWritable = insert->isWriteEnabled();
+            insert->upgradeOpen();
+            insert->setBlockName(name);
+            if (!wasWritable)
+                insert->downgradeOpen();
+        }
+    }
 }
 
 bool isLayoutName(const OdString& name) {
@@ -63,7 +82,10 @@ OdDbObjectId OdDbBlockTableRecord::blockBeginId() const {
 }
 
 void OdDbBlockTableRecord::setName(const OdString& name) {
+    const OdString former = getName();
     OdDbSymbolTableRecord::setName(name);
+    if (database() && former != name)
+        renameInserts(*database(), former, name);
     const OdDbEntityPtr begin = beginOf(*this, OdDb::kForWrite);
     if (begin.isNull())
         return;

@@ -102,6 +102,9 @@ private:
 
 // The drawing's coordinate system. getCurrentUCS puts its matrix to world coordinates into `matrix`.
 void getCurrentUCS(const OdDbDatabase* database, OdGeMatrix3d& matrix);
+// Like system variables, neither undone nor aborted. Axes of length 1 at right angles.
+void setCurrentUCS(OdDbDatabase* database, const OdGePoint3d& origin, const OdGeVector3d& xAxis,
+                   const OdGeVector3d& yAxis);
 OdGePoint3d get_UCSORG(const OdDbDatabase* database);
 OdGeVector3d get_UCSXDIR(const OdDbDatabase* database);
 OdGeVector3d get_UCSYDIR(const OdDbDatabase* database);

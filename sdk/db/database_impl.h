@@ -59,7 +59,8 @@ public:
     DxfCodec codec;
     int version = kVersionR12;
     OdString filename;
-    std::pair<long long, long long> fileStamp; // size and time of the file, of a drawing loaded as a reference
+    std::pair<long long, long long>
+        fileStamp; // size and time of the file, of a drawing loaded as a reference
     std::vector<OdString> warnings;
     OdDbHeader header;
     std::size_t headerStart = 0; // of the first variable in the header section's record
@@ -81,7 +82,6 @@ public:
     std::map<std::string, OdDbSection> sections;
     std::map<std::string, OdDbTableContent> tables;
     std::unordered_map<const OdDbStub*, OdDbBlockContent> blocks;
-    std::unordered_map<const OdDbStub*, std::vector<OdDbStub*>> newSubEntities;
     OdDbStub* rootDictionary = nullptr;
     OdDbStub* modelSpace = nullptr;
     OdDbStub* paperSpace = nullptr;

@@ -39,7 +39,7 @@ void OdDbDrawingWriter::emitAdded(const OdDbStub& stub) {
     const auto records = before.find(&stub);
     if (records != before.end())
         for (OdDbStub* added : records->second)
-            emitNew(*added);
+            emitObject(*added);
     const auto blocks = blocksBefore.find(&stub);
     if (blocks != blocksBefore.end())
         for (OdDbStub* added : blocks->second)
@@ -191,22 +191,12 @@ void OdDbDrawingWriter::emitTableHead(OdDbStub& stub) {
 
 void OdDbDrawingWriter::emitObject(OdDbStub& stub) { emitOwned(impl.load(stub)->tagsForFile().bytes()); }
 
-void OdDbDrawingWriter::emitNew(OdDbStub& stub) {
-    emitObject(stub);
-    const auto subs = impl.newSubEntities.find(&stub);
-    if (subs == impl.newSubEntities.end())
-        return;
-    for (OdDbStub* sub : subs->second)
-        if (!sub->has(OdDbStub::kErased))
-            emitObject(*sub);
-}
-
 void OdDbDrawingWriter::emitBlock(const OdDbStub& record) {
     const OdDbBlockContent& content = impl.blocks.at(&record);
     emitObject(*content.begin);
     for (OdDbStub* entity : content.entities)
         if (!entity->has(OdDbStub::kErased))
-            emitNew(*entity);
+            emitObject(*entity);
     emitObject(*content.end);
 }
 
@@ -248,7 +238,7 @@ void OdDbDrawingWriter::emitMissingSections() {
         if (isObjects && impl.rootDictionary && impl.rootDictionary->has(OdDbStub::kUnwritten))
             emitObject(*impl.rootDictionary);
         for (OdDbStub* stub : missing[name])
-            std::string_view(name) == "BLOCKS" ? emitBlock(*stub) : emitNew(*stub);
+            std::string_view(name) == "BLOCKS" ? emitBlock(*stub) : emitObject(*stub);
         emitTag(0, "ENDSEC");
     }
     if (impl.newPreview && !previewBegin)

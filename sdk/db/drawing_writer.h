@@ -23,7 +23,6 @@ private:
     void emitTag(int code, std::string_view value);
     void emitFileRecord(OdDbStub& stub);
     void emitObject(OdDbStub& stub);
-    void emitNew(OdDbStub& stub);
     void emitBlock(const OdDbStub& record);
     void emitTableHead(OdDbStub& stub);
     void openSection(std::string_view name);

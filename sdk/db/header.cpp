@@ -107,14 +107,6 @@ void OdDbHeader::setPoint(std::string_view name, const OdGePoint3d& value) {
     variable.tags.append(30, dxfText(value.z));
 }
 
-void OdDbHeader::remove(std::string_view name) {
-    const auto found = locate(name);
-    if (found == variables.end())
-        return;
-    variables.erase(found);
-    changed = true;
-}
-
 std::vector<std::pair<std::string, std::string>> OdDbHeader::customProperties() const {
     std::vector<std::pair<std::string, std::string>> result;
     result.reserve(variables.size() / 2);

@@ -16,7 +16,6 @@ public:
     // `bytes` are the tags between the section's name and its end. Throws DxfFault.
     void parse(std::string_view bytes, std::shared_ptr<const std::string> source, bool carriageReturns);
     bool isChanged() const { return changed; }
-    void setUnchanged() { changed = false; }
     std::string bytes() const; // everything, as it is to be written
 
     const Variable* find(std::string_view name) const; // null when there is none
@@ -30,7 +29,6 @@ public:
     void set(std::string_view name, int code, std::string_view value);
     void setReal(std::string_view name, double value) { set(name, 40, dxfText(value)); }
     void setPoint(std::string_view name, const OdGePoint3d& value);
-    void remove(std::string_view name);
 
     // Custom properties: pairs of variables that may repeat, as encoded texts in file order.
     std::vector<std::pair<std::string, std::string>> customProperties() const;

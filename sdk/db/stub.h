@@ -14,8 +14,7 @@ struct OdDbStub {
         kEntity = 4,
         kStructure = 8, // SECTION, ENDSEC, TABLE without a handle and the like: written, never opened
         kHighlighted = 16,
-        kUnwritten = 32, // known to the database, has no record of its own in this version of the file
-        kBlockPart = 64  // entity inside of a block definition
+        kUnwritten = 32 // known to the database, has no record of its own in this version of the file
     };
 
     std::uint64_t handle = 0;

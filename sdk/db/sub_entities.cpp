@@ -12,19 +12,12 @@ OdDbObjectIdArray odDbSubEntities(OdDbObjectId owner) {
     if (!main)
         return ids;
     const OdDbDatabaseImpl& impl = main->database->impl();
-    const auto take = [&ids, &impl](OdDbStub* stub) {
-        if (!stub->has(OdDbStub::kErased) && impl.typeName(*stub) != "SEQEND")
-            ids.emplace_back(stub);
-    };
     for (std::size_t i = main->index + 1; main->source && i < impl.fileStubCount; ++i) {
         OdDbStub& stub = impl.stubs[i];
         if (stub.owner != main || !odDbIsSubEntityName(impl.typeName(stub)))
             break;
-        take(&stub);
+        if (!stub.has(OdDbStub::kErased) && impl.typeName(stub) != "SEQEND")
+            ids.emplace_back(&stub);
     }
-    const auto added = impl.newSubEntities.find(main);
-    if (added != impl.newSubEntities.end())
-        for (OdDbStub* stub : added->second)
-            take(stub);
     return ids;
 }

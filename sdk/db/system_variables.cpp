@@ -108,3 +108,13 @@ void getCurrentUCS(const OdDbDatabase* database, OdGeMatrix3d& matrix) {
     const OdGeVector3d x = get_UCSXDIR(database), y = get_UCSYDIR(database);
     matrix.setCoordSystem(get_UCSORG(database), x, y, x.crossProduct(y));
 }
+
+void setCurrentUCS(OdDbDatabase* database, const OdGePoint3d& origin, const OdGeVector3d& xAxis,
+                   const OdGeVector3d& yAxis) {
+    OdDbDatabaseImpl& impl = database->impl();
+    impl.header.setPoint("$UCSORG", origin);
+    impl.header.setPoint("$UCSXDIR", OdGePoint3d() + xAxis);
+    impl.header.setPoint("$UCSYDIR", OdGePoint3d() + yAxis);
+    impl.headerModified = true;
+    impl.notify([](OdDbDatabaseReactor& reactor) { reactor.headerChanged(); });
+}

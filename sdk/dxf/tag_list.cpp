@@ -55,11 +55,6 @@ std::size_t DxfTagList::find(int code, Range range) const {
     return npos;
 }
 
-void DxfTagList::append(const DxfTagList& other) {
-    for (const DxfTag& tag : other)
-        append(tag.code, tag.value());
-}
-
 void DxfTagList::insert(std::size_t position, int code, std::string_view value) {
     const DxfTag tag = makeTag(code, value);
     tags.insert(tags.begin() + static_cast<std::ptrdiff_t>(position), tag);

@@ -39,7 +39,6 @@ public:
     std::size_t find(int code) const { return find(code, whole()); }
 
     void append(int code, std::string_view value) { insert(tags.size(), code, value); }
-    void append(const DxfTagList& other);
     void insert(std::size_t position, int code, std::string_view value);
     void replace(std::size_t position, std::string_view value);
     void erase(std::size_t position, std::size_t count = 1);

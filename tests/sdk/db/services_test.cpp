@@ -177,6 +177,12 @@ TEST_F(Variables, CoordinateSystemOfTheDrawing) {
     getCurrentUCS(database.get(), matrix);
     EXPECT_EQ(matrix, OdGeMatrix3d::kIdentity);
     EXPECT_EQ(get_UCSXDIR(database.get()), OdGeVector3d::kXAxis);
+    setCurrentUCS(database.get(), {10, 20, 0}, {0, 1, 0}, {-1, 0, 0});
+    getCurrentUCS(database.get(), matrix);
+    EXPECT_EQ(matrix * OdGePoint3d(1, 0, 0), OdGePoint3d(10, 21, 0));
+    const OdDbDatabasePtr read = OdDbDatabase::readBytes(database->writeBytes());
+    EXPECT_EQ(get_UCSXDIR(read.get()), OdGeVector3d::kYAxis);
+    EXPECT_EQ(get_UCSORG(read.get()), OdGePoint3d(10, 20, 0));
 }
 
 TEST_F(Variables, EditingTimeCounts) {

@@ -136,3 +136,19 @@ TEST(Reading, PaperSpaceEntitiesStandInTheirLayout) {
     ASSERT_EQ(paper->entityIds().size(), 1u);
     EXPECT_TRUE(odrxCast<OdDbEntity>(paper->entityIds()[0].safeOpenObject())->isInPaperSpace());
 }
+
+TEST(Reading, RenamedBlockKeepsItsReferences) {
+    const OdDbDatabasePtr database = OdDbDatabase::readBytes(oldDrawing());
+    const OdDbObjectId insert = modelSpaceOf(*database)->entityIds()[1];
+    const auto blockId = [&] {
+        return odrxCast<OdDbBlockReference>(insert.safeOpenObject())->blockTableRecord();
+    };
+    const OdDbObjectId block = blockId();
+    database->startTransaction();
+    odrxCast<OdDbBlockTableRecord>(block.safeOpenObject(OdDb::kForWrite))->setName(L"PIECE");
+    EXPECT_EQ(blockId(), block);
+    EXPECT_EQ(OdDbDatabase::readBytes(database->writeBytes())->writeBytes().find("PART"), std::string::npos);
+    database->abortTransaction();
+    EXPECT_EQ(blockId(), block);
+    EXPECT_EQ(database->writeBytes(), oldDrawing());
+}
