@@ -182,6 +182,23 @@ TEST_F(Papers, EveryValueIsWrittenAndUnknownOnesSurvive) {
     EXPECT_EQ(static_cast<double>(valueOf(host.papers(), "Paper00000001\\Margins", "Left")), 2.5);
 }
 
+TEST_F(Papers, DefaultsAreWrittenInTheTypesThatAreRead) {
+    section("Bare");
+    open();
+    apply();
+    const auto type = [this](const char* name) {
+        return int(valueOf(host.papers(), "Paper00000001", name).vt);
+    };
+    EXPECT_EQ(type("Used"), kVtInt);
+    EXPECT_EQ(type("Name"), kVtWideString);
+    EXPECT_EQ(type("Size"), kVtRSize);
+    EXPECT_EQ(type("Units"), kVtString);
+    EXPECT_EQ(type("InternalFrame"), kVtInt);
+    EXPECT_EQ(type("PortraitSize"), kVtRSize);
+    EXPECT_EQ(type("LandscapeSize"), kVtRSize);
+    EXPECT_EQ(type("PaperOriginPoint"), kVtRPoint);
+}
+
 TEST_F(Papers, AMissingStoreLeavesThePageEmptyAndSaysNothing) {
     addPaper("P", L"A4", 210, 297);
     host.withhold(typeid(IStdPapersParam));

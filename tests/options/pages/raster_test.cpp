@@ -247,6 +247,20 @@ TEST_F(RasterFormats, ADoubleClickModifiesTheDescriptionOfARow) {
     EXPECT_EQ(textOf(stored("tif", "Description")), "Tagged %1 <i>images</i>");
 }
 
+TEST_F(RasterFormats, AModifiedExtensionReachesTheStoreOnApply) {
+    setValue(addFormat(1, "tif"), "Generic", 0);
+    open();
+    whenDialogOpens([](QDialog& dialog) {
+        typeInto(dialog, "extensionEdit", "tiff");
+        clickOn(dialog, "okButton");
+    });
+    EXPECT_TRUE(chooseInMenu(row("tif"), "Modify"));
+    EXPECT_EQ(textOf(stored("tif", "DefExt")), "tif");
+    apply();
+    EXPECT_EQ(stored("tif", "DefExt").vt, kVtString);
+    EXPECT_EQ(textOf(stored("tif", "DefExt")), "tiff");
+}
+
 TEST_F(RasterFormats, ACancelledModifyChangesNothing) {
     addFormat(1, "tif");
     open();

@@ -194,6 +194,18 @@ TEST_F(StdDirEdits, AModifyThatChangesOnlyTheLetterCaseIsDropped) {
     EXPECT_TRUE(host.messages.empty());
 }
 
+TEST_F(StdDirEdits, AModifyToAnExistingDirectoryThatDiffersInLetterCaseOnlyIsDroppedToo) {
+    const QTemporaryDir folder;
+    const QString lower = folder.filePath("x"), upper = folder.filePath("X");
+    ASSERT_TRUE(QDir().mkdir(lower) && QDir().mkdir(upper));
+    addSection("A", L"A", {lower.toStdWString()});
+    open();
+    modify(row(lower), upper);
+    EXPECT_EQ(rows(), QStringList{lower});
+    EXPECT_EQ(held(), QStringList{lower});
+    EXPECT_TRUE(host.messages.empty());
+}
+
 TEST_F(StdDirEdits, AModifyToAnEmptyPathOrACancelledOneChangesNothing) {
     openWithTwoSections();
     modify(row("/b"), "");

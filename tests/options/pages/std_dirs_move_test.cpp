@@ -116,6 +116,15 @@ TEST_F(StdDirMoves, TheMarksOfASearchDoNotBecomePartOfTheText) {
     EXPECT_EQ(held(), (QStringList{"/2", "/1", "/3"}));
 }
 
+TEST_F(StdDirMoves, AMovedRowEndsAtTheFirstAngleBracketAsALoadedOneDoes) {
+    openWithThree();
+    modify(row("/1"), "/x<y");
+    select(row("/x<y"));
+    click(preferences->downButton);
+    EXPECT_EQ(rows(), (QStringList{"/2", "/x", "/3"}));
+    EXPECT_EQ(held(), (QStringList{"/2", "/x<y", "/3"}));
+}
+
 TEST_F(StdDirMoves, ThereAndBackRestoresTheOrder) {
     openWithThree();
     select(row("/2"));
