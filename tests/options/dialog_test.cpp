@@ -152,6 +152,8 @@ TEST_F(OptionsDialog, OpensWithAnEmptyDescriptionAndNoToolEnabled) {
 }
 
 TEST_F(OptionsDialog, GivesOkTheFocusAndTheDefaultWhenItOpens) {
+    optionTree(host);
+    EXPECT_EQ(Preferences(nullptr).focusWidget()->objectName(), "okButton") << "even before it is shown";
     OpenDialog dialog;
     EXPECT_TRUE(dialog.okButton->isDefault());
     EXPECT_EQ(dialog.focusWidget(), dialog.okButton);
