@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QTimer>
+#include <QTranslator>
 #include <gtest/gtest.h>
 
 namespace {
@@ -30,6 +31,16 @@ protected:
     bool opened = false;
 };
 
+// Translates every text into itself behind its context.
+class ContextShown : public QTranslator {
+public:
+    ContextShown() { QCoreApplication::installTranslator(this); }
+    QString translate(const char* context, const char* text, const char*, int) const override {
+        return QStringLiteral("%1: %2").arg(QLatin1String(context), QLatin1String(text));
+    }
+    bool isEmpty() const override { return false; }
+};
+
 void click(Preferences& dialog, const char* buttonName) {
     dialog.findChild<QPushButton*>(buttonName)->click();
 }
@@ -51,6 +62,19 @@ TEST_F(QprefCommand, ShowsAModalWindowNamedOptions) {
                   click(dialog, "cancelButton");
               }),
               0);
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(QprefCommand, TranslatesItsTitleInTheContextOfQObjectAndTheDialogInItsOwn) {
+    host.openDocument();
+    optionTree(host);
+    const ContextShown translator;
+    run([](Preferences& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "QObject: Options");
+        EXPECT_EQ(dialog.okButton->text(), "Preferences: OK");
+        EXPECT_EQ(shownText(dialog, rootItem(dialog)), "Preferences: Application preferences");
+        click(dialog, "cancelButton");
+    });
     EXPECT_TRUE(opened);
 }
 
