@@ -8,7 +8,7 @@
 #include "sdk/db/empty_drawing.h"
 #include "sdk/db/layer_table.h"
 #include "sdk/db/save_stamp.h"
-#include "sdk/dxf/file_bytes.h"
+#include "sdk/rx/file_bytes.h"
 
 #include <algorithm>
 
@@ -39,7 +39,7 @@ OdDbDatabasePtr OdDbDatabase::readBytes(std::string bytes, const OdString& name)
 }
 
 OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path) {
-    OdDbDatabasePtr database = readBytes(dxfReadFile(path), path);
+    OdDbDatabasePtr database = readBytes(odReadFile(path), path);
     database->parts->filename = path;
     return database;
 }
@@ -50,7 +50,7 @@ void OdDbDatabase::writeFile(const OdString& path) {
     if (isModified())
         odDbStampSave(*this);
     OdDbDrawingWriter writer(*parts);
-    dxfWriteFile(path, writer.pieces());
+    odWriteFile(path, writer.pieces());
     parts->filename = path;
     parts->savedState = parts->log.state();
     parts->headerSaved();

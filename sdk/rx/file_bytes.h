@@ -1,4 +1,4 @@
-// Drawing files as bytes: read whole, and written so that a crash leaves the old file or the new one.
+// Files as bytes: read whole, and written so that a crash leaves the old file or the new one.
 #pragma once
 
 #include "sdk/rx/od_error.h"
@@ -8,6 +8,6 @@
 
 // The bytes are a copy: a file that changes while a drawing is open does no harm to it. Throws OdError with
 // eCantOpenFile and the reason.
-std::string dxfReadFile(const OdString& path);
+std::string odReadFile(const OdString& path);
 // Throws OdError with eFileWriteError and the reason; the old file is untouched then.
-void dxfWriteFile(const OdString& path, const std::vector<std::string_view>& pieces);
+void odWriteFile(const OdString& path, const std::vector<std::string_view>& pieces);

@@ -1,4 +1,4 @@
-#include "sdk/dxf/file_bytes.h"
+#include "sdk/rx/file_bytes.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -19,7 +19,7 @@ void refuseSpecialFile(const OdString& path) {
 
 } // namespace
 
-std::string dxfReadFile(const OdString& path) {
+std::string odReadFile(const OdString& path) {
     QFile file(QString::fromStdWString(path.wide()));
     if (QFileInfo(file).isDir())
         throw OdError(eCantOpenFile, messageFor(path, "is a directory"));
@@ -39,7 +39,7 @@ std::string dxfReadFile(const OdString& path) {
     return bytes;
 }
 
-void dxfWriteFile(const OdString& path, const std::vector<std::string_view>& pieces) {
+void odWriteFile(const OdString& path, const std::vector<std::string_view>& pieces) {
     refuseSpecialFile(path);
     QSaveFile file(QString::fromStdWString(path.wide()));
     bool good = file.open(QIODevice::WriteOnly);
