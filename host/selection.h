@@ -31,3 +31,5 @@ public:
 
 // Redraws the views after highlighting or a change.
 void HostUpdateDisplay();
+// Moves the view so that it shows the object.
+void ZoomObject(const OdDbObjectId& id);

@@ -38,3 +38,8 @@ void HostUpdateDisplay() {
     if (registry().updateDisplay)
         registry().updateDisplay();
 }
+
+void ZoomObject(const OdDbObjectId& id) {
+    if (registry().zoomObject)
+        registry().zoomObject(id);
+}

@@ -11,6 +11,8 @@
 
 #include <functional>
 
+class OdDbObjectId;
+
 namespace standin {
 
 enum class MessageKind { Critical, Question };
@@ -27,6 +29,7 @@ struct HostRegistry {
         messageBox;
     std::function<int(OdCmColor& color)> colorDialog;
     std::function<void()> updateDisplay;
+    std::function<void(const OdDbObjectId& id)> zoomObject;
     OdEdCommandContext* commandContext = nullptr; // the one last given to setCtx
 };
 

@@ -1,0 +1,97 @@
+#include "xref/attach_command.h"
+
+#include "host/modal_runner.h"
+#include "host/text.h"
+#include "host/transaction_guard.h"
+#include "xref/attach_dialog.h"
+#include "xref/attach_host.h"
+#include "xref/file_selection.h"
+#include "xref/new_definitions.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QScreen>
+
+namespace {
+
+// Aborts whatever is still open when the command is left, by whatever way; the guard itself does not.
+class AbortAtEnd {
+public:
+    explicit AbortAtEnd(DbTransactionGuard& watched) : guard(watched) {}
+    ~AbortAtEnd() { guard.abort(); }
+    AbortAtEnd(const AbortAtEnd&) = delete;
+    AbortAtEnd& operator=(const AbortAtEnd&) = delete;
+
+private:
+    DbTransactionGuard& guard;
+};
+
+// Makes the definition and the references of one run a single step of undo.
+class UndoBlock {
+public:
+    explicit UndoBlock(OdDbDatabasePtr changed)
+        : database(std::move(changed)), wasStarted(database->isUndoBlockStarted()) {
+        if (!wasStarted)
+            database->blockUndoRecording(true);
+    }
+    ~UndoBlock() {
+        if (!wasStarted)
+            database->blockUndoRecording(false);
+    }
+    UndoBlock(const UndoBlock&) = delete;
+    UndoBlock& operator=(const UndoBlock&) = delete;
+
+private:
+    OdDbDatabasePtr database;
+    bool wasStarted;
+};
+
+CKWVariant joinedPaths(QStringList files) {
+    for (QString& file : files)
+        file = QDir::toNativeSeparators(file);
+    return CKWVariant(hostqt::cxStringW(files.join(QLatin1Char(';'))));
+}
+
+// Moves the window behind the dialog, not the dialog: that is meant.
+void centreOnScreen(QWidget* window) {
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    if (!window || !screen)
+        return;
+    const QSize room = screen->geometry().size();
+    window->move((room.width() - window->width()) / 2, (room.height() - window->height()) / 2);
+}
+
+void showDialog(QDialog& dialog, DbTransactionGuard& guard) {
+    dialog.setModal(true);
+    dialog.setWindowFlags(Qt::Window | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowCloseButtonHint);
+    dialog.setFocus(Qt::OtherFocusReason);
+    dialog.setWindowTitle(OdQCmd_hostAttachExternalReferenceCommand::tr("External reference"));
+    if (runModal(dialog) != 0)
+        guard.commit();
+    else
+        guard.abort();
+}
+
+} // namespace
+
+int OdQCmd_hostAttachExternalReferenceCommand::Run(IParam*) {
+    QWidget* const parent = QApplication::topLevelWidgets().value(0);
+    const QStringList files = selectXRefFiles(parent, true);
+    if (files.isEmpty())
+        return 0;
+    const Ref<IParam> params = Ref<IParam>::take(new_MemParam());
+    const CKWVariant paths = joinedPaths(files);
+    params->setValue("PATH", &paths);
+    const NewDefinitionsScope newDefinitions;
+    const OdDbDatabasePtr database = attach::database();
+    const UndoBlock undoBlock(database);
+    DbTransactionGuard guard(database);
+    guard.begin();
+    const AbortAtEnd abortAtEnd(guard);
+    hostInsertExternalReferenceDialog dialog(parent, params.get());
+    if (dialog.initialized) {
+        centreOnScreen(parent);
+        showDialog(dialog, guard);
+    }
+    return 0;
+}

@@ -1,0 +1,66 @@
+// Browse of the attach dialog: another file takes the place of the chosen one.
+#include "xref/attach_dialog.h"
+
+#include "host/text.h"
+#include "sdk/db/xref_graph.h"
+#include "xref/block_name.h"
+#include "xref/file_selection.h"
+#include "xref/new_definitions.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+void hostInsertExternalReferenceDialog::onBrowse() {
+    const QStringList files = selectXRefFiles(this, false);
+    if (files.isEmpty())
+        return;
+    const QString native = QDir::toNativeSeparators(files.first());
+    const QString baseFile = QFileInfo(native).fileName();
+    QString candidate;
+    if (!blockNameFromFile(baseFile, 0, candidate))
+        return;
+    const OdString blockName = nameForChosenFile(candidate, native, baseFile);
+    if (!blockName.isEmpty())
+        replaceDefinition(blockName, native, baseFile);
+}
+
+// A block of that name that is no reference is in the way just as a reference to another file is.
+OdString hostInsertExternalReferenceDialog::nameForChosenFile(const QString& candidate, const QString& native,
+                                                              const QString& baseFile) {
+    const OdString wanted = hostqt::odString(candidate);
+    OdDbXrefGraph graph;
+    OdDbXrefGraph::getFrom(database.get(), graph, false);
+    const OdDbBlockTablePtr table = blockTable();
+    const auto record = odrxCast<OdDbBlockTableRecord>(table->getAt(wanted, OdDb::kForRead));
+    if (record.isNull())
+        return wanted;
+    const OdDbXrefGraphNode* const node = graph.xrefNode(wanted);
+    const bool isReference = node && (node->flags & OdDbXrefGraphNode::kReference);
+    if (!isReference || record->pathName().iCompare(hostqt::odString(native)) != 0)
+        return uniqueBlockName(table, wanted);
+    takeOver(candidate, native, baseFile);
+    return {};
+}
+
+void hostInsertExternalReferenceDialog::takeOver(const QString& candidate, const QString& native,
+                                                 const QString& baseFile) {
+    path = native;
+    fileName = baseFile;
+    name = candidate;
+    fillNames();
+    refreshForName(name);
+}
+
+void hostInsertExternalReferenceDialog::replaceDefinition(const OdString& candidate, const QString& native,
+                                                          const QString& baseFile) {
+    const OdDbBlockTablePtr table = blockTable();
+    const OdDbSymbolTableRecordPtr old = table->getAt(hostqt::odString(name), OdDb::kForWrite);
+    if (!old.isNull()) {
+        old->upgradeOpen();
+        old->erase(true);
+    }
+    if (table->getAt(candidate, OdDb::kForRead).isNull())
+        noteNewDefinition(OdDbXRefManExt::addNewXRefDefBlock(
+            database.get(), hostqt::odString(native), candidate, isOverlay(), OdString(), OdDbHandle()));
+    takeOver(hostqt::qString(candidate), native, baseFile);
+}

@@ -1,0 +1,64 @@
+// The seven settings of the attach dialog. Without a store of the host none of them outlives the dialog.
+#include "xref/attach_dialog.h"
+
+#include "host/app.h"
+#include "host/attach_services.h"
+#include "host/typed_reads.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QRadioButton>
+
+namespace {
+
+struct SettingButton {
+    const char* key;
+    QAbstractButton* button;
+};
+
+std::vector<SettingButton> settingButtons(const hostInsertExternalReferenceDialog& dialog) {
+    return {{"xAttachRefGrabScale", dialog.scaleOnScreenCheck},
+            {"xAttachRefGrabAngle", dialog.rotationOnScreenCheck},
+            {"xAttachRefGrabInsPoint", dialog.insertionOnScreenCheck},
+            {"xAttachRefAutoZoom", dialog.autoZoomCheck},
+            {"xAttachRefUniformScale", dialog.uniformScaleCheck},
+            {"xAttachRefType", dialog.attachmentRadio}};
+}
+
+constexpr const char* kPathTypeKey = "xAttachRefPathType";
+
+Ref<IParam> settingsStore() {
+    const Ref<IAttachServices> services = appService<IAttachServices>();
+    return services ? Ref<IParam>::take(services->settings()) : Ref<IParam>();
+}
+
+} // namespace
+
+void hostInsertExternalReferenceDialog::loadAttachSettings() {
+    const Ref<IParam> store = settingsStore();
+    for (const auto& [key, button] : settingButtons(*this)) {
+        int value = button->isChecked();
+        readValue(store.get(), key, &value);
+        button->setChecked(value != 0);
+        // A radio button that is on goes off only when the other one goes on.
+        if (button == attachmentRadio && value == 0)
+            overlayRadio->setChecked(true);
+    }
+    int row = pathTypeCombo->currentIndex();
+    readValue(store.get(), kPathTypeKey, &row);
+    if (row >= 0 && row < pathTypeCombo->count())
+        pathTypeCombo->setCurrentIndex(row);
+}
+
+void hostInsertExternalReferenceDialog::saveAttachSettings() const {
+    const Ref<IParam> store = settingsStore();
+    const auto save = [&store](const char* key, int number) {
+        CKWVariant value;
+        value = number;
+        if (store)
+            store->setValue(key, &value);
+    };
+    for (const auto& [key, button] : settingButtons(*this))
+        save(key, button->isChecked());
+    save(kPathTypeKey, pathTypeCombo->currentIndex());
+}

@@ -1,0 +1,37 @@
+#include "xref/attach_failures.h"
+
+#include "xref/attach_host.h"
+
+namespace {
+
+OdString messageFor(const OdString& path, OdResult code) {
+    OdString text;
+    switch (code) {
+    case eUnsupportedFileFormat:
+        return attach::word(L"This version of file format is not supported. \n"
+                            L"Convert it to supported format to open file.");
+    case eBadDwgFile:
+    case eDxfReadError:
+    case eInvalidDrawing:
+        return attach::word(L"Drawing file is not valid.");
+    case eCantOpenFile:
+        return text.format(attach::word(L"\"%s\" cannot be found.").c_str(), path.c_str());
+    default:
+        return text;
+    }
+}
+
+} // namespace
+
+void tellAttachFailure(HostCommandIO* io, const OdString& path, const OdError& error) {
+    const OdString message = messageFor(path, error.code());
+    if (message.isEmpty())
+        return tellUnknownAttachFailure(io, path + OdString(L": ") + error.description());
+    attach::notice(kFileNotice, message);
+    reportToConsole(io, path + OdString(L": ") + message);
+}
+
+void tellUnknownAttachFailure(HostCommandIO* io, const OdString& path) {
+    reportToConsole(io, attach::word(L"XattachCmd Exception "));
+    reportToConsole(io, path);
+}

@@ -1,0 +1,50 @@
+#include "xref/attach_host.h"
+
+#include "host/app.h"
+#include "host/help.h"
+#include "host/text.h"
+
+namespace attach {
+
+HostDocument* document() {
+    HostDocumentManager* const manager = HostDocManager();
+    return manager ? manager->currentDocument() : nullptr;
+}
+
+OdDbDatabasePtr database() {
+    HostDocument* const current = document();
+    return current ? current->database() : OdDbDatabasePtr();
+}
+
+HostCommandIO* io() {
+    HostDocument* const current = document();
+    if (current)
+        return current->commandIO();
+    HostDocumentManager* const manager = HostDocManager();
+    return manager ? manager->fallbackIO() : nullptr;
+}
+
+QString documentFile() {
+    HostDocument* const current = document();
+    return current ? hostqt::qString(current->fileName()) : QString();
+}
+
+bool isUnsaved() {
+    const OdDbDatabasePtr drawing = database();
+    return drawing.isNull() || drawing->getFilename().isEmpty() || documentFile().isEmpty();
+}
+
+OdString word(const wchar_t* text) { return Supp_Translate(text); }
+
+int notice(NoticeKind kind, const OdString& text) {
+    const Ref<IEvents> events = Ref<IEvents>::take(Get_IEvents());
+    return events ? events->notify(kind, text.c_str(), 0, 7) : 0;
+}
+
+} // namespace attach
+
+void reportToConsole(HostCommandIO* io, const OdString& text) {
+    const Ref<IAttachServices> services = appService<IAttachServices>();
+    if (services)
+        services->report(io, text.c_str());
+}

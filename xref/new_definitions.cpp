@@ -1,0 +1,20 @@
+#include "xref/new_definitions.h"
+
+#include <unordered_set>
+
+namespace {
+
+std::unordered_set<OdDbObjectId>& newDefinitions() {
+    static std::unordered_set<OdDbObjectId> ids;
+    return ids;
+}
+
+} // namespace
+
+void noteNewDefinition(OdDbObjectId id) { newDefinitions().insert(id); }
+
+bool isNewDefinition(OdDbObjectId id) { return newDefinitions().count(id) != 0; }
+
+NewDefinitionsScope::NewDefinitionsScope() { newDefinitions().clear(); }
+
+NewDefinitionsScope::~NewDefinitionsScope() { newDefinitions().clear(); }
