@@ -78,6 +78,17 @@ TEST_F(CheckEditor, ClickingItTurnsTheRowsBelowOnAndOffAndMakesItCurrent) {
     EXPECT_FALSE(row("Grandchild")->isEnabled());
 }
 
+TEST_F(CheckEditor, AChangeInEitherDirectionMakesItsRowCurrent) {
+    node("A").type(L"Check").profile("S", "A");
+    node("B").type(L"Edit");
+    open();
+    for (const bool on : {true, false}) {
+        dialog->tree->setCurrentItem(item("B"));
+        editor<QCheckBox>("A")->setChecked(on);
+        EXPECT_EQ(dialog->tree->currentItem(), item("A")) << on;
+    }
+}
+
 TEST_F(CheckEditor, CheckingAParentAgainEnablesTheChildrenOfAnUncheckedChildToo) {
     const OptionTreeWriter parent = node("Parent");
     parent.type(L"Check").profile("S", "P").set("Default", 1);

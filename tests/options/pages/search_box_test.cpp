@@ -218,6 +218,14 @@ TEST_F(SearchBox, EmptyBoxTakesTheMarksOutOfTheDescription) {
     EXPECT_EQ(window.description->toPlainText(), "The grid has grid lines");
 }
 
+TEST_F(SearchBox, EmptyBoxTakesTheMarksOutAlsoWhereTheRootHasNoDescription) {
+    window.root->description.clear(); // so that nothing of the root can match
+    box->setText("grid");
+    showDescription(grid);
+    box->clear();
+    EXPECT_EQ(marks(), ".......................");
+}
+
 TEST_F(SearchBox, SearchMarksTheDescriptionOfRoot) {
     window.description->setPlainText(window.root->description);
     window.search("options");

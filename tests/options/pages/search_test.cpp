@@ -278,6 +278,16 @@ TEST_F(Search, ResetTellsThatNothingIsFoundAndThenThatItIsFinished) {
     EXPECT_EQ(order, (QStringList{"none", "finished"}));
 }
 
+TEST_F(Search, ResetHasPutTheExpansionBackWhenItTellsThatItIsFinished) {
+    window.search("Background");
+    ASSERT_TRUE(colours->isExpanded());
+    bool expandedThen = true;
+    QObject::connect(window.searchEdit, &SearchingLineEdit::searchFinished, &window,
+                     [&] { expandedThen = display->isExpanded() || colours->isExpanded(); });
+    window.searchEdit->clear();
+    EXPECT_FALSE(expandedThen);
+}
+
 TEST_F(Search, SecondReturnOverwritesTheSavedExpansionWithThatOfTheFirstSearch) {
     window.search("Background");
     QTest::keyClick(window.searchEdit, Qt::Key_Return);
