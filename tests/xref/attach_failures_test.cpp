@@ -1,0 +1,179 @@
+// Bad input: what the user is told, and that the drawing stays as it was.
+#include "sdk/db/xref_man.h"
+#include "tests/xref/xref_fixture.h"
+#include "xref/attach_failures.h"
+#include "xref/attach_reference.h"
+#include "xref/create_xref_reference.h"
+
+namespace {
+
+class AttachFailures : public XRefTest {
+protected:
+    AttachFailures() { before = drawing->writeBytes(); }
+    static bool attachFile(const QString& path) {
+        return attachReference(hostqt::odString(path), {}, OdGeScale3d(1), false, false, false, false, false,
+                               0, false, 0);
+    }
+    void expectRefusal(const QString& path, const QStringList& messages) {
+        EXPECT_FALSE(attachFile(path));
+        EXPECT_EQ(noticeTexts(), messages);
+        EXPECT_TRUE(referenceNames().isEmpty());
+        EXPECT_EQ(drawing->writeBytes(), before);
+        EXPECT_EQ(drawing->numActiveTransactions(), 0);
+    }
+    std::string before;
+    const QString invalid = QStringLiteral("Drawing file is not valid.");
+    const QString unsupported = QStringLiteral(
+        "This version of file format is not supported. \nConvert it to supported format to open file.");
+};
+
+} // namespace
+
+TEST_F(AttachFailures, MissingFileIsNamedInTheMessage) {
+    const QString path = inFolder("gone.dxf");
+    expectRefusal(path, {QStringLiteral("\"%1\" cannot be found.").arg(path)});
+    EXPECT_EQ(host.notices()[0].kind, 0);
+    EXPECT_EQ(host.notices()[0].buttons, 7);
+}
+
+TEST_F(AttachFailures, DirectoryIsNoFile) {
+    QDir(folder.path()).mkdir("part.dxf");
+    const QString path = inFolder("part.dxf");
+    expectRefusal(path, {QStringLiteral("\"%1\" cannot be found.").arg(path)});
+}
+
+TEST_F(AttachFailures, EmptyFileIsNotValid) { expectRefusal(writeBytes("empty.dxf", ""), {invalid}); }
+
+TEST_F(AttachFailures, BinaryDrawingIsNotSupported) {
+    QByteArray bytes = "AC1032";
+    bytes.append(QByteArray(500, '\0'));
+    expectRefusal(writeBytes("binary.dwg", bytes), {unsupported});
+}
+
+TEST_F(AttachFailures, GarbageIsNotValid) {
+    expectRefusal(writeBytes("garbage.dxf", QByteArray(2000, '\x81')), {invalid});
+}
+
+TEST_F(AttachFailures, TextThatIsNoDrawingIsNotValid) {
+    expectRefusal(writeBytes("letter.dxf", "Dear reader,\nthis is a letter.\n"), {invalid});
+}
+
+TEST_F(AttachFailures, LinkThatLeadsToItselfIsToldLikeAMissingFile) {
+    const QString path = inFolder("loop.dxf");
+    QFile::link(path, path);
+    expectRefusal(path, {QStringLiteral("\"%1\" cannot be found.").arg(path)});
+}
+
+TEST_F(AttachFailures, EmptyPathIsRefusedInSilence) { expectRefusal(QString(), {}); }
+
+TEST_F(AttachFailures, DrawingThatAttachesTheCurrentOneIsSilentWithoutServices) {
+    drawing->writeFile(odPath("site.dxf"));
+    before = drawing->writeBytes();
+    expectRefusal(writeReferring("part.dxf", {"site.dxf"}), {});
+    EXPECT_TRUE(io.lines.isEmpty());
+}
+
+TEST_F(AttachFailures, DrawingThatAttachesTheCurrentOneAtAnyDepthIsToldToTheServices) {
+    provideServices();
+    drawing->writeFile(odPath("site.dxf"));
+    before = drawing->writeBytes();
+    writeReferring("deep.dxf", {"site.dxf"});
+    writeReferring("middle.dxf", {"deep.dxf"});
+    const QString path = writeReferring("part.dxf", {"middle.dxf"});
+    expectRefusal(path, {});
+    ASSERT_EQ(services->reported.size(), 2);
+    EXPECT_EQ(services->reported[0], "XattachCmd Exception ");
+    EXPECT_TRUE(services->reported[1].startsWith(path));
+}
+
+TEST_F(AttachFailures, DrawingThatOverlaysTheCurrentOneIsAttached) {
+    drawing->writeFile(odPath("site.dxf"));
+    EXPECT_TRUE(attachFile(writeReferring("part.dxf", {"site.dxf"}, true)));
+}
+
+TEST_F(AttachFailures, CurrentDrawingUnderAnotherNameIsRefused) {
+    drawing->writeFile(odPath("site.dxf"));
+    before = drawing->writeBytes();
+    QFile::link(inFolder("site.dxf"), inFolder("other.dxf"));
+    expectRefusal(inFolder("other.dxf"), {});
+}
+
+TEST_F(AttachFailures, DrawingsThatAttachEachOtherAreAttachedOnce) {
+    writeReferring("a.dxf", {"b.dxf"});
+    writeReferring("b.dxf", {"a.dxf"});
+    EXPECT_TRUE(attachFile(inFolder("a.dxf")));
+    EXPECT_EQ(referenceNames(), QStringList("a"));
+}
+
+TEST_F(AttachFailures, ExistingReferenceWhoseFileIsGoneStaysAsItWas) {
+    const QString path = inFolder("gone.dxf");
+    define("gone", path);
+    EXPECT_FALSE(attachFile(path));
+    EXPECT_EQ(noticeTexts(), QStringList(QStringLiteral("\"%1\" cannot be found.").arg(path)));
+    EXPECT_EQ(referenceNames(), QStringList("gone"));
+}
+
+TEST_F(AttachFailures, FileThatDisappearsBetweenTheDialogAndOkIsTold) {
+    const QString path = write("part.dxf");
+    QString name = QStringLiteral("part");
+    OdDbBlockReferencePtr reference;
+    bool hadDefinition = true;
+    OdDbObjectId id;
+    ASSERT_TRUE(createXRefReference(path, name, false, reference, hadDefinition, id));
+    OdDbXRefMan::load(block("part").get());
+    QFile::remove(path);
+    EXPECT_FALSE(attachFile(path));
+    EXPECT_EQ(noticeTexts(), QStringList(QStringLiteral("\"%1\" cannot be found.").arg(path)));
+}
+
+namespace {
+
+struct CodeCell {
+    const char* name;
+    OdResult code;
+    QString message; // empty: none is shown
+};
+void PrintTo(const CodeCell& cell, std::ostream* out) { *out << cell.name; }
+class FailureCodes : public AttachFailures, public testing::WithParamInterface<CodeCell> {};
+
+} // namespace
+
+TEST_P(FailureCodes, AreToldAsTheirRowSays) {
+    tellAttachFailure(&io, L"/x/100%s.dxf", OdError(GetParam().code));
+    EXPECT_EQ(noticeTexts(), GetParam().message.isEmpty() ? QStringList() : QStringList(GetParam().message));
+    EXPECT_TRUE(io.lines.isEmpty());
+    EXPECT_TRUE(io.formatted.isEmpty());
+}
+
+TEST_P(FailureCodes, AreToldWithThePathToTheServices) {
+    provideServices();
+    tellAttachFailure(&io, L"/x/100%s.dxf", OdError(GetParam().code));
+    EXPECT_EQ(services->reported.contains("XattachCmd Exception "), GetParam().message.isEmpty());
+    EXPECT_TRUE(services->reported.last().startsWith("/x/100%s.dxf: "));
+}
+
+const CodeCell codes[] = {
+    {"Unsupported", eUnsupportedFileFormat,
+     "This version of file format is not supported. \nConvert it to supported format to open file."},
+    {"BadFile", eBadDwgFile, "Drawing file is not valid."},
+    {"ReadError", eDxfReadError, "Drawing file is not valid."},
+    {"InvalidDrawing", eInvalidDrawing, "Drawing file is not valid."},
+    {"CantOpen", eCantOpenFile, "\"/x/100%s.dxf\" cannot be found."},
+    {"AnyOther", eKeyNotFound, {}},
+};
+INSTANTIATE_TEST_SUITE_P(All, FailureCodes, testing::ValuesIn(codes),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(AttachFailures, ExceptionOfAnotherKindEndsLikeAnyOtherCode) {
+    provideServices();
+    io.onQuestion = [](const XRefIO::Question&, HostEdPointTracker*) { throw std::runtime_error("broken"); };
+    EXPECT_FALSE(attachReference(hostqt::odString(write("part.dxf")), {}, OdGeScale3d(1), false, false, true,
+                                 false, false, 0, false, 0));
+    EXPECT_EQ(services->reported, QStringList({"XattachCmd Exception ", inFolder("part.dxf")}));
+}
+
+TEST_F(AttachFailures, MessagesAreTranslated) {
+    host.translations[L"Drawing file is not valid."] = L"Keine Zeichnung.";
+    attachFile(writeBytes("empty.dxf", ""));
+    EXPECT_EQ(noticeTexts(), QStringList("Keine Zeichnung."));
+}
