@@ -7,6 +7,7 @@
 #include "groups/command_line_ungroup.h"
 #include "groups/command_line_unified.h"
 #include "groups/group_cmd.h"
+#include "xref/attach_command.h"
 
 namespace {
 
@@ -18,6 +19,7 @@ struct CommandClass {
 };
 
 const CommandClass kCommandClasses[] = {
+    {"OdQCmd_hostAttachExternalReferenceCommand", make<OdQCmd_hostAttachExternalReferenceCommand>},
     {"CGroupCmd", make<CGroupCmd>},
     {"CCommandLineGroupUnified", make<CCommandLineGroupUnified>},
     {"CCommandLineGroupEdit", make<CCommandLineGroupEdit>},
