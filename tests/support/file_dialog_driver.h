@@ -6,6 +6,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTimer>
 
 // Waits for the next file dialog, notes what it shows, and types `answer` into it, or cancels it when the

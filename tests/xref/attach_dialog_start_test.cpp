@@ -1,0 +1,266 @@
+// The attach dialog as it opens: defaults, the parameter map, one file and several.
+#include "sdk/db/thumbnail.h"
+#include "tests/xref/attach_dialog_fixture.h"
+
+#include <QGroupBox>
+
+TEST_F(AttachDialog, ControlsHaveTheirDefaults) {
+    open(write("part.dxf"));
+    EXPECT_TRUE(dialog->initialized);
+    EXPECT_TRUE(checked("attachmentRadio"));
+    EXPECT_FALSE(checked("overlayRadio"));
+    EXPECT_FALSE(checked("scaleOnScreenCheck"));
+    EXPECT_FALSE(checked("uniformScaleCheck"));
+    EXPECT_TRUE(checked("insertionOnScreenCheck"));
+    EXPECT_FALSE(checked("rotationOnScreenCheck"));
+    EXPECT_FALSE(checked("autoZoomCheck"));
+    for (const char* name : {"scaleXEdit", "scaleYEdit", "scaleZEdit"}) {
+        EXPECT_EQ(text(name), "1");
+        EXPECT_TRUE(enabled(name));
+    }
+    for (const char* name : {"insertXEdit", "insertYEdit", "insertZEdit"}) {
+        EXPECT_EQ(text(name), "0");
+        EXPECT_FALSE(enabled(name));
+    }
+    EXPECT_EQ(text("angleEdit"), "0");
+    EXPECT_TRUE(enabled("angleEdit"));
+    EXPECT_EQ(items("pathTypeCombo"), QStringList({"Relative path", "Full path", "No path"}));
+    EXPECT_EQ(control<QComboBox>("pathTypeCombo")->currentIndex(), 1);
+    EXPECT_TRUE(dialog->testAttribute(Qt::WA_MouseTracking));
+}
+
+TEST_F(AttachDialog, ControlsHaveTheirLabelsAndSizes) {
+    open(write("part.dxf"));
+    EXPECT_EQ(control<QPushButton>("browseButton")->text(), "Browse...");
+    for (const char* name : {"scaleOnScreenCheck", "rotationOnScreenCheck", "insertionOnScreenCheck"})
+        EXPECT_EQ(control<QCheckBox>(name)->text(), "Specify On-screen");
+    EXPECT_EQ(control<QCheckBox>("uniformScaleCheck")->text(), "&Uniform Scale");
+    EXPECT_EQ(control<QCheckBox>("autoZoomCheck")->text(), "Auto zoom");
+    EXPECT_EQ(control<QLabel>("previewLabel")->size(), QSize(200, 200));
+    for (const char* name : {"foundInEdit", "savedPathEdit", "unitEdit", "factorEdit"})
+        EXPECT_TRUE(edit(name)->isReadOnly());
+    QStringList titles;
+    for (const QGroupBox* group : dialog->findChildren<QGroupBox*>())
+        titles << group->title();
+    titles.sort();
+    EXPECT_EQ(titles, QStringList({"Block Unit", "Insertion Point", "Path Type", "Preview", "Reference Type",
+                                   "Rotation", "Scale"}));
+}
+
+TEST_F(AttachDialog, EmptyMapOpensWithoutAFile) {
+    open();
+    EXPECT_TRUE(dialog->initialized);
+    EXPECT_EQ(items("nameCombo"), QStringList(""));
+    EXPECT_EQ(text("unitEdit"), "");
+    EXPECT_EQ(text("factorEdit"), "");
+}
+
+TEST_F(AttachDialog, OneFileShowsItsNameItsPathAndItsUnits) {
+    drawing->setINSUNITS(OdDb::kUnitsMillimeters);
+    const QString path = write("part.v2.dxf", OdDb::kUnitsInches);
+    open(path);
+    EXPECT_FALSE(dialog->multipleFiles);
+    EXPECT_EQ(dialog->name, "part");
+    EXPECT_EQ(dialog->path, path);
+    EXPECT_EQ(dialog->fileName, "part.v2.dxf");
+    EXPECT_EQ(items("nameCombo"), QStringList("part"));
+    EXPECT_EQ(text("foundInEdit"), path);
+    EXPECT_EQ(text("savedPathEdit"), path);
+    EXPECT_EQ(text("unitEdit"), "");
+    EXPECT_EQ(text("factorEdit"), "25.4");
+    EXPECT_EQ(referenceNames(), QStringList("part"));
+}
+
+TEST_F(AttachDialog, MissingFileOpensWithoutUnits) {
+    open(inFolder("gone.dxf"));
+    EXPECT_TRUE(dialog->initialized);
+    EXPECT_EQ(text("factorEdit"), "");
+    EXPECT_EQ(text("foundInEdit"), inFolder("gone.dxf"));
+}
+
+TEST_F(AttachDialog, FileWithoutABaseNameIsNotShown) {
+    open(writeBytes(".dxf", "nothing"));
+    EXPECT_FALSE(dialog->initialized);
+    EXPECT_TRUE(referenceNames().isEmpty());
+}
+
+TEST_F(AttachDialog, FileThatIsThereAlreadyShowsItsOwnName) {
+    define("Known", write("part.dxf"));
+    open(inFolder("part.dxf"));
+    EXPECT_EQ(dialog->name, "Known");
+    EXPECT_EQ(control<QComboBox>("nameCombo")->currentText(), "Known");
+    EXPECT_EQ(referenceNames(), QStringList("Known"));
+}
+
+TEST_F(AttachDialog, PlainBlockOfThatNameIsLeftAlone) {
+    addPlainBlock(L"part");
+    open(write("part.dxf"));
+    EXPECT_EQ(dialog->name, "part_1");
+    EXPECT_EQ(dialog->path, inFolder("part.dxf"));
+    EXPECT_FALSE(block("part")->isFromExternalReference());
+}
+
+TEST_F(AttachDialog, TwoFilesVary) {
+    open(write("a.dxf") + ";" + write("b.dxf"));
+    EXPECT_TRUE(dialog->initialized);
+    EXPECT_TRUE(dialog->multipleFiles);
+    EXPECT_EQ(items("nameCombo"), QStringList("Varies"));
+    EXPECT_EQ(control<QComboBox>("nameCombo")->currentText(), "Varies");
+    EXPECT_FALSE(enabled("nameCombo"));
+    EXPECT_FALSE(enabled("browseButton"));
+    for (const char* name : {"scaleOnScreenCheck", "rotationOnScreenCheck", "insertionOnScreenCheck"}) {
+        EXPECT_FALSE(checked(name));
+        EXPECT_FALSE(enabled(name));
+    }
+    for (const char* name :
+         {"scaleXEdit", "scaleYEdit", "scaleZEdit", "insertXEdit", "insertYEdit", "insertZEdit", "angleEdit"})
+        EXPECT_TRUE(enabled(name));
+    EXPECT_EQ(text("foundInEdit"), "Varies");
+    EXPECT_EQ(text("savedPathEdit"), "Varies");
+    EXPECT_EQ(text("unitEdit"), "Unitless");
+    EXPECT_EQ(text("factorEdit"), "1");
+    EXPECT_TRUE(referenceNames().isEmpty());
+}
+
+TEST_F(AttachDialog, OnScreenBoxesOfTheMapAreOffForSeveralFiles) {
+    give("SCALE_SPECIFY_ON_SCREEN", 1);
+    give("ROTATION_SPECIFY_ON_SCREEN", 1);
+    open("a.dxf;b.dxf");
+    EXPECT_FALSE(checked("scaleOnScreenCheck"));
+    EXPECT_FALSE(checked("rotationOnScreenCheck"));
+    EXPECT_TRUE(enabled("scaleXEdit"));
+}
+
+TEST_F(AttachDialog, EntriesStandForTheNonEmptyParts) {
+    addPlainBlock(L"b");
+    open("/x/a.dxf;;/x/b.c.dxf");
+    ASSERT_EQ(dialog->entries.size(), 2u);
+    EXPECT_EQ(dialog->entries[0].name, "a");
+    EXPECT_EQ(dialog->entries[0].path, "/x/a.dxf");
+    EXPECT_FALSE(dialog->entries[0].flag);
+    EXPECT_EQ(dialog->entries[1].name, "b");
+    EXPECT_TRUE(dialog->entries[1].flag);
+}
+
+TEST_F(AttachDialog, MapFillsTheControls) {
+    give("INSERTION_POINT", 2.5);
+    give("SCALE", 3.0);
+    give("ROTATION", 1.5);
+    give("PATH_TYPE", 2);
+    give("REFERENCE_TYPE", 7);
+    give("SCALE_SPECIFY_ON_SCREEN", 1);
+    give("ROTATION_SPECIFY_ON_SCREEN", 1);
+    give("INSERTION_POINT_SPECIFY_ON_SCREEN", 0);
+    give("UNIFORM_SCALE", 1);
+    give("AUTO_ZOOM", 1);
+    open(write("part.dxf"));
+    for (const char* name : {"insertXEdit", "insertYEdit", "insertZEdit"}) {
+        EXPECT_EQ(text(name), "2.5");
+        EXPECT_TRUE(enabled(name));
+    }
+    for (const char* name : {"scaleXEdit", "scaleYEdit", "scaleZEdit"}) {
+        EXPECT_EQ(text(name), "3");
+        EXPECT_FALSE(enabled(name));
+    }
+    EXPECT_EQ(text("angleEdit"), "1.5");
+    EXPECT_FALSE(enabled("angleEdit"));
+    EXPECT_EQ(text("savedPathEdit"), "part.dxf");
+    EXPECT_TRUE(checked("overlayRadio"));
+    EXPECT_TRUE(block("part")->isFromOverlayReference());
+    for (const char* name :
+         {"scaleOnScreenCheck", "rotationOnScreenCheck", "uniformScaleCheck", "autoZoomCheck"})
+        EXPECT_TRUE(checked(name));
+    EXPECT_FALSE(checked("insertionOnScreenCheck"));
+}
+
+TEST_F(AttachDialog, IntegerForANumberLeavesTheDefault) {
+    give("SCALE", 3);
+    open(write("part.dxf"));
+    EXPECT_EQ(text("scaleXEdit"), "1");
+}
+
+TEST_F(AttachDialog, NameWithoutABaseShowsTheMessageAndGoesOn) {
+    give("NAME", "part");
+    open();
+    EXPECT_EQ(noticeTexts(), QStringList(notOnOneDisk));
+    EXPECT_TRUE(dialog->initialized);
+    EXPECT_EQ(dialog->name, "part");
+}
+
+TEST_F(AttachDialog, NameInAnUnsavedDrawingShowsBothMessages) {
+    name(QString());
+    give("NAME", "part");
+    open();
+    EXPECT_EQ(noticeTexts(), QStringList({notSaved, notOnOneDisk}));
+    EXPECT_EQ(host.notices()[0].kind, 0);
+    EXPECT_EQ(host.notices()[0].buttons, 7);
+}
+
+TEST_F(AttachDialog, NameBesideTheDrawingIsFoundWithABase) {
+    provideServices();
+    drawing->writeFile(odPath("site.dxf"));
+    write("part.dxf");
+    give("NAME", "part.dxf");
+    open();
+    EXPECT_TRUE(host.notices().empty());
+    EXPECT_TRUE(dialog->initialized);
+    EXPECT_EQ(text("foundInEdit"), inFolder("part.dxf"));
+    EXPECT_EQ(control<QComboBox>("pathTypeCombo")->currentIndex(), 0);
+    EXPECT_EQ(text("savedPathEdit"), "part.dxf");
+    EXPECT_EQ(referenceNames(), QStringList("part.dxf"));
+}
+
+TEST_F(AttachDialog, BlockNameThatIsNoBlockRecordThrowsNothingWhenMissing) {
+    open(write("part.dxf"));
+    OdDbBlockTableRecordPtr record;
+    dialog->updateUnit("no such block", record);
+    EXPECT_TRUE(record.isNull());
+    EXPECT_EQ(text("factorEdit"), "1");
+    dialog->updateFromRecord(record);
+    EXPECT_EQ(dialog->path, inFolder("part.dxf"));
+}
+
+TEST_F(AttachDialog, DestructorAbortsWhatItHasLeftOpen) {
+    drawing->startTransaction();
+    open(write("part.dxf"));
+    EXPECT_EQ(drawing->numActiveTransactions(), 2);
+    drawing->startTransaction();
+    dialog.reset();
+    EXPECT_EQ(drawing->numActiveTransactions(), 1);
+    EXPECT_TRUE(referenceNames().isEmpty());
+    drawing->abortTransaction();
+}
+
+TEST_F(AttachDialog, PreviewOfTheFileIsShown) {
+    const OdDbDatabasePtr part = smallDrawing();
+    OdThumbnailImage image;
+    // A bitmap of 2 by 1 pixels with 24 bits: a red one and a blue one.
+    image.bmp =
+        std::string("\x28\0\0\0\2\0\0\0\1\0\0\0\1\0\x18\0\0\0\0\0\x08\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"
+                    "\0\0\xff\xff\0\0\0\0",
+                    48);
+    odDbPutPreviewBitmap(part.get(), image);
+    part->writeFile(odPath("part.dxf"));
+    const QImage read = loadPreviewImage(inFolder("part.dxf"));
+    ASSERT_EQ(read.size(), QSize(2, 1));
+    EXPECT_EQ(read.pixelColor(0, 0), QColor(255, 0, 0));
+    open(inFolder("part.dxf"));
+    EXPECT_EQ(control<QLabel>("previewLabel")->pixmap(Qt::ReturnByValue).size(), QSize(200, 100));
+}
+
+TEST_F(AttachDialog, FileWithoutAPreviewShowsNone) {
+    EXPECT_TRUE(loadPreviewImage(write("part.dxf")).isNull());
+    EXPECT_TRUE(loadPreviewImage(inFolder("gone.dxf")).isNull());
+    EXPECT_TRUE(loadPreviewImage(folder.path()).isNull());
+}
+
+TEST_F(AttachDialog, DamagedPreviewIsToldWithThePathAndTheDialogOpens) {
+    provideServices();
+    const QString path = writeBytes(
+        "part.dxf", "  0\nSECTION\n  2\nTHUMBNAILIMAGE\n 90\n4\n310\nDEADBEEF\n  0\nENDSEC\n  0\nEOF\n");
+    open(path);
+    EXPECT_TRUE(dialog->initialized);
+    EXPECT_EQ(services->reported,
+              QStringList(QStringLiteral("The preview of \"%1\" cannot be shown.").arg(path)));
+    EXPECT_TRUE(host.notices().empty());
+}
