@@ -1,0 +1,146 @@
+// Browse of the attach dialog, and the settings that it keeps or forgets.
+#include "host/typed_reads.h"
+#include "tests/xref/attach_dialog_fixture.h"
+
+namespace {
+
+class BrowseDialog : public AttachDialog {
+protected:
+    void browse(const QString& answer) {
+        FileDialogDriver driver(answer);
+        click("browseButton");
+        EXPECT_TRUE(driver.shown);
+        mode = driver.mode;
+    }
+    QFileDialog::FileMode mode = QFileDialog::AnyFile;
+};
+
+} // namespace
+
+TEST_F(BrowseDialog, CancelledFileDialogChangesNothing) {
+    open(write("part.dxf"));
+    browse(QString());
+    EXPECT_EQ(dialog->path, inFolder("part.dxf"));
+    EXPECT_EQ(referenceNames(), QStringList("part"));
+    EXPECT_EQ(mode, QFileDialog::ExistingFile);
+}
+
+TEST_F(BrowseDialog, AnotherFileTakesThePlaceOfTheFirst) {
+    open(write("part.dxf"));
+    browse(write("other.dxf"));
+    EXPECT_EQ(dialog->name, "other");
+    EXPECT_EQ(dialog->path, inFolder("other.dxf"));
+    EXPECT_EQ(dialog->fileName, "other.dxf");
+    EXPECT_EQ(text("foundInEdit"), inFolder("other.dxf"));
+    EXPECT_EQ(control<QComboBox>("nameCombo")->currentText(), "other");
+    EXPECT_EQ(referenceNames(), QStringList("other"));
+    EXPECT_TRUE(isNewDefinition(block("other")->objectId()));
+}
+
+TEST_F(BrowseDialog, FileThatIsThereAlreadyIsTakenOver) {
+    define("other", write("other.dxf"));
+    open(write("part.dxf"));
+    browse(inFolder("other.dxf"));
+    EXPECT_EQ(dialog->name, "other");
+    EXPECT_FALSE(isNewDefinition(block("other")->objectId()));
+    EXPECT_EQ(referenceNames(), QStringList({"other", "part"}));
+}
+
+TEST_F(BrowseDialog, ReferenceOfThatNameToAnotherFileMakesANumberedName) {
+    define("other", "/elsewhere/other.dxf");
+    open(write("part.dxf"));
+    browse(write("other.dxf"));
+    EXPECT_EQ(dialog->name, "other_1");
+    EXPECT_EQ(referenceNames(), QStringList({"other", "other_1"}));
+}
+
+TEST_F(BrowseDialog, PlainBlockOfThatNameMakesANumberedName) {
+    addPlainBlock(L"other");
+    open(write("part.dxf"));
+    browse(write("other.dxf"));
+    EXPECT_EQ(dialog->name, "other_1");
+    EXPECT_EQ(referenceNames(), QStringList("other_1"));
+}
+
+TEST_F(BrowseDialog, OverlayIsPassedOnToTheNewDefinition) {
+    open(write("part.dxf"));
+    click("overlayRadio");
+    browse(write("other.dxf"));
+    EXPECT_TRUE(block("other")->isFromOverlayReference());
+}
+
+TEST_F(BrowseDialog, FileWithoutABaseNameHasNoEffect) {
+    open(write("part.dxf"));
+    browse(writeBytes(".dxf", "x"));
+    EXPECT_EQ(dialog->name, "part");
+    EXPECT_EQ(referenceNames(), QStringList("part"));
+}
+
+TEST_F(AttachDialog, WithoutAStoreNoSettingOutlivesTheDialog) {
+    open(write("part.dxf"));
+    click("autoZoomCheck");
+    click("overlayRadio");
+    choose("pathTypeCombo", 2);
+    click("insertionOnScreenCheck");
+    click("okButton");
+    open(write("other.dxf"));
+    EXPECT_FALSE(checked("autoZoomCheck"));
+    EXPECT_TRUE(checked("attachmentRadio"));
+    EXPECT_TRUE(checked("insertionOnScreenCheck"));
+    EXPECT_EQ(control<QComboBox>("pathTypeCombo")->currentIndex(), 1);
+}
+
+TEST_F(AttachDialog, SettingsAreKeptInTheStoreOfTheHost) {
+    provideServices();
+    open(write("part.dxf"));
+    for (const char* name : {"autoZoomCheck", "overlayRadio", "insertionOnScreenCheck", "uniformScaleCheck"})
+        click(name);
+    choose("pathTypeCombo", 2);
+    click("okButton");
+    const std::pair<const char*, int> expected[] = {{"xAttachRefGrabScale", 0},    {"xAttachRefGrabAngle", 0},
+                                                    {"xAttachRefGrabInsPoint", 0}, {"xAttachRefAutoZoom", 1},
+                                                    {"xAttachRefUniformScale", 1}, {"xAttachRefType", 0},
+                                                    {"xAttachRefPathType", 2}};
+    for (const auto& [key, number] : expected) {
+        int got = -1;
+        EXPECT_EQ(readValue(services->store.get(), key, &got), 1) << key;
+        EXPECT_EQ(got, number) << key;
+    }
+    open(write("other.dxf"));
+    EXPECT_TRUE(checked("autoZoomCheck"));
+    EXPECT_TRUE(checked("overlayRadio"));
+    EXPECT_TRUE(checked("uniformScaleCheck"));
+    EXPECT_FALSE(checked("insertionOnScreenCheck"));
+    EXPECT_TRUE(enabled("insertXEdit"));
+    EXPECT_FALSE(enabled("scaleYEdit"));
+    EXPECT_EQ(control<QComboBox>("pathTypeCombo")->currentIndex(), 2);
+    EXPECT_EQ(text("savedPathEdit"), "other.dxf");
+}
+
+TEST_F(AttachDialog, CancelKeepsTheSettingsAsTheyWere) {
+    provideServices();
+    open(write("part.dxf"));
+    click("autoZoomCheck");
+    click("cancelButton");
+    open(write("part.dxf"));
+    EXPECT_FALSE(checked("autoZoomCheck"));
+}
+
+TEST_F(AttachDialog, MapGoesBeforeTheSettings) {
+    provideServices();
+    CKWVariant on;
+    on = 1;
+    services->store->setValue("xAttachRefAutoZoom", &on);
+    give("AUTO_ZOOM", 0);
+    open(write("part.dxf"));
+    EXPECT_FALSE(checked("autoZoomCheck"));
+}
+
+TEST_F(AttachDialog, SettingThatIsNoRowOfTheListLeavesTheDefault) {
+    provideServices();
+    CKWVariant row;
+    row = 17;
+    services->store->setValue("xAttachRefPathType", &row);
+    open(write("part.dxf"));
+    EXPECT_EQ(control<QComboBox>("pathTypeCombo")->currentIndex(), 1);
+}
