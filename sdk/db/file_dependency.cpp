@@ -1,38 +1,32 @@
 #include "sdk/db/file_dependency.h"
 
-#include <algorithm>
-
-namespace {
-
-auto sameEntry(const OdString& feature, const OdString& fullFileName) {
-    return [&feature, &fullFileName](const OdFileDependencyInfo& info) {
-        return info.feature == feature && info.fullFileName == fullFileName;
-    };
-}
-
-} // namespace
-
 unsigned OdFileDependencyManager::createEntry(const OdFileDependencyInfo& info) {
-    const auto found =
-        std::find_if(entries.begin(), entries.end(), sameEntry(info.feature, info.fullFileName));
-    if (found == entries.end()) {
+    const auto [found, isNew] = positions.try_emplace(Key(info.feature, info.fullFileName), entries.size());
+    if (isNew)
         entries.push_back(info);
-        return countEntries();
-    }
-    *found = info;
-    return static_cast<unsigned>(found - entries.begin()) + 1;
+    else
+        entries[found->second] = info;
+    return static_cast<unsigned>(found->second) + 1;
 }
 
 unsigned OdFileDependencyManager::getEntry(const OdString& feature, const OdString& fullFileName,
                                            OdFileDependencyInfo& info) const {
-    const auto found = std::find_if(entries.begin(), entries.end(), sameEntry(feature, fullFileName));
-    if (found == entries.end())
+    const auto found = positions.find(Key(feature, fullFileName));
+    if (found == positions.end())
         return 0;
-    info = *found;
-    return static_cast<unsigned>(found - entries.begin()) + 1;
+    info = entries[found->second];
+    return static_cast<unsigned>(found->second) + 1;
 }
 
+// The entries behind the erased one move up.
 void OdFileDependencyManager::eraseEntry(const OdString& feature, const OdString& fullFileName) {
-    entries.erase(std::remove_if(entries.begin(), entries.end(), sameEntry(feature, fullFileName)),
-                  entries.end());
+    const auto found = positions.find(Key(feature, fullFileName));
+    if (found == positions.end())
+        return;
+    const std::size_t position = found->second;
+    entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(position));
+    positions.erase(found);
+    for (auto& [key, index] : positions)
+        if (index > position)
+            --index;
 }

@@ -3,6 +3,8 @@
 
 #include "sdk/rx/od_string.h"
 
+#include <map>
+#include <utility>
 #include <vector>
 
 struct OdFileDependencyInfo {
@@ -24,5 +26,7 @@ public:
     unsigned countEntries() const { return static_cast<unsigned>(entries.size()); }
 
 private:
+    using Key = std::pair<OdString, OdString>; // feature and full file name
     std::vector<OdFileDependencyInfo> entries;
+    std::map<Key, std::size_t> positions; // in `entries`
 };
