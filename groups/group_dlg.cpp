@@ -18,6 +18,8 @@ CGroupDlg::CGroupDlg(QWidget* parent, OdDbObjectId groupDictionaryId, GroupData&
     group_dialogs::setUpWindow(*this, "CGroupDlg", QDialog::tr("Object Grouping"), 380, 420);
     build();
     layOut();
+    nameEdit->setFocus(); // in its box by now: a change of parent would take the focus away
+    nameEdit->selectAll();
     fillTable();
     connectControls();
 }

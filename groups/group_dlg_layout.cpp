@@ -20,8 +20,6 @@ void CGroupDlg::build() {
     buildIdentification();
     buildButtons();
     nameEdit->setEnabled(!data->unnamed);
-    nameEdit->setFocus();
-    nameEdit->selectAll();
 }
 
 void CGroupDlg::buildIdentification() {

@@ -89,6 +89,13 @@ int GroupTest::pickStyle() const {
     return value.isNull() ? -1 : value->getInt8();
 }
 
+std::string GroupTest::drawingText() const {
+    std::string text = database->writeBytes();
+    const std::size_t seed = text.find("$HANDSEED");
+    const std::size_t next = text.find("\n  9\n", seed);
+    return text.erase(seed, next - seed);
+}
+
 Ref<IParam> GroupTest::groupNameParams(const wchar_t* name) const {
     const Ref<IParam> params = Ref<IParam>::take(new_MemParam());
     const CKWVariant value{CXStringW(name)};

@@ -48,6 +48,8 @@ protected:
     std::vector<int> highlightedLines() const;
     int pickStyle() const;
     void setPickStyle(int value) { host.vars.set("PICKSTYLE", value); }
+    // The drawing as a file, but for the seed of handles: one that was given out is never given out again.
+    std::string drawingText() const;
     // All that is to be seen of the groups, the highlight, PICKSTYLE, the selection and the transactions.
     std::wstring summary() const;
 
