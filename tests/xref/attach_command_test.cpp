@@ -79,6 +79,21 @@ TEST_F(AttachCommand, FileDialogAsksForDrawingsFromTheRoot) {
     EXPECT_EQ(driver.parentWidget, &window);
 }
 
+TEST_F(AttachCommand, FileDialogHasItsCaption) {
+    QString caption;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        caption = dialog->windowTitle();
+        dialog->reject();
+    });
+    look.start(5);
+    selectXRefFiles(&window, true);
+    EXPECT_EQ(caption, "External Reference");
+}
+
 TEST_F(AttachCommand, FileDialogForOneFileTakesOne) {
     FileDialogDriver driver(write("part.dxf"));
     EXPECT_EQ(selectXRefFiles(&window, false), QStringList(inFolder("part.dxf")));
@@ -166,6 +181,22 @@ TEST_F(AttachCommand, FileThatGivesNoBlockNameEndsWithoutADialog) {
     OnAttachDialog onDialog([](Dialog& dialog) { dialog.reject(); });
     EXPECT_EQ(run(writeBytes(".dxf", "x")), 0);
     EXPECT_FALSE(onDialog.shown);
+    expectUnchanged(before);
+}
+
+TEST_F(AttachCommand, FileNameWithASemicolonIsTakenForTwoFilesAndNothingStays) {
+    const std::string before = drawing->writeBytes();
+    runAndPress(write("a;b.dxf"), "okButton");
+    EXPECT_EQ(noticeTexts(), QStringList({QStringLiteral("\"%1\" cannot be found.").arg(inFolder("a")),
+                                          "\"b.dxf\" cannot be found."}));
+    expectUnchanged(before);
+}
+
+TEST_F(AttachCommand, DrawingsOwnBaseNameIsPrintedAndNothingStays) {
+    const std::string before = drawing->writeBytes();
+    QDir(folder.path()).mkdir("other");
+    runAndPress(write("other/site.dxf"), "okButton");
+    EXPECT_EQ(io.formatted, QStringList("Error: Possible circular reference to current drawing."));
     expectUnchanged(before);
 }
 

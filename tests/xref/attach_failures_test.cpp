@@ -58,6 +58,13 @@ TEST_F(AttachFailures, TextThatIsNoDrawingIsNotValid) {
     expectRefusal(writeBytes("letter.dxf", "Dear reader,\nthis is a letter.\n"), {invalid});
 }
 
+TEST_F(AttachFailures, TruncatedFileIsNotValid) {
+    QFile whole(write("whole.dxf"));
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    const QByteArray bytes = whole.readAll();
+    expectRefusal(writeBytes("half.dxf", bytes.left(bytes.indexOf("BLOCKS") + 3)), {invalid});
+}
+
 TEST_F(AttachFailures, LinkThatLeadsToItselfIsToldLikeAMissingFile) {
     const QString path = inFolder("loop.dxf");
     QFile::link(path, path);
@@ -96,6 +103,25 @@ TEST_F(AttachFailures, CurrentDrawingUnderAnotherNameIsRefused) {
     before = drawing->writeBytes();
     QFile::link(inFolder("site.dxf"), inFolder("other.dxf"));
     expectRefusal(inFolder("other.dxf"), {});
+}
+
+TEST_F(AttachFailures, FileNamesOfAnyCharactersAreAttachedAndSurviveSaving) {
+    for (const char* name : {"a\"b'c.dxf", "a\nb.dxf", "a  b.dxf", "ä,=`|*?.dxf", "100%s.dxf"}) {
+        const QString path = write(name);
+        EXPECT_TRUE(attachFile(path)) << name;
+        const OdDbDatabasePtr read = OdDbDatabase::readBytes(drawing->writeBytes());
+        const auto reference = odrxCast<OdDbBlockReference>(
+            odrxCast<OdDbBlockTableRecord>(read->getModelSpaceId().safeOpenObject())
+                ->entityIds()
+                .back()
+                .safeOpenObject());
+        const auto record = odrxCast<OdDbBlockTableRecord>(reference->blockTableRecord().safeOpenObject());
+        EXPECT_EQ(hostqt::qString(record->pathName()), path);
+    }
+}
+
+TEST_F(AttachFailures, TextDrawingUnderTheNameOfABinaryOneIsAttached) {
+    EXPECT_TRUE(attachFile(write("part.dwg")));
 }
 
 TEST_F(AttachFailures, DrawingsThatAttachEachOtherAreAttachedOnce) {

@@ -1,0 +1,42 @@
+// Attaches one drawing to another as the attach command does, for checks by another reader:
+// attach_tool SITE PART OVERLAY X Y SCALE ROTATION PATH_TYPE
+#include "sdk/db/xref_man.h"
+#include "tests/support/fixture_host.h"
+#include "tests/support/test_application.h"
+#include "xref/attach_reference.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+int attach(char** arguments) {
+    const OdString site(arguments[1]), part(arguments[2]);
+    FixtureHost host;
+    const OdDbDatabasePtr drawing = OdDbDatabase::readFile(site);
+    host.openDocument(drawing).path = site;
+    const bool attached =
+        attachReference(part, {std::atof(arguments[4]), std::atof(arguments[5]), 0},
+                        OdGeScale3d(std::atof(arguments[6])), std::atoi(arguments[3]) != 0, false, false,
+                        false, false, std::atoi(arguments[8]), false, std::atof(arguments[7]));
+    for (const FixtureEvents::Notice& notice : host.notices())
+        std::fprintf(stderr, "%s\n", notice.text.toLocal8Bit().constData());
+    if (!attached)
+        return 1;
+    drawing->writeFile(site);
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    TestApplication application(argc, argv);
+    if (argc != 9)
+        return 2;
+    try {
+        return attach(argv);
+    } catch (const OdError& error) {
+        std::fprintf(stderr, "%s\n", error.description().toLocal8Bit().c_str());
+        return 3;
+    }
+}
