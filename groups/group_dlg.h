@@ -63,7 +63,7 @@ private:
 
     void fillTable();
     std::vector<Row> rowsOf(const OdDbDictionaryPtr& dictionary, Order order, bool strict);
-    void noteNamedRow(const OdDbGroupPtr& group, int row, bool strict);
+    void noteRow(const OdString& name, bool anonymous, int row, bool strict);
     void showRows(const std::vector<Row>& rows, bool withIds);
     void clearTable();
     void fillForIncludeUnnamed();

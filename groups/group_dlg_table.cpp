@@ -60,25 +60,30 @@ std::vector<CGroupDlg::Row> CGroupDlg::rowsOf(const OdDbDictionaryPtr& dictionar
     namedRows = 0;
     for (const auto entry = dictionary->newIterator(static_cast<int>(order)); !entry->done(); entry->next()) {
         const OdDbGroupPtr group = groupOf(entry, strict);
-        if ((group.isNull() && !strict) || (group->isAnonymous() && !data->includeUnnamed))
+        if (group.isNull() && !strict)
             continue;
-        noteNamedRow(group, static_cast<int>(rows.size()), strict);
+        const bool anonymous = group->isAnonymous();
+        if (anonymous && !data->includeUnnamed)
+            continue;
         rows.push_back({group->name(), group->isSelectable(), group->objectId()});
+        noteRow(rows.back().name, anonymous, static_cast<int>(rows.size()) - 1, strict);
     }
     return rows;
 }
 
 // At the start only the named groups are compared with the record's name, exactly; later all, in any case.
-void CGroupDlg::noteNamedRow(const OdDbGroupPtr& group, int row, bool strict) {
-    if (!group->isAnonymous())
+void CGroupDlg::noteRow(const OdString& name, bool anonymous, int row, bool strict) {
+    if (!anonymous)
         ++namedRows;
-    const OdString name = group->name();
-    if (strict ? !group->isAnonymous() && name == data->name : name.iCompare(data->name) == 0)
+    if (strict ? !anonymous && name == data->name : name.iCompare(data->name) == 0)
         data->currentRow = row;
 }
 
 void CGroupDlg::showRows(const std::vector<Row>& rows, bool withIds) {
     groupTable->setRowCount(static_cast<int>(rows.size()));
+    // A header that may redraw looks for the position of each row that is resized, which takes as long as
+    // there are rows.
+    groupTable->verticalHeader()->setUpdatesEnabled(false);
     const QString yes = QDialog::tr("Yes"), no = QDialog::tr("No");
     int at = 0;
     for (const Row& row : rows) {
@@ -90,4 +95,5 @@ void CGroupDlg::showRows(const std::vector<Row>& rows, bool withIds) {
         groupTable->setRowHeight(at++, kRowHeight);
         rowIds.push_back(row.id);
     }
+    groupTable->verticalHeader()->setUpdatesEnabled(true);
 }

@@ -20,6 +20,19 @@ bool isEntry(const DxfTagList& tags, std::size_t at) {
            (tags[at + 1].code == kSoftEntry || tags[at + 1].code == kHardEntry);
 }
 
+// Each name is folded once, and not in each comparison.
+void sortByName(std::vector<OdDbDictionaryIterator::Entry>& list) {
+    using Keyed = std::pair<std::wstring, OdDbDictionaryIterator::Entry>;
+    std::vector<Keyed> keyed;
+    keyed.reserve(list.size());
+    for (OdDbDictionaryIterator::Entry& entry : list)
+        keyed.emplace_back(odDbFoldedName(entry.name), std::move(entry));
+    std::stable_sort(keyed.begin(), keyed.end(),
+                     [](const Keyed& a, const Keyed& b) { return a.first < b.first; });
+    for (std::size_t i = 0; i < list.size(); ++i)
+        list[i] = std::move(keyed[i].second);
+}
+
 } // namespace
 
 OdDbDictionary::OdDbDictionary() {
@@ -35,13 +48,16 @@ void OdDbDictionary::fillCache() const {
         return;
     entries.clear();
     byName.clear();
+    byObject.clear();
     for (std::size_t i = 0; i < content.size(); ++i) {
         if (!isEntry(content, i))
             continue;
         const OdString name = codec().decode(content[i].value());
         const std::uint64_t handle = dxfHandle(content[i + 1].value());
         byName.emplace(odDbFoldedName(name), entries.size());
-        entries.push_back({name, database() ? database()->getOdDbObjectId(handle).getStub() : nullptr});
+        OdDbStub* const stub = database() ? database()->getOdDbObjectId(handle).getStub() : nullptr;
+        byObject.emplace(stub, entries.size());
+        entries.push_back({name, stub});
         odDbNoteAnonymousName(name);
     }
     cached = true;
@@ -74,10 +90,8 @@ OdDbObjectPtr OdDbDictionary::getAt(const OdString& name, OdDb::OpenMode mode) c
 
 OdString OdDbDictionary::nameAt(OdDbObjectId id) const {
     fillCache();
-    for (const Entry& entry : entries)
-        if (entry.stub && entry.stub == id.getStub())
-            return entry.name;
-    return {};
+    const auto found = id.isNull() ? byObject.end() : byObject.find(id.getStub());
+    return found == byObject.end() ? OdString() : entries[found->second].name;
 }
 
 bool OdDbDictionary::isHardOwner() const { return content.integer(content.subclass(kMarker), 280) != 0; }
@@ -100,6 +114,7 @@ OdDbObjectId OdDbDictionary::setAt(const OdString& name, OdDbObject* object) {
     content.append(isHardOwner() ? kHardEntry : kSoftEntry, dxfHandleText(id.getHandle().number()));
     if (cached) {
         byName.emplace(odDbFoldedName(name), entries.size());
+        byObject.emplace(id.getStub(), entries.size());
         entries.push_back({name, id.getStub()});
     }
     odDbNoteAnonymousName(name);
@@ -144,8 +159,7 @@ OdDbDictionaryIteratorPtr OdDbDictionary::newIterator(OdRx::DictIterType order) 
         if (entry.isAlive())
             list.push_back({entry.name, OdDbObjectId(entry.stub)});
     if (order == OdRx::kDictSorted)
-        std::stable_sort(list.begin(), list.end(),
-                         [](const auto& a, const auto& b) { return a.name.iCompare(b.name) < 0; });
+        sortByName(list);
     return OdDbDictionaryIteratorPtr(new OdDbDictionaryIterator(std::move(list)));
 }
 

@@ -77,5 +77,6 @@ private:
     mutable bool cached = false;
     mutable std::vector<Entry> entries;
     mutable std::unordered_map<std::wstring, std::size_t> byName;
+    mutable std::unordered_map<const OdDbStub*, std::size_t> byObject; // the first entry of each
 };
 using OdDbDictionaryPtr = OdSmartPtr<OdDbDictionary>;

@@ -137,13 +137,13 @@ void OdDbGroup::append(const OdDbObjectIdArray& ids) {
     fillCache();
     assertWriteEnabled();
     std::unordered_set<OdDbStub*> present(members.begin(), members.end());
+    std::size_t place = content.subclass(kMarker).end;
     for (const OdDbObjectId id : ids) {
         if (!present.insert(id.getStub()).second)
             continue;
-        const std::size_t place = content.subclass(kMarker).end;
         content.insert(place, kMember, dxfHandleText(id.getHandle().number()));
         members.push_back(id.getStub());
-        memberTags.push_back(place);
+        memberTags.push_back(place++);
     }
 }
 
