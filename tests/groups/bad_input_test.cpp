@@ -1,0 +1,168 @@
+// Names, members and drawings that are not as they should be, and texts in another language.
+#include "groups/command_line_from_selection.h"
+#include "groups/command_line_unified.h"
+#include "groups/highlight.h"
+#include "sdk/db/layer_table.h"
+#include "tests/groups/dialog_user.h"
+#include "tests/groups/group_fixture.h"
+
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTranslator>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class BadInput : public GroupTest {
+protected:
+    int runUnified(std::initializer_list<ScriptedAnswer> answers) {
+        answer(answers);
+        return run<CCommandLineGroupUnified>();
+    }
+};
+
+TEST_F(BadInput, NamesWithMarkersMarkupAndLineFeedsPassThroughEveryMessage) {
+    for (const wchar_t* name : {L"%1 %2 %s %n", L"<b>bold</b>", L"two\nlines", L"Стол", L"E\u0301"}) {
+        addGroup(name, pick({0, 1}));
+        EXPECT_EQ(runUnified({keyword(7), typed(name), keyword(1)}), 0);
+        EXPECT_EQ(io.printed.back(), L"Group '" + OdString(name) + L"' already exists.");
+        setPickStyle(0);
+        selection.select(pick({0}));
+        EXPECT_EQ(runUnified({keyword(3), typed(name)}), 0);
+        EXPECT_EQ(io.printed.back(),
+                  L"\n1 entities from current selection removed from group '" + OdString(name) + L"'");
+        EXPECT_EQ(runUnified({keyword(4), typed(name)}), 0);
+        EXPECT_FALSE(hasGroup(name));
+    }
+}
+
+TEST_F(BadInput, ErasedMembersCountAsAbsent) {
+    addGroup(L"G", pick({0, 1, 2}));
+    lines[1].safeOpenObject(OdDb::kForWrite)->erase(true);
+    EXPECT_EQ(runUnified({keyword(1), typed(L"G"), typed(L"0"), typed(L"1"), typed(L"1")}), 0);
+    EXPECT_EQ(io.prompts[2].text, OdString(L"Enter position number of the object to reorder (0 - 1):"));
+    EXPECT_THAT(members(L"G"), ElementsAre(2, 0));
+    lines[0].safeOpenObject(OdDb::kForWrite)->erase(true);
+    lines[2].safeOpenObject(OdDb::kForWrite)->erase(true);
+    EXPECT_EQ(runUnified({keyword(1), typed(L"G")}), 0);
+    EXPECT_EQ(io.printed.back(), OdString(L"Less than 2 members, nothing to order."));
+}
+
+TEST_F(BadInput, MemberErasedWhileItIsHighlightedEndsInItsException) {
+    addGroup(L"G", pick({0, 1}));
+    const OdDbObjectIdArray ids = highlightMembers(group(L"G"));
+    lines[1].safeOpenObject(OdDb::kForWrite)->erase(true);
+    EXPECT_EQ(codeOf([&] { setObjectsHighlight(ids, false); }), eWasErased);
+    EXPECT_THAT(highlightedLines(), IsEmpty());
+}
+
+TEST_F(BadInput, MemberThatIsNoEntityThrowsTheWrongClassWhereItIsHighlighted) {
+    addGroup(L"G", {lines[0], dictionary()->objectId()});
+    answer({keyword(2), typed(L"G")});
+    EXPECT_THROW(run<CCommandLineGroupUnified>(), OdError_NotThatKindOfClass);
+}
+
+TEST_F(BadInput, SelectionOnALockedLayerIsGroupedLikeAnyOther) {
+    const auto layer = odrxCast<OdDbLayerTableRecord>(
+        odrxCast<OdDbEntity>(lines[0].safeOpenObject())->layerId().safeOpenObject(OdDb::kForWrite));
+    layer->setIsLocked(true);
+    selection.select(pick({0}));
+    EXPECT_EQ(run<CCommandLineGroupFromSelection>(), 0);
+    EXPECT_THAT(members(L"Group1"), ElementsAre(0));
+}
+
+TEST_F(BadInput, DrawingWithoutAGroupDictionaryGetsOne) {
+    const auto root =
+        odrxCast<OdDbDictionary>(database->getNamedObjectsDictionaryId().safeOpenObject(OdDb::kForWrite));
+    root->remove(L"ACAD_GROUP");
+    ASSERT_TRUE(database->getGroupDictionaryId(false).isNull());
+    selection.select(pick({0}));
+    EXPECT_EQ(run<CCommandLineGroupFromSelection>(), 0);
+    EXPECT_TRUE(hasGroup(L"Group1"));
+}
+
+TEST_F(BadInput, ErasedGroupIsNotDefined) {
+    addGroup(L"G", pick({0}));
+    group(L"G", OdDb::kForWrite)->erase(true);
+    EXPECT_EQ(runUnified({keyword(2), typed(L"G"), cancel()}), 1);
+    EXPECT_EQ(io.printed.back(), OdString(L"Group 'G' is not defined."));
+}
+
+TEST_F(BadInput, GroupErasedWhileTheDialogIsOpenEndsTheRunWithItsException) {
+    addGroup(L"G", pick({0}));
+    DialogUser user;
+    user.then([&](QDialog& dialog) {
+        in<QTableWidget>(dialog, "groupTable").setCurrentCell(0, 0);
+        group(L"G", OdDb::kForWrite)->erase(true);
+        DialogUser::clickIn(dialog, "selectableButton");
+    });
+    EXPECT_EQ(codeOf([&] { run<CGroupCmd>(); }), eWasErased);
+    EXPECT_TRUE(user.finished());
+    EXPECT_FALSE(database->isUndoBlockStarted());
+}
+
+TEST_F(BadInput, NameThatTheDictionaryRefusesLeavesTheRunWithItsException) {
+    addGroup(L"G", pick({0}));
+    answer({keyword(5), typed(L"G"), typed(L"")});
+    EXPECT_EQ(codeOf([&] { run<CCommandLineGroupUnified>(); }), eInvalidInput);
+    EXPECT_TRUE(hasGroup(L"G"));
+}
+
+// Marks every text of one context.
+class ContextMarker : public QTranslator {
+public:
+    explicit ContextMarker(const char* markedContext) : context(markedContext) {
+        QCoreApplication::installTranslator(this);
+    }
+    ~ContextMarker() override { QCoreApplication::removeTranslator(this); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char* textContext, const char* text, const char*, int) const override {
+        return qstrcmp(textContext, context) == 0 ? QLatin1Char('~') + QLatin1String(text) : QString();
+    }
+
+private:
+    const char* context;
+};
+
+TEST_F(BadInput, TextsOfTheCommandsAreTranslatedInTheContextQObject) {
+    const ContextMarker marker("QObject");
+    EXPECT_EQ(runUnified({cancel()}), 1);
+    EXPECT_EQ(io.prompts[0].text,
+              OdString(L"~Enter a group option [~?/Order/Add/Remove/Explode/REName/Selectable/Create] "
+                       L"<~Create>:"));
+}
+
+TEST_F(BadInput, TextsOfTheDialogsAreTranslatedInTheContextQDialog) {
+    addGroup(L"G", pick({0}));
+    const ContextMarker marker("QDialog");
+    DialogUser user;
+    user.then([](QDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("~Object Grouping"));
+        EXPECT_EQ(in<QTableWidget>(dialog, "groupTable").item(0, 1)->text(), QStringLiteral("~Yes"));
+        DialogUser::clickIn(dialog, "cancelButton");
+    });
+    EXPECT_EQ(run<CGroupCmd>(), 1);
+}
+
+TEST_F(BadInput, YesAndNoOfTheListAreNotTranslated) {
+    addGroup(L"G", pick({0}));
+    const ContextMarker marker("QObject");
+    EXPECT_EQ(runUnified({keyword(0), enter(), cancel()}), 1);
+    EXPECT_EQ(io.printed[1].wide().find(L"~Selectable"), 32u);
+    EXPECT_EQ(io.printed[2].wide().substr(34, 3), L"Yes");
+}
+
+TEST_F(BadInput, AutomaticNameFollowsATranslationWithAPercentSign) {
+    class PercentNames : public ContextMarker {
+    public:
+        PercentNames() : ContextMarker("QObject") {}
+        QString translate(const char*, const char* text, const char*, int) const override {
+            return qstrcmp(text, "Group%1") == 0 ? QStringLiteral("Nr%d") : QString();
+        }
+    };
+    const PercentNames translator;
+    selection.select(pick({0}));
+    EXPECT_EQ(run<CCommandLineGroupFromSelection>(), 0);
+    EXPECT_TRUE(hasGroup(L"Nr1"));
+}
