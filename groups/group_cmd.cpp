@@ -6,6 +6,7 @@
 #include "groups/group_messages.h"
 #include "groups/group_reorder_dlg.h"
 #include "groups/highlight.h"
+#include "groups/keyword_list.h"
 #include "groups/local_undo.h"
 #include "groups/obj_highlight_dlg.h"
 #include "groups/selected_objects.h"
@@ -26,9 +27,10 @@ void askForMembers(HostEditorSelection* editor) {
     if (!selectedIds(editor).empty())
         return;
     const OdDbDatabasePtr database = currentDatabase();
+    const QString words = keywordBracket(shownKeywordWords(localKeywords(group_messages::endKeywords())));
+    const QString prompt = group_messages::selectObjectsIn().arg(words);
     OdDbObjectIdArray ids;
-    if (askForObjects(editor, selectionRequest(database, group_messages::selectObjects()), ids) ==
-        kInputPicked)
+    if (askForObjectsUntilEnd(editor, selectionRequest(database, prompt), ids) == kInputPicked)
         selectIds(*editor, database, ids);
 }
 

@@ -200,7 +200,7 @@ TEST_F(GroupDialog, RejectedNameShowsOnlyThroughTheFocus) {
             in<QPushButton>(dialog, "newButton").setFocus();
             DialogUser::clickIn(dialog, "newButton");
             EXPECT_TRUE(dialog.isVisible());
-            EXPECT_TRUE(in<QLineEdit>(dialog, "nameEdit").hasFocus());
+            EXPECT_EQ(dialog.focusWidget(), &in<QLineEdit>(dialog, "nameEdit"));
             EXPECT_EQ(in<QLineEdit>(dialog, "nameEdit").selectedText(), QLatin1String(name));
             EXPECT_EQ(message(dialog), QString());
         });
@@ -304,7 +304,7 @@ TEST_F(GroupDialog, RenameToTheGroupsOwnNameCountsAsADuplicate) {
         choose(dialog, "TABLE");
         DialogUser::clickIn(dialog, "renameButton");
         EXPECT_EQ(message(dialog), QString());
-        EXPECT_TRUE(in<QLineEdit>(dialog, "nameEdit").hasFocus());
+        EXPECT_EQ(dialog.focusWidget(), &in<QLineEdit>(dialog, "nameEdit"));
         DialogUser::clickIn(dialog, "okButton");
     });
     runDialog();
@@ -347,7 +347,7 @@ TEST_F(GroupDialog, HighlightFollowsTheSelectionAndGoesWithTheDialog) {
             choose(dialog, "TABLE");
             in<QCheckBox>(dialog, "highlightCheck").click();
             EXPECT_THAT(highlightedLines(), ElementsAre(0, 1, 2));
-            EXPECT_TRUE(table(dialog).hasFocus());
+            EXPECT_EQ(dialog.focusWidget(), &table(dialog));
             choose(dialog, "CHAIR");
             EXPECT_THAT(highlightedLines(), ElementsAre(3));
             DialogUser::clickIn(dialog, "findNameButton");

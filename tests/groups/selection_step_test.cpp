@@ -196,6 +196,7 @@ TEST_F(DialogWithStep, AddRemoveAndNewWorkAndCancelTakesThemBack) {
             .click(end);
         runWith<CGroupCmd>({picked(pick({5})), picked(pick({0})), picked(pick({3}))});
         EXPECT_TRUE(user.finished());
+        EXPECT_EQ(step->requests.back().prompt, OdString(L"Select objects [End]"));
         if (qstrcmp(end, "cancelButton") == 0) {
             EXPECT_EQ(summary(), before);
         }
