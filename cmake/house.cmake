@@ -39,6 +39,8 @@ function(house_test folder)
     target_link_libraries(${name} PRIVATE ${A_USES} test_support house_warnings)
     target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
                                                SHIPPED_DATA_DIR="${CMAKE_SOURCE_DIR}/workbench/data")
-    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300 ENVIRONMENT
-                         "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${HOUSE_SANITIZER_ENV}")
+    # By env(1): a test property keeps no list, so of several variables only the first would arrive.
+    set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR
+                          "env;QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${HOUSE_SANITIZER_ENV}")
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
