@@ -71,7 +71,11 @@ public:
     void headerSaved() { headerModified = false; }
     OdFileDependencyManager dependencies;
     std::map<std::wstring, OdResBufPtr> sessionVariables;
-    std::chrono::steady_clock::time_point openedAt = std::chrono::steady_clock::now();
+    using Clock = std::chrono::steady_clock;
+    Clock::time_point openedAt = Clock::now();
+    // Total editing time, finer than the milliseconds of a date: what is rounded at each of many quick saves
+    // would be lost.
+    double editingDays(Clock::time_point until = Clock::now()) const;
     std::vector<OdDbDatabaseReactor*> reactors;
     OdDbStub* activeViewport = nullptr;
 

@@ -40,10 +40,10 @@ void odDbStampCreation(OdDbDatabase& database) {
 void odDbStampSave(OdDbDatabase& database) {
     OdDbDatabaseImpl& impl = database.impl();
     const bool hasUniversal = impl.header.find("$TDUUPDATE") != nullptr;
-    const double editing = database.getTDINDWG().asJulianFraction();
+    const OdDbDatabaseImpl::Clock::time_point now = OdDbDatabaseImpl::Clock::now();
     stampTimes(impl.header, "$TDUPDATE", hasUniversal ? "$TDUUPDATE" : nullptr);
-    impl.header.setReal("$TDINDWG", editing);
-    impl.openedAt = std::chrono::steady_clock::now();
+    impl.header.setReal("$TDINDWG", impl.editingDays(now));
+    impl.openedAt = now;
     const OdDbDatabaseSummaryInfoPtr info = oddbGetSummaryInfo(&database);
     info->setLastSavedBy(userName());
     info->setRevisionNumber(nextRevision(info->getRevisionNumber()));

@@ -86,11 +86,15 @@ OdDbDate OdDbDatabase::getTDUPDATE() const {
     return OdTimeStamp::fromJulianFraction(parts->header.real("$TDUPDATE"));
 }
 
-OdDbDate OdDbDatabase::getTDINDWG() const {
+double OdDbDatabaseImpl::editingDays(Clock::time_point until) const {
     using Days = std::chrono::duration<double, std::ratio<86400>>;
-    const Days session = std::chrono::steady_clock::now() - parts->openedAt;
-    return OdTimeStamp::fromJulianFraction(parts->header.real("$TDINDWG") + session.count());
+    constexpr double mostDays = 1e6;
+    const Days session = until - openedAt;
+    const double former = header.real("$TDINDWG");
+    return (former > 0 && former < mostDays ? former : 0) + session.count();
 }
+
+OdDbDate OdDbDatabase::getTDINDWG() const { return OdTimeStamp::fromJulianFraction(parts->editingDays()); }
 
 OdGePoint3d get_UCSORG(const OdDbDatabase* database) {
     return database->impl().header.point("$UCSORG", OdGePoint3d::kOrigin);

@@ -1,9 +1,11 @@
 // The summary record, where each version keeps it, and what a save writes into it.
 #include "tests/sdk/db/drawing_fixture.h"
 
+#include "sdk/db/save_stamp.h"
 #include "sdk/db/summary_info.h"
 
 #include <QTemporaryDir>
+#include <chrono>
 
 namespace {
 
@@ -11,6 +13,13 @@ OdDbDatabasePtr drawingOf(const char* version) {
     std::string text = OdDbDatabase::createEmpty()->writeBytes();
     text.replace(text.find("AC1027"), 6, version);
     return OdDbDatabase::readBytes(text);
+}
+
+// Dates are kept to the millisecond: until then no editing time is to be seen.
+void editForAMoment(const OdDbDatabase& database) {
+    const double before = database.getTDINDWG().asJulianFraction();
+    while (database.getTDINDWG().asJulianFraction() <= before) {
+    }
 }
 
 OdDbDatabasePtr again(OdDbDatabase& database) { return OdDbDatabase::readBytes(database.writeBytes()); }
@@ -100,6 +109,7 @@ TEST(SummaryRecord, SavingAChangedDrawingAdvancesItsRevision) {
     const OdDbDate created = database->getTDCREATE();
     for (int save = 1; save <= 2; ++save) {
         addLine(*database, save);
+        editForAMoment(*database);
         database->writeFile(path);
         EXPECT_FALSE(database->isModified());
     }
@@ -120,4 +130,15 @@ TEST(SummaryRecord, SavingAnUnchangedDrawingAdvancesNothing) {
     const std::string bytes = database->writeBytes();
     database->writeFile(path);
     EXPECT_EQ(OdDbDatabase::readFile(path)->writeBytes(), bytes);
+}
+
+TEST(SummaryRecord, ManyQuickSavesLoseNoEditingTime) {
+    const OdDbDatabasePtr database = OdDbDatabase::createEmpty();
+    const auto start = std::chrono::steady_clock::now();
+    double elapsed = 0;
+    while (elapsed < 20) {
+        odDbStampSave(*database);
+        elapsed = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+    }
+    EXPECT_GT(database->getTDINDWG().asJulianFraction() * 86400000, elapsed - 1);
 }
