@@ -1,0 +1,41 @@
+// Former versions of drawing files, kept below the root directory: the files in one folder for each drawing,
+// the reasons in one index beside the folders, so that a folder that vanished is noticed.
+#pragma once
+
+#include "standin/params/in_file.h"
+
+#include <vector>
+
+namespace standin {
+
+struct FileVersion {
+    QString file;   // may be missing
+    QString reason; // empty when none is known
+};
+
+class VersionStore {
+public:
+    VersionStore(const QString& rootDir, StoreIo storeIo);
+
+    // Where the versions of a drawing are kept, whether or not there are any.
+    QString folderOf(const QString& drawing) const;
+    // The oldest first. Those whose file is gone are among them, and files that the index does not know.
+    std::vector<FileVersion> versionsOf(const QString& drawing) const;
+    // Keeps a copy of the drawing's file as it is on the disk, with its time, and removes the oldest versions
+    // past `maximum`. A drawing that has no file yet leaves nothing to keep; a file that is the latest
+    // version already only takes the reason. Problems are told to the user; false when the version was not
+    // kept.
+    bool keep(const QString& drawing, const QString& reason, int maximum);
+
+private:
+    void tellIfVanished(const QString& drawing) const;
+    QString copyOf(const QString& drawing) const;
+    void note(const QString& drawing, const QString& name, const QString& reason);
+    void removeOldest(const QString& drawing, int maximum);
+
+    QString root;
+    StoreIo io;
+    Ref<InFile<MemParam>> index;
+};
+
+} // namespace standin
