@@ -84,6 +84,19 @@ OdResult loadFile(OdDbBlockTableRecord& record, const QFileInfo& file) {
     return eOk;
 }
 
+std::function<std::vector<OdString>()>& searchFolders() {
+    static std::function<std::vector<OdString>()> folders;
+    return folders;
+}
+
+// A path as it counts from a folder, or else its name alone there; empty when there is no such file.
+OdString fileIn(const QDir& folder, const QString& path) {
+    for (const QString& candidate : {folder.filePath(path), folder.filePath(QFileInfo(path).fileName())})
+        if (QFileInfo(candidate).isFile())
+            return od(QFileInfo(candidate).absoluteFilePath());
+    return {};
+}
+
 } // namespace
 
 OdDbObjectId OdDbXRefManExt::addNewXRefDefBlock(OdDbDatabase* database, const OdString& path,
@@ -144,20 +157,23 @@ OdDbObjectIdArray OdDbXRefMan::loadAll(OdDbDatabase* database) {
     return failed;
 }
 
+void OdDbXRefMan::setSearchFolders(std::function<std::vector<OdString>()> folders) {
+    searchFolders() = std::move(folders);
+}
+
 OdString OdDbXRefMan::findFile(const OdDbDatabase& database, const OdString& savedPath) {
     const QString path = qt(savedPath).replace(QLatin1Char('\\'), QLatin1Char('/'));
     const QString drawing = qt(database.getFilename());
-    QStringList candidates;
-    if (QFileInfo(path).isAbsolute())
-        candidates << path;
-    if (!drawing.isEmpty()) {
-        const QDir folder = QFileInfo(drawing).absoluteDir();
-        candidates << folder.filePath(path) << folder.filePath(QFileInfo(path).fileName());
-    } else {
-        candidates << path;
+    // Without a drawing's folder a relative path counts from the working folder.
+    if ((QFileInfo(path).isAbsolute() || drawing.isEmpty()) && QFileInfo(path).isFile())
+        return od(QFileInfo(path).absoluteFilePath());
+    const OdString beside = drawing.isEmpty() ? OdString() : fileIn(QFileInfo(drawing).absoluteDir(), path);
+    if (!beside.isEmpty() || !searchFolders())
+        return beside;
+    for (const OdString& folder : searchFolders()()) {
+        const OdString found = fileIn(QDir(qt(folder)), path);
+        if (!found.isEmpty())
+            return found;
     }
-    for (const QString& candidate : candidates)
-        if (QFileInfo(candidate).isFile())
-            return od(QFileInfo(candidate).absoluteFilePath());
     return {};
 }

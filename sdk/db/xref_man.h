@@ -3,6 +3,9 @@
 
 #include "sdk/db/block_table.h"
 
+#include <functional>
+#include <vector>
+
 class OdDbXRefManExt {
 public:
     // A new, unloaded reference with its path and no contents. Throws eDuplicateKey for a taken name. Neither
@@ -24,9 +27,11 @@ public:
     static void setOverlaid(OdDbBlockTableRecord* record, bool overlaid);
     // Loads every reference of a drawing; gives those that failed.
     static OdDbObjectIdArray loadAll(OdDbDatabase* database);
-    // The file that a saved path stands for, looked for as it stands, beside the drawing and by its name
-    // alone beside the drawing; empty when there is none.
+    // The file that a saved path stands for, looked for as it stands, beside the drawing, by its name alone
+    // beside the drawing, and likewise in the search folders; empty when there is none.
     static OdString findFile(const OdDbDatabase& database, const OdString& savedPath);
+    // Asked at each search that has come so far; none at first, and none again for an empty function.
+    static void setSearchFolders(std::function<std::vector<OdString>()> folders);
 };
 
 // The feature that file dependencies of references are filed under.

@@ -1,8 +1,11 @@
 // Puts the stores together.
 #include "standin/params/application.h"
 
+#include "host/text.h"
+#include "sdk/db/xref_man.h"
 #include "standin/params/std_dirs.h"
 #include "standin/params/yaml_tree.h"
+#include "standin/references/attach_services.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -59,6 +62,13 @@ Ref<FileProfile> openOwnProfile(const ApplicationSetup& setup) {
     return openProfile(setup.rootDir);
 }
 
+std::vector<OdString> foldersOfReferences() {
+    std::vector<OdString> folders;
+    for (const QString& folder : referenceFolders())
+        folders.push_back(hostqt::odString(folder));
+    return folders;
+}
+
 } // namespace
 
 Application::Application(const ApplicationSetup& setup)
@@ -74,11 +84,14 @@ Application::Application(const ApplicationSetup& setup)
     hub->add(papers);
     if (profile)
         hub->add(profile);
+    hub->add(made(new AttachServices));
     theOnlyIApp = hub.get();
+    OdDbXRefMan::setSearchFolders(foldersOfReferences);
 }
 
 Application::~Application() {
     flush();
+    OdDbXRefMan::setSearchFolders({});
     theOnlyIApp = before;
     setProfileDefaults({});
 }
