@@ -82,11 +82,14 @@ QString withoutEscapes(const QString& text) {
     return result;
 }
 
-QString withControlEscapes(const QString& text) {
+// What reads like an escape but is none gets its first character escaped.
+QString withEscapes(const QString& text) {
     QString result;
     for (int i = 0; i < text.size(); ++i) {
         const ushort c = text[i].unicode();
-        if (c == '\n' || c == '\r' || c == '\t')
+        if (text.midRef(i, 3) == QLatin1String("\\U+") && hexValue(text, i + 3) >= 0)
+            result += QStringLiteral("\\U+005C");
+        else if (c == '\n' || c == '\r' || c == '\t')
             result += QString("^") + QChar(c + 64);
         else if (c == '^' && i + 1 < text.size() && !controlOf(text[i + 1]).isNull())
             result += "^ ";
@@ -116,7 +119,7 @@ OdString DxfCodec::decode(std::string_view bytes) const {
 }
 
 std::string DxfCodec::encode(const OdString& text) const {
-    const QString oneLine = withControlEscapes(QString::fromStdWString(text.wide()));
+    const QString oneLine = withEscapes(QString::fromStdWString(text.wide()));
     const bool unicode = codec->name() == "UTF-8";
     if (unicode || codec->canEncode(oneLine))
         return codec->fromUnicode(oneLine).toStdString();

@@ -43,7 +43,7 @@ TEST(Codec, UnfinishedEscapesStayAsTheyStand) {
 TEST(Codec, TextsOfAnyKindComeBackAsOneLine) {
     for (const DxfCodec& codec : {DxfCodec(), DxfCodec::forCodePage("ANSI_1252")}) {
         for (const wchar_t* text : {L"two\nlines", L"tab\there", L"2^8", L"^J is no line feed", L"a^ b",
-                                    L"^^J", L"\r\n", L"\u00e4\u4e16", L""}) {
+                                    L"^^J", L"\\U+0041 typed", L"\r\n", L"\u00e4\u4e16", L""}) {
             const std::string bytes = codec.encode(text);
             EXPECT_EQ(bytes.find_first_of("\r\n"), std::string::npos);
             EXPECT_EQ(codec.decode(bytes), OdString(text));
