@@ -218,10 +218,13 @@ void OdDbDatabaseImpl::setXrefDatabase(OdDbStub& block, OdDbDatabasePtr loaded) 
 }
 
 OdDbTableContent& OdDbDatabaseImpl::tableOf(const OdDbStub& table) {
-    for (auto& [name, content] : tables)
-        if (content.record == &table)
-            return content;
-    throw OdError(eKeyNotFound);
+    constexpr std::string_view prefix = "TABLE:";
+    const std::string& title = typeName(table);
+    const auto found = title.compare(0, prefix.size(), prefix) == 0 ? tables.find(title.substr(prefix.size()))
+                                                                    : tables.end();
+    if (found == tables.end())
+        throw OdError(eKeyNotFound);
+    return found->second;
 }
 
 void OdDbDatabaseImpl::forgetNames(const OdDbStub* table) {

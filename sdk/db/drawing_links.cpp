@@ -73,6 +73,19 @@ void OdDbDrawingReader::addMissingTables() {
         const auto object = odrxCast<OdDbObject>(odDbClassForDxfName(typeTitle, false)->create());
         table.record = &impl.addMissing(*object, "TABLE", name, typeTitle);
     }
+    adoptBlockRecords();
+}
+
+// Block records that stand in a table of another name are blocks all the same.
+void OdDbDrawingReader::adoptBlockRecords() {
+    OdDbTableContent& table = impl.tables["BLOCK_RECORD"];
+    for (const NamedStub& record_ : blockRecords) {
+        if (record_.stub->owner == table.record)
+            continue;
+        warn(record_.stub->source, L"a block record outside of the table of blocks");
+        record_.stub->owner = table.record;
+        table.entries.push_back(record_.stub);
+    }
 }
 
 OdDbStub& OdDbDrawingReader::addBlockRecord(const OdString& name) {

@@ -49,6 +49,7 @@ private:
     void readVersion();
     void numberTheRest();
     void addMissingTables();
+    void adoptBlockRecords();
     void linkBlocks();
     void linkSpaces();
     OdDbStub& addBlockRecord(const OdString& name);

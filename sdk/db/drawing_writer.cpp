@@ -177,9 +177,11 @@ void OdDbDrawingWriter::emitFileRecord(OdDbStub& stub) {
 
 // A table says how many records it has; that is only rewritten where it has become wrong.
 void OdDbDrawingWriter::emitTableHead(OdDbStub& stub) {
-    const OdDbTableContent& table = impl.tableOf(stub);
-    if (before.count(table.end) == 0)
+    const auto headed = std::find_if(impl.tables.begin(), impl.tables.end(),
+                                     [&stub](const auto& entry) { return entry.second.record == &stub; });
+    if (headed == impl.tables.end() || before.count(headed->second.end) == 0)
         return emit(stub.bytes());
+    const OdDbTableContent& table = headed->second;
     DxfTagList tags = impl.load(stub)->tags();
     const auto alive = std::count_if(table.entries.begin(), table.entries.end(),
                                      [](const OdDbStub* entry) { return !entry->has(OdDbStub::kErased); });

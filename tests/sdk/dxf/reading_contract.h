@@ -1,0 +1,61 @@
+// What any bytes may do to the reader: give an error that says why, or a drawing that works, is written back
+// as it was, and loses nothing when it is changed. For the tests of damaged files and for the fuzzer.
+#pragma once
+
+#include "sdk/db/curves.h"
+#include "sdk/dxf/binary_text.h"
+#include "tests/sdk/dxf/use_drawing.h"
+
+// Empty when the drawing keeps the contract, otherwise what it broke.
+inline std::string faultOfUnchanged(OdDbDatabase& database, const std::string& bytes) {
+    useEverything(database);
+    if (database.isModified())
+        return "reading counts as a change";
+    const std::string written = database.writeBytes();
+    if (isBinaryDxf(bytes))
+        return OdDbDatabase::readBytes(written)->writeBytes() == written ? "" : "the text form is not stable";
+    return written == bytes ? "" : "an unchanged drawing is not written as it was read";
+}
+
+inline std::size_t entityCount(OdDbDatabase& database) {
+    std::size_t count = 0;
+    const auto blocks = odrxQuery<OdDbBlockTable>(database.getBlockTableId().openObject().get());
+    for (OdDbSymbolTableIterator it = blocks->newIterator(); !it.done(); it.step())
+        if (const auto block = odrxQuery<OdDbBlockTableRecord>(it.getRecordId().openObject().get());
+            !block.isNull())
+            count += block->entityIds().size();
+    return count;
+}
+
+// Adds an entity, sees it written and read, and takes it back.
+inline std::string faultOfChanged(OdDbDatabase& database) {
+    const std::string before = database.writeBytes();
+    const std::size_t count = entityCount(database);
+    database.startTransaction();
+    {
+        const auto space =
+            odrxCast<OdDbBlockTableRecord>(database.getModelSpaceId().safeOpenObject(OdDb::kForWrite));
+        OdDbEntityPtr point = odrxCast<OdDbEntity>(OdDbPoint::desc()->create());
+        space->appendOdDbEntity(point.get());
+    }
+    const std::string after = database.writeBytes();
+    if (entityCount(*OdDbDatabase::readBytes(after)) != count + 1)
+        return "a changed drawing has lost entities";
+    database.abortTransaction();
+    return database.writeBytes() == before ? "" : "an aborted change leaves something behind";
+}
+
+inline std::string faultOfReading(const std::string& bytes) {
+    OdDbDatabasePtr database;
+    try {
+        database = OdDbDatabase::readBytes(bytes, L"test.dxf");
+    } catch (const OdError& error) {
+        const std::string text = error.description().toUtf8();
+        const bool known = error.code() == eDxfReadError || error.code() == eBadDwgFile ||
+                           error.code() == eInvalidDrawing || error.code() == eUnsupportedFileFormat;
+        return known && text.find("test.dxf") != std::string::npos ? ""
+                                                                   : "an error that says too little: " + text;
+    }
+    const std::string fault = faultOfUnchanged(*database, bytes);
+    return fault.empty() ? faultOfChanged(*database) : fault;
+}
