@@ -28,7 +28,9 @@ struct OpenPrompt {
     QString text;
     bool wantsPoint = false;
     std::optional<OdGePoint3d> base;
-    bool rubberBand = false; // a line from the base to the cursor
+    bool rubberBand = false;   // a line from the base to the cursor
+    bool rectangle = false;    // a box between them instead
+    bool picksObjects = false; // the point is to lie on an object
     HostEdPointTracker* tracker = nullptr;
 };
 
@@ -38,7 +40,10 @@ enum PromptFlags {
     kTextWithBlanks = 1, // the answer is free text; blanks around it are kept
     kAnyText = 2,        // text that is no keyword, point or number is an answer too
     kEmptyIsAnswer = 4,
-    kRubberBand = 8 // from the base point to the cursor
+    kRubberBand = 8, // from the base point to the cursor
+    // High, so that no flag of a caller stands for one of them.
+    kRectangle = 1 << 28,
+    kPicksObjects = 1 << 29
 };
 
 class Console : public QObject, public HostCommandIO {

@@ -34,6 +34,8 @@ OpenPrompt pointPromptFor(const wchar_t* prompt, const wchar_t* keywords, int fl
     if (base)
         result.base = *base;
     result.rubberBand = base && (flags & kRubberBand);
+    result.rectangle = base && (flags & kRectangle);
+    result.picksObjects = flags & kPicksObjects;
     result.tracker = tracker;
     return result;
 }

@@ -36,6 +36,8 @@ OdSmartPtr<OdDbDatabase> Document::database() { return drawing; }
 
 HostCommandIO* Document::commandIO() { return &io; }
 
+HostEditorSelection* Document::selection() { return editorSelection.get(); }
+
 QString Document::path() const { return QString::fromStdWString(filePath); }
 
 QString Document::displayName() const { return QString::fromStdWString(name); }

@@ -9,6 +9,7 @@
 namespace standin {
 
 class Console;
+class EditorSelection;
 
 class Document : public HostDocument, public DrawingVars {
 public:
@@ -18,7 +19,8 @@ public:
 
     OdSmartPtr<OdDbDatabase> database() override;
     HostCommandIO* commandIO() override;
-    HostEditorSelection* selection() override { return editorSelection.get(); }
+    HostEditorSelection* selection() override;
+    EditorSelection& editor() { return *editorSelection; }
     const wchar_t* fileName() override { return filePath.c_str(); }
     const wchar_t* title() override { return name.c_str(); }
 
@@ -32,7 +34,7 @@ public:
 private:
     OdSmartPtr<OdDbDatabase> drawing;
     Console& io;
-    std::unique_ptr<HostEditorSelection> editorSelection;
+    std::unique_ptr<EditorSelection> editorSelection;
     std::wstring filePath, name;
 };
 

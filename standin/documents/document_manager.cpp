@@ -50,6 +50,14 @@ Document* DocumentManager::openFile(const QString& path) {
     return adopt(std::move(document));
 }
 
+void DocumentManager::save(Document* document, const QString& path) {
+    document->database()->writeFile(hostqt::odString(path));
+    if (document->path() == path)
+        return;
+    document->setPath(path);
+    emit documentRenamed();
+}
+
 void DocumentManager::activate(Document* document) {
     if (document == current)
         return;
@@ -74,6 +82,14 @@ void DocumentManager::close(Document* document) {
 Document* DocumentManager::documentOf(const OdRxObject* database) const {
     const auto found = std::find_if(documents.begin(), documents.end(),
                                     [&](const auto& open) { return open->database().get() == database; });
+    return found == documents.end() ? nullptr : found->get();
+}
+
+Document* DocumentManager::documentOfFile(const QString& path) const {
+    const QFileInfo wanted(path);
+    const auto found = std::find_if(documents.begin(), documents.end(), [&](const auto& open) {
+        return !open->path().isEmpty() && QFileInfo(open->path()) == wanted;
+    });
     return found == documents.end() ? nullptr : found->get();
 }
 

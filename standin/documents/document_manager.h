@@ -25,12 +25,16 @@ public:
     // Both make the new document the current one. An empty one is titled Drawing1, Drawing2 and so on.
     Document* openEmpty();
     Document* openFile(const QString& path); // throws OdError
+    // Writes the drawing, which has the file's name from then on. Throws OdError.
+    void save(Document* document, const QString& path);
     void activate(Document* document);
     void close(Document* document);                         // the one opened before it becomes current
     Document* documentOf(const OdRxObject* database) const; // null when it is none of the open ones'
+    Document* documentOfFile(const QString& path) const;    // likewise
 
 signals:
     void currentChanged();
+    void documentRenamed(); // it was saved under another name
     void documentClosed(const QString& title);
 
 private:

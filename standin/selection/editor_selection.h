@@ -19,22 +19,44 @@ public:
     hostSelectionSetPtr getSelection() override { return current; }
     void setSelection(const hostSelectionSetPtr& set) override;
     void clearSelection() override;
-    // Collects objects until Enter: by clicks, the words All, Last and Previous, and handles. kInputPicked
-    // with at least one object, kInputNone with none, kInputCancelled on Escape, or a keyword's number.
+    // Collects objects until Enter: by clicks, by a window (a click beside every object begins one), the
+    // words Window, Crossing, All, Last, Previous, Remove and Add, and handles. kInputPicked with at least
+    // one object, kInputNone with none, kInputCancelled on Escape, or a keyword's number.
     int selectObjects(hostSelectionSetPtr* result, int, const wchar_t* prompt, const wchar_t* keywords, int,
                       int, int, int, int) override;
 
-    // What lies at a point; set by whoever draws the drawing.
+    // What lies at a point, and what lies in a window or, `crossing`, also across its border; set by whoever
+    // draws the drawing.
     std::function<OdDbObjectIdArray(const OdGePoint3d& point)> objectsAt;
+    std::function<OdDbObjectIdArray(const OdGePoint3d& first, const OdGePoint3d& second, bool crossing)>
+        objectsIn;
+
+    // The same with the groups that PICKSTYLE brings along; nothing while nobody draws.
+    OdDbObjectIdArray pickedAt(const OdGePoint3d& point) const;
+    OdDbObjectIdArray pickedIn(const OdGePoint3d& first, const OdGePoint3d& second, bool crossing) const;
+    // A window drawn from right to left is a crossing one.
+    static bool isCrossing(const OdGePoint3d& first, const OdGePoint3d& second) { return second.x < first.x; }
+    void add(const OdDbObjectIdArray& ids); // to the selection
+    void remove(const OdDbObjectIdArray& ids);
+    // Whether the points that are picked for a prompt take objects out of what it has collected, as long as
+    // it lasts or until this is called again.
+    void setPicksRemove(bool remove) { picksRemove = remove; }
 
 private:
-    OdDbObjectIdArray objectsNamed(const QString& text) const;
+    class Collection;
+    enum class Window { BySide, Inside, Crossing };
+    void collect(Collection& collection, const OdDbObjectIdArray& found, bool removing);
+    bool take(Collection& collection, const QString& text);
+    bool takeClick(Collection& collection, const OdGePoint3d& point);
+    bool takeWindow(Collection& collection, Window kind);
+    bool takeSecondCorner(Collection& collection, const OdGePoint3d& first, Window kind);
+    OdDbObjectIdArray objectsNamed(const QString& word) const;
     OdDbObjectIdArray objectOfHandle(const QString& text) const;
-    void collect(hostSelectionSet& set, const OdDbObjectIdArray& found, const QString& answer);
 
     OdDbDatabasePtr drawing;
     Console& io;
     hostSelectionSetPtr current, previous;
+    bool picksRemove = false;
 };
 
 } // namespace standin
