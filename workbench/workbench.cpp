@@ -37,7 +37,8 @@ SysVarTable readVariables(const QString& dataDir, Console& console) {
 
 } // namespace
 
-Workbench::Workbench(const Launch& launchOptions) : launch(launchOptions) {
+Workbench::Workbench(const Launch& launchOptions)
+    : launch(launchOptions), files(io, launch.headless || !launch.scriptFile.isEmpty()) {
     if (launch.headless)
         printTranscript();
     catalogues.load(QCoreApplication::applicationDirPath() + QStringLiteral("/translations"),
@@ -81,9 +82,12 @@ void Workbench::provideServices() {
 }
 
 void Workbench::addCommands() {
-    const CommandScope scope{io, loop, *documents, styles};
-    addProgramCommands(scope);
+    const CommandScope scope{io, loop, *documents, styles, files, mainWindow->drawingArea(), *mainWindow};
     addDrawingCommands(scope);
+    addEditCommands(scope);
+    addViewCommands(scope);
+    addPlugInEntries(*mainWindow);
+    addProgramCommands(scope);
     addVariableCommands(scope);
     connect(&loop, &CommandLoop::commandEnded, this, &Workbench::applySettings);
     // A dialog that applies a theme shows it at once; everything else waits for the end of the command.

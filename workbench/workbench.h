@@ -7,6 +7,7 @@
 #include "standin/themes/style_manager.h"
 #include "standin/translation/translation.h"
 #include "workbench/command_line.h"
+#include "workbench/commands/file_questions.h"
 #include "workbench/settings.h"
 
 #include <QTimer>
@@ -54,6 +55,7 @@ private:
     const Launch launch;
     standin::Console io;
     standin::CommandLoop loop{io};
+    const FileQuestions files;
     standin::StyleManager styles;
     standin::Catalogues catalogues;
     std::unique_ptr<standin::Application> application;

@@ -72,7 +72,7 @@ TEST_F(ConsolePanelTest, EnterRunsTheLastCommandAgain) {
 }
 
 TEST_F(ConsolePanelTest, MatchingCommandsAreOfferedWhileTyping) {
-    type("se");
+    type("set");
     EXPECT_TRUE(waitUntil([&] { return popup()->isVisible(); }));
     EXPECT_EQ(popup()->model()->rowCount(), 1);
     EXPECT_EQ(popup()->model()->index(0, 0).data().toString(), "SETVAR");

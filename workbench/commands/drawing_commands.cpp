@@ -1,11 +1,16 @@
 // Commands about the open drawings as a whole.
-#include "workbench/commands/commands.h"
+#include "workbench/commands/drawing_commands.h"
 
+#include "host/text.h"
+#include "sdk/db/database.h"
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
 #include "standin/documents/document_manager.h"
+#include "workbench/commands/commands.h"
+#include "workbench/commands/file_questions.h"
 
 #include <QCoreApplication>
+#include <QDir>
 
 using namespace standin;
 
@@ -15,11 +20,32 @@ namespace {
 
 QString tr(const char* text) { return QCoreApplication::translate("DrawingCommands", text); }
 
-void closeCurrent(Console& console, DocumentManager& documents) {
-    if (Document* current = documents.currentOne())
-        documents.close(current);
-    else
-        console.print(tr("No drawing is open."));
+// A drawing that is open already is brought to the front.
+void openDrawing(const CommandScope& scope) {
+    const auto path = scope.files.fileToOpen();
+    if (!path)
+        return;
+    if (Document* open = scope.documents.documentOfFile(*path))
+        return scope.documents.activate(open);
+    printReadWarnings(scope.console, *scope.documents.openFile(*path));
+}
+
+void closeCurrent(const CommandScope& scope) {
+    Document& current = *scope.documents.currentOne();
+    if (settleChanges(scope.documents, current, scope.files))
+        scope.documents.close(&current);
+}
+
+void save(const CommandScope& scope) {
+    Document& current = *scope.documents.currentOne();
+    if (saveDrawing(scope.documents, current, scope.files))
+        scope.console.print(tr("Saved as %1.").arg(current.path()));
+}
+
+void saveAs(const CommandScope& scope) {
+    Document& current = *scope.documents.currentOne();
+    if (saveDrawingAs(scope.documents, current, scope.files))
+        scope.console.print(tr("Saved as %1.").arg(current.path()));
 }
 
 void listDrawings(Console& console, const DocumentManager& documents) {
@@ -32,12 +58,75 @@ void listDrawings(Console& console, const DocumentManager& documents) {
 
 } // namespace
 
+void printReadWarnings(Console& console, Document& document) {
+    for (const OdString& warning : document.database()->readWarnings())
+        console.print(hostqt::qString(warning));
+}
+
+bool saveDrawing(DocumentManager& documents, Document& document, const FileQuestions& files) {
+    if (document.path().isEmpty())
+        return saveDrawingAs(documents, document, files);
+    documents.save(&document, document.path());
+    return true;
+}
+
+bool saveDrawingAs(DocumentManager& documents, Document& document, const FileQuestions& files) {
+    const QString suggested = document.path().isEmpty()
+                                  ? QDir::current().filePath(document.displayName() + QStringLiteral(".dxf"))
+                                  : document.path();
+    const auto path = files.fileToSave(suggested, document.path());
+    if (path)
+        documents.save(&document, *path);
+    return path.has_value();
+}
+
+bool settleChanges(DocumentManager& documents, Document& document, const FileQuestions& files) {
+    if (!document.database()->isModified())
+        return true;
+    switch (files.whatOfChanges(document.displayName())) {
+    case Unsaved::Save:
+        return saveDrawing(documents, document, files);
+    case Unsaved::Discard:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool settleAllChanges(DocumentManager& documents, const FileQuestions& files) {
+    for (Document* document : documents.all())
+        if (!settleChanges(documents, *document, files))
+            return false;
+    return true;
+}
+
+std::function<void()> withDrawing(const CommandScope& scope, void (*command)(const CommandScope&)) {
+    return [scope, command] {
+        if (scope.documents.currentOne())
+            command(scope);
+        else
+            scope.console.print(tr("No drawing is open."));
+    };
+}
+
+static void addFileEntries(MenuSink& menus) {
+    menus.addEntry({Menu::File, tr("&New drawing"), "NEW", "template", QKeySequence::New});
+    menus.addEntry({Menu::File, tr("&Open..."), "OPEN", "folders", QKeySequence::Open});
+    menus.addEntry({Menu::File, tr("&Save"), "SAVE", "save", QKeySequence::Save, true});
+    menus.addEntry(
+        {Menu::File, tr("Save &as..."), "SAVEAS", {}, QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_S)});
+    menus.addEntry({Menu::File, tr("&Close drawing"), "CLOSE", {}, QKeySequence::Close});
+}
+
 void addDrawingCommands(const CommandScope& scope) {
     Console& console = scope.console;
     DocumentManager& documents = scope.documents;
+    addFileEntries(scope.menus);
     scope.loop.add({"NEW", tr("Opens an empty drawing."), [&documents] { documents.openEmpty(); }});
-    scope.loop.add({"CLOSE", tr("Closes the current drawing."),
-                    [&console, &documents] { closeCurrent(console, documents); }});
+    scope.loop.add({"OPEN", tr("Opens a drawing from a file."), [scope] { openDrawing(scope); }});
+    scope.loop.add({"SAVE", tr("Saves the current drawing."), withDrawing(scope, save)});
+    scope.loop.add({"SAVEAS", tr("Saves the current drawing in another file."), withDrawing(scope, saveAs)});
+    scope.loop.add({"CLOSE", tr("Closes the current drawing."), withDrawing(scope, closeCurrent)});
     scope.loop.add({"DRAWINGS", tr("Lists the open drawings; a star marks the current one."),
                     [&console, &documents] { listDrawings(console, documents); }});
 }

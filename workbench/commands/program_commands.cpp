@@ -7,6 +7,7 @@
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
 #include "standin/themes/style_manager.h"
+#include "workbench/commands/drawing_commands.h"
 #include "workbench/settings.h"
 
 #include <QCoreApplication>
@@ -52,10 +53,15 @@ void setTheme(Console& console, StyleManager& styles) {
 } // namespace
 
 void addProgramCommands(const CommandScope& scope) {
+    scope.menus.addEntry({Menu::File, tr("&Quit"), "QUIT", {}, QKeySequence::Quit, true});
+    scope.menus.addEntry({Menu::Help, tr("List of &commands"), "HELP", "command_pref"});
     Console& console = scope.console;
     CommandLoop& loop = scope.loop;
     StyleManager& styles = scope.styles;
-    loop.add({"QUIT", tr("Ends the program."), [] { QCoreApplication::quit(); }});
+    loop.add({"QUIT", tr("Ends the program."), [scope] {
+                  if (settleAllChanges(scope.documents, scope.files))
+                      QCoreApplication::quit();
+              }});
     loop.add({"HELP", tr("Lists the commands."), [&console, &loop] { listCommands(console, loop); }});
     loop.add({"THEME", tr("Changes the colours of the program."),
               [&console, &styles] { setTheme(console, styles); }});

@@ -1,11 +1,13 @@
 #include "workbench/window/main_window.h"
 
 #include "host/qt_ui_core.h"
+#include "sdk/db/database.h"
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
+#include "standin/console/point_text.h"
 #include "standin/documents/document_manager.h"
 #include "standin/themes/style_manager.h"
-#include "workbench/window/canvas_placeholder.h"
+#include "workbench/canvas/canvas.h"
 #include "workbench/window/console_line.h"
 #include "workbench/window/console_panel.h"
 #include "workbench/window/window_place.h"
@@ -17,6 +19,7 @@
 #include <QMenu>
 #include <QStatusBar>
 #include <QToolBar>
+#include <algorithm>
 
 using namespace standin;
 using hostui::qt::style::hostQtThemeChangeWatcher;
@@ -28,8 +31,8 @@ MainWindow::MainWindow(Console& console, CommandLoop& commandLoop, DocumentManag
     : io(console), loop(commandLoop), documents(documentManager), styles(styleManager) {
     setObjectName(QStringLiteral("mainWindow"));
     build();
-    buildMenus();
     buildToolBar();
+    buildMenus();
     connectSignals();
     showDrawing();
     showIcons();
@@ -40,7 +43,7 @@ MainWindow::MainWindow(Console& console, CommandLoop& commandLoop, DocumentManag
 MainWindow::~MainWindow() = default;
 
 void MainWindow::build() {
-    canvas = new CanvasPlaceholder(this);
+    canvas = new Canvas(io, loop, documents, this);
     setCentralWidget(canvas);
     consolePanel = new ConsolePanel(io, loop, this);
     canvas->setFocusProxy(consolePanel->line());
@@ -50,6 +53,9 @@ void MainWindow::build() {
     dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
     dock->setWidget(consolePanel);
     addDockWidget(Qt::BottomDockWidgetArea, dock);
+    cursorLabel = new QLabel(this);
+    cursorLabel->setObjectName(QStringLiteral("cursorLabel"));
+    statusBar()->addWidget(cursorLabel);
     drawingLabel = new QLabel(this);
     drawingLabel->setObjectName(QStringLiteral("drawingLabel"));
     statusBar()->addPermanentWidget(drawingLabel);
@@ -57,7 +63,12 @@ void MainWindow::build() {
 
 void MainWindow::connectSignals() {
     connect(&documents, &DocumentManager::currentChanged, this, &MainWindow::showDrawing);
-    connect(drawingsMenu, &QMenu::aboutToShow, this, &MainWindow::fillDrawingsMenu);
+    connect(&documents, &DocumentManager::documentRenamed, this, &MainWindow::showDrawing);
+    connect(&loop, &CommandLoop::commandEnded, this, &MainWindow::showDrawing);
+    connect(canvas, &Canvas::cursorMoved, this, &MainWindow::showCursorPlace);
+    connect(canvas, &Canvas::cursorLeft, cursorLabel, &QLabel::clear);
+    connect(consolePanel->line(), &ConsoleLine::escaped, canvas, &Canvas::escape);
+    connect(menus[Menu::Drawings], &QMenu::aboutToShow, this, &MainWindow::fillDrawingsMenu);
     connect(styles.themeWatcher(), &hostQtThemeChangeWatcher::clicked, this, &MainWindow::showIcons);
     connect(styles.themeWatcher(), &hostQtThemeChangeWatcher::clicked, this, &MainWindow::checkTheme);
 }
@@ -76,9 +87,10 @@ void MainWindow::showIcons() {
 }
 
 void MainWindow::showDrawing() {
-    const Document* current = documents.currentOne();
-    const QString name = current ? current->displayName() : QString();
-    canvas->showDrawing(name);
+    Document* current = documents.currentOne();
+    QString name = current ? current->displayName() : QString();
+    if (current && current->database()->isModified())
+        name += QLatin1Char('*');
     drawingLabel->setText(name.isEmpty() ? tr("No drawing") : name);
     setWindowTitle(name.isEmpty() ? tr("Workbench") : tr("%1 - Workbench").arg(name));
 }
@@ -86,18 +98,27 @@ void MainWindow::showDrawing() {
 // What a menu starts takes the place of a command that is waiting for an answer.
 void MainWindow::runCommand(const QString& command) {
     io.escape();
-    io.enterLine(command);
+    for (const QString& line : command.split(QLatin1Char('\n')))
+        io.enterLine(line);
+}
+
+void MainWindow::showCursorPlace(const QPointF& point) {
+    cursorLabel->setText(pointText({point.x(), point.y(), 0}));
 }
 
 void MainWindow::checkTheme() { themeGroup->actions().at(styles.themeNumber())->setChecked(true); }
 
 // A prompt that is open is cancelled first; the window then closes when its command has ended.
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!loop.isRunning()) {
-        saveWindowPlace(*this);
+    saveWindowPlace(*this);
+    const std::vector<Document*> open = documents.all();
+    const bool unsaved = std::any_of(open.begin(), open.end(),
+                                     [](Document* document) { return document->database()->isModified(); });
+    if (!loop.isRunning() && !unsaved)
         return event->accept();
-    }
     event->ignore();
+    if (!loop.isRunning())
+        return runCommand(QStringLiteral("QUIT")); // asks what is to become of them
     connect(&loop, &CommandLoop::commandEnded, this, &QWidget::close,
             Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
     io.escape();

@@ -1,9 +1,11 @@
 // The window of the workbench: menus, tool bar, drawing area and console.
 #pragma once
 
+#include "workbench/commands/menu_entry.h"
 #include "workbench/settings.h"
 
 #include <QMainWindow>
+#include <map>
 #include <vector>
 
 class QActionGroup;
@@ -20,17 +22,19 @@ class StyleManager;
 
 namespace workbench {
 
-class CanvasPlaceholder;
+class Canvas;
 class ConsolePanel;
 
-class MainWindow : public QMainWindow {
+class MainWindow : public QMainWindow, public MenuSink {
     Q_OBJECT
 public:
     MainWindow(standin::Console& console, standin::CommandLoop& commandLoop,
                standin::DocumentManager& documentManager, standin::StyleManager& styleManager);
     ~MainWindow() override;
     void apply(const Settings& settings);
+    void addEntry(const MenuEntry& entry) override;
     ConsolePanel* console() const { return consolePanel; }
+    Canvas& drawingArea() const { return *canvas; }
 
 signals:
     void themeChosen(int theme);
@@ -41,13 +45,14 @@ protected:
 private:
     void build();
     void buildMenus();
-    void buildThemeMenu();
+    void buildThemeEntries();
     void buildToolBar();
     void connectSignals();
-    QAction* commandAction(const QString& text, const QString& command, const QString& icon = {});
+    QAction* actionFor(const MenuEntry& entry);
     void runCommand(const QString& command);
     void showIcons();
     void showDrawing();
+    void showCursorPlace(const QPointF& point);
     void fillDrawingsMenu();
     void checkTheme();
 
@@ -55,12 +60,13 @@ private:
     standin::CommandLoop& loop;
     standin::DocumentManager& documents;
     standin::StyleManager& styles;
-    CanvasPlaceholder* canvas = nullptr;
+    Canvas* canvas = nullptr;
     ConsolePanel* consolePanel = nullptr;
     QToolBar* toolBar = nullptr;
-    QMenu* drawingsMenu = nullptr;
+    std::map<Menu, QMenu*> menus;
     QActionGroup* themeGroup = nullptr;
     QLabel* drawingLabel = nullptr;
+    QLabel* cursorLabel = nullptr;
     struct PicturedAction {
         QAction* action;
         QString icon;

@@ -1,7 +1,7 @@
 // The menus and the tool bar of the main window.
 #include "workbench/window/main_window.h"
 
-#include "host/help.h"
+#include "host/qt_ui_core.h"
 #include "standin/documents/document_manager.h"
 #include "standin/themes/style_manager.h"
 
@@ -13,47 +13,60 @@ using namespace standin;
 
 namespace workbench {
 
-QAction* MainWindow::commandAction(const QString& text, const QString& command, const QString& icon) {
-    auto* action = new QAction(text, this);
-    action->setObjectName(command.toLower() + QStringLiteral("Action"));
-    connect(action, &QAction::triggered, this, [this, command] { runCommand(command); });
-    if (!icon.isEmpty())
-        picturedActions.push_back({action, icon});
+namespace {
+
+// "newAction", "zoomExtentsAction": a name that tests and scripts find the entry by.
+QString actionName(const QString& command) {
+    const QStringList lines = command.split(QLatin1Char('\n'));
+    return lines.first().toLower() + lines.mid(1).join(QString()) + QStringLiteral("Action");
+}
+
+} // namespace
+
+QAction* MainWindow::actionFor(const MenuEntry& entry) {
+    auto* action = new QAction(entry.text, this);
+    action->setObjectName(actionName(entry.command));
+    action->setShortcut(entry.shortcut);
+    action->setMenuRole(QAction::NoRole);
+    connect(action, &QAction::triggered, this, [this, command = entry.command] { runCommand(command); });
     return action;
 }
 
-void MainWindow::buildMenus() {
-    QMenu* file = menuBar()->addMenu(tr("&File"));
-    QAction* open = commandAction(tr("&New drawing"), QStringLiteral("NEW"), QStringLiteral("template"));
-    open->setShortcut(QKeySequence::New);
-    file->addAction(open);
-    file->addAction(commandAction(tr("&Close drawing"), QStringLiteral("CLOSE")));
-    file->addSeparator();
-    QAction* quit = commandAction(tr("&Quit"), QStringLiteral("QUIT"));
-    quit->setShortcut(QKeySequence::Quit);
-    quit->setMenuRole(QAction::QuitRole);
-    file->addAction(quit);
-    QMenu* tools = menuBar()->addMenu(tr("&Tools"));
-    tools->addAction(commandAction(tr("&Options..."), QStringLiteral("QPREF"), QStringLiteral("pref")));
-    tools->addAction(commandAction(tr("System &variable"), QStringLiteral("SETVAR")));
-    tools->addSeparator();
-    tools->addAction(
-        commandAction(tr("Drawing &properties..."), QStringLiteral("DWGPROPS"), QStringLiteral("show_msg")));
-    buildThemeMenu();
-    drawingsMenu = menuBar()->addMenu(tr("&Drawings"));
-    QMenu* help = menuBar()->addMenu(tr("&Help"));
-    help->addAction(
-        commandAction(tr("List of &commands"), QStringLiteral("HELP"), QStringLiteral("command_pref")));
+void MainWindow::addEntry(const MenuEntry& entry) {
+    QMenu* menu = menus[entry.menu];
+    QAction* action = actionFor(entry);
+    QAction* behind = entry.menu == Menu::View ? themeGroup->actions().first() : nullptr;
+    if (entry.startsSection && !menu->isEmpty())
+        menu->insertSeparator(behind);
+    menu->insertAction(behind, action);
+    menu->menuAction()->setVisible(true);
+    if (entry.icon.isEmpty())
+        return;
+    picturedActions.push_back({action, entry.icon});
+    action->setIcon(hostIconResource::get(entry.icon));
+    toolBar->addAction(action);
 }
 
-void MainWindow::buildThemeMenu() {
-    QMenu* view = menuBar()->addMenu(tr("&View"));
+void MainWindow::buildMenus() {
+    const std::pair<Menu, QString> titles[] = {
+        {Menu::File, tr("&File")},         {Menu::Edit, tr("&Edit")},     {Menu::View, tr("&View")},
+        {Menu::Insert, tr("&Insert")},     {Menu::Groups, tr("&Groups")}, {Menu::Tools, tr("&Tools")},
+        {Menu::Drawings, tr("&Drawings")}, {Menu::Help, tr("&Help")}};
+    for (const auto& [menu, title] : titles) {
+        menus[menu] = menuBar()->addMenu(title);
+        menus[menu]->menuAction()->setVisible(menu == Menu::Drawings);
+    }
+    buildThemeEntries();
+}
+
+void MainWindow::buildThemeEntries() {
     themeGroup = new QActionGroup(this);
     for (const QString& name : {tr("&Dark"), tr("&Light"), tr("As the &system")}) {
         QAction* action = themeGroup->addAction(name);
         action->setCheckable(true);
-        view->addAction(action);
+        menus[Menu::View]->addAction(action);
     }
+    menus[Menu::View]->menuAction()->setVisible(true);
     connect(themeGroup, &QActionGroup::triggered, this,
             [this](QAction* chosen) { emit themeChosen(themeGroup->actions().indexOf(chosen)); });
     checkTheme();
@@ -64,11 +77,10 @@ void MainWindow::buildToolBar() {
     toolBar->setObjectName(QStringLiteral("toolBar"));
     toolBar->setMovable(false);
     toolBar->setIconSize({20, 20});
-    for (const PicturedAction& pictured : picturedActions)
-        toolBar->addAction(pictured.action);
 }
 
 void MainWindow::fillDrawingsMenu() {
+    QMenu* drawingsMenu = menus[Menu::Drawings];
     drawingsMenu->clear();
     for (Document* document : documents.all()) {
         QAction* action = drawingsMenu->addAction(document->displayName().replace("&", "&&"));

@@ -1,0 +1,176 @@
+// What the canvas shows, and of which drawing; its mouse is in canvas_mouse.cpp, its painting in
+// canvas_paint.cpp.
+#include "workbench/canvas/canvas.h"
+
+#include "standin/console/command_loop.h"
+#include "standin/console/console.h"
+#include "standin/documents/document_manager.h"
+#include "standin/registry.h"
+#include "standin/selection/editor_selection.h"
+#include "workbench/canvas/picking.h"
+
+using namespace standin;
+
+namespace workbench {
+
+namespace {
+
+const int smallestPickBox = 3; // pixels
+
+int pickBox() {
+    OdResBufPtr value;
+    HostDocumentManager* documents = HostDocManager();
+    const bool read =
+        documents && documents->varService()->getVar(L"PICKBOX", &value, nullptr, 0) != kVarUnavailable;
+    return std::max(smallestPickBox, read ? int(value->getInt16()) : 0);
+}
+
+QPointF flat(const OdGePoint3d& point) { return {point.x, point.y}; }
+
+} // namespace
+
+Canvas::Canvas(Console& console, const CommandLoop& commandLoop, DocumentManager& documentManager,
+               QWidget* parent)
+    : QWidget(parent), io(console), loop(commandLoop), documents(documentManager) {
+    setObjectName(QStringLiteral("canvas"));
+    setMouseTracking(true);
+    setMinimumSize(240, 160);
+    setCursor(Qt::BlankCursor);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    connectSignals();
+    showCurrent();
+}
+
+Canvas::~Canvas() {
+    registry().updateDisplay = nullptr;
+    registry().zoomObject = nullptr;
+    for (const auto& each : sheets) {
+        each.second->document.editor().objectsAt = nullptr;
+        each.second->document.editor().objectsIn = nullptr;
+    }
+}
+
+void Canvas::connectSignals() {
+    registry().updateDisplay = [this] { refresh(); };
+    registry().zoomObject = [this](const OdDbObjectId& id) { zoomTo(id); };
+    connect(&documents, &DocumentManager::currentChanged, this, &Canvas::showCurrent);
+    connect(&documents, &DocumentManager::documentClosed, this, &Canvas::forgetClosed);
+    connect(&io, &Console::promptChanged, this, [this] { update(); });
+    connect(&loop, &CommandLoop::commandStarted, this, [this] { windowCorner.reset(); });
+    connect(&loop, &CommandLoop::commandEnded, this, &Canvas::refresh);
+}
+
+void Canvas::apply(const Settings& settings) {
+    background = settings.canvasBack;
+    scene.setBackground(background);
+    cursorLook = settings.cursor;
+    update();
+}
+
+void Canvas::showCurrent() {
+    Document* current = documents.currentOne();
+    sheet = nullptr;
+    if (current) {
+        auto& own = sheets[current];
+        if (!own)
+            own = makeSheet(*current);
+        sheet = own.get();
+        sheet->resize(size());
+    }
+    windowCorner.reset();
+    scene.forget();
+    update();
+}
+
+std::unique_ptr<Sheet> Canvas::makeSheet(Document& document) {
+    auto made = std::make_unique<Sheet>(document);
+    Sheet* shown = made.get();
+    shown->list.changed = [this] { update(); };
+    document.editor().objectsAt = [this, shown](const OdGePoint3d& point) {
+        return objectsAt(*shown, point);
+    };
+    document.editor().objectsIn = [shown](const OdGePoint3d& first, const OdGePoint3d& second,
+                                          bool crossing) {
+        shown->list.refresh();
+        return itemsIn(shown->list, boxOf(flat(first), flat(second)), crossing, shown->view().scale());
+    };
+    return made;
+}
+
+void Canvas::forgetClosed() {
+    const std::vector<Document*> open = documents.all();
+    for (auto it = sheets.begin(); it != sheets.end();)
+        it = std::find(open.begin(), open.end(), it->first) == open.end() ? sheets.erase(it) : std::next(it);
+}
+
+OdDbObjectIdArray Canvas::objectsAt(const Sheet& shown, const OdGePoint3d& point) const {
+    const double scale = shown.view().scale();
+    const OdDbObjectId found = itemAt(shown.list, flat(point), pickBox() / scale, scale);
+    return found.isNull() ? OdDbObjectIdArray() : OdDbObjectIdArray{found};
+}
+
+EditorSelection& Canvas::editor() const { return sheet->document.editor(); }
+
+void Canvas::refresh() { update(); }
+
+void Canvas::viewChanged() {
+    update();
+    if (sheet && rect().contains(cursorAt))
+        emit cursorMoved(sheet->view().toDrawing(cursorAt));
+}
+
+void Canvas::zoomExtents() {
+    if (!sheet)
+        return;
+    sheet->change();
+    sheet->showAll();
+    viewChanged();
+}
+
+void Canvas::zoomWindow(const OdGePoint3d& first, const OdGePoint3d& second) {
+    if (!sheet)
+        return;
+    sheet->change().fit(boxOf(flat(first), flat(second)));
+    viewChanged();
+}
+
+void Canvas::zoomBy(double factor) {
+    if (!sheet)
+        return;
+    sheet->change().zoomAt(QPointF(width() / 2.0, height() / 2.0), factor);
+    viewChanged();
+}
+
+void Canvas::zoomToScale(double pixelsPerUnit) {
+    if (!sheet)
+        return;
+    sheet->change().setScale(pixelsPerUnit);
+    viewChanged();
+}
+
+bool Canvas::zoomPrevious() {
+    const bool done = sheet && sheet->previous();
+    viewChanged();
+    return done;
+}
+
+void Canvas::zoomTo(const OdDbObjectId& id) {
+    if (!sheet)
+        return;
+    sheet->list.refresh();
+    if (const Item* item = sheet->list.find(id))
+        sheet->change().fit(item->box);
+    viewChanged();
+}
+
+void Canvas::escape() {
+    if (windowCorner)
+        windowCorner.reset();
+    else if (sheet && !loop.isRunning())
+        editor().clearSelection();
+    update();
+}
+
+} // namespace workbench
+
+#include "moc_canvas.cpp"

@@ -1,0 +1,90 @@
+// The drawing area: shows the current drawing and lets the user look around in it, pick objects and points.
+#pragma once
+
+#include "workbench/canvas/scene_image.h"
+#include "workbench/canvas/sheet.h"
+#include "workbench/settings.h"
+
+#include <QWidget>
+#include <map>
+#include <memory>
+#include <optional>
+
+namespace standin {
+class CommandLoop;
+class Console;
+class DocumentManager;
+class EditorSelection;
+struct OpenPrompt;
+} // namespace standin
+
+namespace workbench {
+
+class Canvas : public QWidget {
+    Q_OBJECT
+public:
+    Canvas(standin::Console& console, const standin::CommandLoop& commandLoop,
+           standin::DocumentManager& documentManager, QWidget* parent);
+    ~Canvas() override;
+    void apply(const Settings& settings);
+
+    // All of these do nothing without a drawing.
+    void zoomExtents();
+    void zoomWindow(const OdGePoint3d& first, const OdGePoint3d& second);
+    void zoomBy(double factor);
+    void zoomToScale(double pixelsPerUnit);
+    bool zoomPrevious(); // false when there is no view before this one
+    void zoomTo(const OdDbObjectId& id);
+    void refresh(); // something was highlighted, selected or changed
+    void escape();  // gives up a window that is being drawn, else the selection
+    const View* view() const { return sheet ? &sheet->view() : nullptr; }
+
+signals:
+    void cursorMoved(const QPointF& point); // in the drawing
+    void cursorLeft();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    void connectSignals();
+    void showCurrent();
+    void forgetClosed();
+    std::unique_ptr<Sheet> makeSheet(standin::Document& document);
+    void viewChanged();
+    const standin::OpenPrompt* pointPrompt() const;
+    standin::EditorSelection& editor() const;
+    OdDbObjectIdArray objectsAt(const Sheet& shown, const OdGePoint3d& point) const;
+    OdGePoint3d drawingPoint(const QPointF& pixel) const;
+    void press(const QPoint& pixel, Qt::KeyboardModifiers modifiers);
+    void finishWindow(const QPoint& pixel, Qt::KeyboardModifiers modifiers);
+    void choose(const OdDbObjectIdArray& ids, Qt::KeyboardModifiers modifiers);
+
+    void paintMarks(QPainter& painter);
+    void paintPrompt(QPainter& painter, const standin::OpenPrompt& prompt);
+    void paintWindow(QPainter& painter, const QPointF& first, const QPointF& second) const;
+    void paintWelcome(QPainter& painter) const;
+    void paintCursor(QPainter& painter) const;
+
+    standin::Console& io;
+    const standin::CommandLoop& loop;
+    standin::DocumentManager& documents;
+    std::map<const standin::Document*, std::unique_ptr<Sheet>> sheets;
+    Sheet* sheet = nullptr; // of the current drawing
+    SceneImage scene;
+    QColor background;
+    CursorSettings cursorLook;
+    QPoint cursorAt{-1, -1};
+    QPoint pressedAt, panFrom;
+    std::optional<OdGePoint3d> windowCorner; // of a selection window that is being drawn
+    bool panning = false;
+};
+
+} // namespace workbench

@@ -1,0 +1,114 @@
+// What the canvas paints over the picture of the drawing.
+#include "workbench/canvas/canvas.h"
+
+#include "standin/console/command_loop.h"
+#include "standin/console/console.h"
+#include "standin/documents/document_manager.h"
+#include "standin/selection/editor_selection.h"
+#include "workbench/canvas/item_painter.h"
+
+#include <QPainter>
+
+using namespace standin;
+
+namespace workbench {
+
+namespace {
+
+const QColor windowColor(0x3b, 0x8e, 0xea), crossingColor(0x3f, 0xb0, 0x5a);
+const int washOpacity = 48; // of 255
+
+QPointF flat(const OdGePoint3d& point) { return {point.x, point.y}; }
+
+} // namespace
+
+void Canvas::resizeEvent(QResizeEvent*) {
+    if (sheet)
+        sheet->resize(size());
+}
+
+void Canvas::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (!sheet) {
+        painter.fillRect(rect(), background);
+        return paintWelcome(painter);
+    }
+    if (sheet->list.refresh())
+        scene.forget();
+    painter.drawPixmap(0, 0, scene.of(sheet->list, sheet->view(), devicePixelRatioF()));
+    paintMarks(painter);
+    const OpenPrompt* prompt = pointPrompt();
+    if (prompt)
+        paintPrompt(painter, *prompt);
+    else if (windowCorner)
+        paintWindow(painter, sheet->view().toPixel(flat(*windowCorner)), cursorAt);
+    if (rect().contains(cursorAt) && !panning)
+        paintCursor(painter);
+}
+
+void Canvas::paintMarks(QPainter& painter) {
+    std::unordered_set<OdDbObjectId> marked = sheet->list.highlighted();
+    const hostSelectionSetPtr selection = editor().getSelection();
+    OdDbObjectIdArray selected;
+    if (!selection.isNull())
+        selection->objectIds(selected);
+    marked.insert(selected.begin(), selected.end());
+    ItemPainter itemPainter(painter, sheet->view(), contrastOf(background));
+    itemPainter.setPen(QPen(QColor(0x4d, 0xa3, 0xff), 2));
+    for (const OdDbObjectId& id : marked)
+        if (const Item* item = sheet->list.find(id))
+            itemPainter.draw(*item);
+}
+
+void Canvas::paintPrompt(QPainter& painter, const OpenPrompt& prompt) {
+    if (!prompt.base || !rect().contains(cursorAt))
+        return;
+    const QPointF base = sheet->view().toPixel(flat(*prompt.base));
+    if (prompt.rectangle)
+        return paintWindow(painter, base, cursorAt);
+    painter.setPen(QPen(contrastOf(background), 0, Qt::DashLine));
+    painter.drawLine(base, cursorAt);
+}
+
+void Canvas::paintWindow(QPainter& painter, const QPointF& first, const QPointF& second) const {
+    const bool crossing = second.x() < first.x();
+    QColor color = crossing ? crossingColor : windowColor;
+    painter.setPen(QPen(color.lighter(120), 1, crossing ? Qt::DashLine : Qt::SolidLine));
+    color.setAlpha(washOpacity);
+    painter.setBrush(color);
+    painter.drawRect(QRectF(first, second).normalized());
+    painter.setBrush(Qt::NoBrush);
+}
+
+void Canvas::paintWelcome(QPainter& painter) const {
+    QColor ink = contrastOf(background);
+    ink.setAlphaF(0.85);
+    painter.setPen(ink);
+    QFont title = font();
+    title.setPointSizeF(font().pointSizeF() * 1.8);
+    painter.setFont(title);
+    QRect upper = rect(), lower = rect();
+    upper.setBottom(rect().center().y() - 4);
+    painter.drawText(upper, Qt::AlignHCenter | Qt::AlignBottom, tr("No drawing is open"));
+    ink.setAlphaF(0.7);
+    painter.setPen(ink);
+    painter.setFont(font());
+    lower.setTop(rect().center().y() + 8);
+    painter.drawText(lower, Qt::AlignHCenter | Qt::AlignTop,
+                     tr("OPEN opens one, NEW begins one, HELP lists the commands."));
+}
+
+void Canvas::paintCursor(QPainter& painter) const {
+    const int reachX = qMax(8, width() * cursorLook.sizePercent / 100);
+    const int reachY = qMax(8, height() * cursorLook.sizePercent / 100);
+    const int reach = qMin(reachX, reachY);
+    const bool axes = cursorLook.colouring == CursorSettings::Axes;
+    const QColor plain =
+        cursorLook.colouring == CursorSettings::OneColor ? cursorLook.color : contrastOf(background);
+    painter.setPen(QPen(axes ? QColor(0xe0, 0x50, 0x50) : plain, cursorLook.lineWidth));
+    painter.drawLine(cursorAt - QPoint(reach, 0), cursorAt + QPoint(reach, 0));
+    painter.setPen(QPen(axes ? QColor(0x50, 0xc0, 0x50) : plain, cursorLook.lineWidth));
+    painter.drawLine(cursorAt - QPoint(0, reach), cursorAt + QPoint(0, reach));
+}
+
+} // namespace workbench

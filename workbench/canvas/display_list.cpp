@@ -1,0 +1,129 @@
+#include "workbench/canvas/display_list.h"
+
+#include "sdk/db/block_table.h"
+#include "sdk/db/layer_table.h"
+
+namespace workbench {
+
+DisplayList::DisplayList(OdDbDatabasePtr database) : drawing(std::move(database)) {
+    drawing->addReactor(this);
+}
+
+DisplayList::~DisplayList() { drawing->removeReactor(this); }
+
+void DisplayList::note(const OdDbObjectId& id) {
+    stale.insert(id);
+    if (changed)
+        changed();
+}
+
+void DisplayList::highlightChanged(OdDbObjectId id) {
+    const auto entity = odrxQuery<OdDbEntity>(id.openObject(OdDb::kForRead, true).get());
+    if (!entity.isNull() && entity->isHighlighted())
+        marked.insert(id);
+    else
+        marked.erase(id);
+    if (changed)
+        changed();
+}
+
+// Layers, blocks and what is in them are part of many items. Groups and the like are part of none.
+bool DisplayList::touchesMoreThanItself(const OdDbObjectId& id) const {
+    const OdDbObjectPtr object = id.openObject(OdDb::kForRead, true);
+    if (object.isNull())
+        return true;
+    if (!object->isKindOf(OdDbEntity::desc()))
+        return object->isKindOf(OdDbSymbolTableRecord::desc());
+    return object->ownerId() != drawing->getModelSpaceId() && object->ownerId() != drawing->getPaperSpaceId();
+}
+
+bool DisplayList::refresh() {
+    if (stale.empty() && !everything)
+        return false;
+    const std::unordered_set<OdDbObjectId> ids = std::move(stale);
+    stale.clear();
+    for (auto it = ids.begin(); it != ids.end() && !everything; ++it)
+        everything = touchesMoreThanItself(*it);
+    if (everything) {
+        rebuild();
+        return true;
+    }
+    ItemBuilder builder;
+    for (const OdDbObjectId& id : ids)
+        update(builder, id);
+    return true;
+}
+
+void DisplayList::rebuild() {
+    everything = false;
+    items.clear();
+    places.clear();
+    ItemBuilder builder;
+    const auto space = odrxCast<OdDbBlockTableRecord>(drawing->getModelSpaceId().safeOpenObject());
+    for (const OdDbObjectId& id : space->entityIds()) {
+        Item item = builder.build(id);
+        if (item.shapes.empty())
+            continue;
+        places[id] = static_cast<int>(items.size());
+        items.push_back(std::move(item));
+    }
+    index = SpatialIndex(extents());
+    for (std::size_t i = 0; i < items.size(); ++i)
+        index.insert(static_cast<int>(i), items[i].box);
+}
+
+// An object keeps its place, so that it stays above and below the same others.
+void DisplayList::update(ItemBuilder& builder, const OdDbObjectId& id) {
+    const auto found = places.find(id);
+    if (found != places.end()) {
+        Item& item = items[static_cast<std::size_t>(found->second)];
+        if (!item.shapes.empty())
+            index.remove(found->second, item.box);
+        item = {};
+    }
+    const OdDbObjectPtr object = id.openObject();
+    if (object.isNull() || object->ownerId() != drawing->getModelSpaceId())
+        return;
+    Item item = builder.build(id);
+    if (!item.shapes.empty())
+        put(std::move(item));
+}
+
+void DisplayList::put(Item item) {
+    const auto place = places.try_emplace(item.id, static_cast<int>(items.size())).first->second;
+    if (static_cast<std::size_t>(place) == items.size())
+        items.emplace_back();
+    index.insert(place, item.box);
+    items[static_cast<std::size_t>(place)] = std::move(item);
+}
+
+const Item* DisplayList::find(const OdDbObjectId& id) const {
+    const auto found = places.find(id);
+    if (found == places.end())
+        return nullptr;
+    const Item& item = items[static_cast<std::size_t>(found->second)];
+    return item.shapes.empty() ? nullptr : &item;
+}
+
+std::vector<const Item*> DisplayList::within(const Box& box) const {
+    std::vector<int> found;
+    index.visit(box, [&](int place) {
+        if (items[static_cast<std::size_t>(place)].box.intersects(box))
+            found.push_back(place);
+    });
+    std::sort(found.begin(), found.end());
+    std::vector<const Item*> result;
+    result.reserve(found.size());
+    for (const int place : found)
+        result.push_back(&items[static_cast<std::size_t>(place)]);
+    return result;
+}
+
+Box DisplayList::extents() const {
+    Box box;
+    for (const Item& item : items)
+        box.add(item.box);
+    return box;
+}
+
+} // namespace workbench

@@ -1,0 +1,55 @@
+// The shapes of everything in the model space of a drawing, kept up with its changes.
+#pragma once
+
+#include "sdk/db/database.h"
+#include "sdk/db/reactor.h"
+#include "workbench/canvas/item_builder.h"
+#include "workbench/canvas/spatial_index.h"
+
+#include <functional>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace workbench {
+
+class DisplayList : public OdDbDatabaseReactor {
+public:
+    explicit DisplayList(OdDbDatabasePtr database);
+    ~DisplayList() override;
+    DisplayList(const DisplayList&) = delete;
+    DisplayList& operator=(const DisplayList&) = delete;
+
+    // Brings the list up to date. True when something is different from before.
+    bool refresh();
+    // The changes of references that are read or unloaded come with no notice of the drawing.
+    void forgetAll() { everything = true; }
+    const Item* find(const OdDbObjectId& id) const; // null when it isn't shown
+    // The items that touch `box`, in the order of the drawing.
+    std::vector<const Item*> within(const Box& box) const;
+    Box extents() const;
+    const std::unordered_set<OdDbObjectId>& highlighted() const { return marked; }
+    OdDbDatabase& database() const { return *drawing; }
+
+    std::function<void()> changed; // something in the drawing is different; may come often
+
+    void objectAppended(OdDbObjectId id) override { note(id); }
+    void objectErased(OdDbObjectId id) override { note(id); }
+    void objectModified(OdDbObjectId id) override { note(id); }
+    void highlightChanged(OdDbObjectId id) override;
+
+private:
+    void note(const OdDbObjectId& id);
+    void rebuild();
+    void update(ItemBuilder& builder, const OdDbObjectId& id);
+    void put(Item item);
+    bool touchesMoreThanItself(const OdDbObjectId& id) const;
+
+    OdDbDatabasePtr drawing;
+    std::vector<Item> items; // those taken out are empty
+    std::unordered_map<OdDbObjectId, int> places;
+    SpatialIndex index;
+    std::unordered_set<OdDbObjectId> stale, marked;
+    bool everything = true;
+};
+
+} // namespace workbench

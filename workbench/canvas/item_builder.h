@@ -1,0 +1,66 @@
+// Makes the shapes of the objects of a drawing, references resolved and layers and colours applied.
+#pragma once
+
+#include "sdk/db/entity.h"
+#include "workbench/canvas/layer_looks.h"
+
+#include <map>
+#include <memory>
+
+class OdDbArc;
+class OdDbBlockReference;
+class OdDbBlockTableRecord;
+class OdDbCircle;
+class OdDbEllipse;
+class OdDbMText;
+class OdDbPolylineBase;
+class OdDbText;
+
+namespace workbench {
+
+class ItemBuilder {
+public:
+    // Without shapes for an object that isn't shown.
+    Item build(OdDbObjectId id);
+    // An object that need not be in a drawing, as trackers show it.
+    Item build(const OdDbEntity& entity, const OdDbDatabase& drawing);
+    // Objects of more shapes than this are cut off there: blocks that repeat each other grow without bounds.
+    static constexpr std::size_t kMostShapes = 20000;
+
+private:
+    // Where and in which looks the parts of a block are shown; the first one is the drawing itself.
+    struct Place {
+        const Place* outer = nullptr;
+        OdDbObjectId block;
+        OdGeMatrix3d toWorld;
+        const LayerLooks* layers = nullptr;
+        LayerLook layer; // of the reference: its parts on layer 0 follow it
+        Ink byBlock = kForeground;
+        int depth = 0;
+    };
+
+    void add(const OdDbEntity& entity, const Place& place);
+    LayerLook layerOf(const OdDbEntity& entity, const Place& place) const;
+    Ink inkOf(const OdDbEntity& entity, const LayerLook& layer, const Place& place) const;
+    void addGeometry(const OdDbEntity& entity, const Place& place, const LayerLook& layer, Ink ink);
+    void addReference(const OdDbBlockReference& reference, const Place& place, const LayerLook& layer,
+                      Ink ink);
+    void addAttributes(const OdDbBlockReference& reference, const Place& place);
+    bool addBlock(OdDbObjectId blockId, const Place& place, const OdGeMatrix3d& toWorld,
+                  const LayerLook& layer, Ink ink);
+    void addDimension(const OdDbEntity& dimension, const Place& place, const LayerLook& layer, Ink ink);
+    void addPolyline(const OdDbPolylineBase& polyline, const OdGeMatrix3d& toWorld, Ink ink);
+    void addBulge(const OdGePoint3d& from, const OdGePoint3d& to, double bulge, const OdGeMatrix3d& matrix,
+                  Ink ink);
+    void addArc(const OdGePoint3d& center, const OdGeVector3d& zero, const OdGeVector3d& quarter,
+                double start, double sweep, const OdGeMatrix3d& matrix, Ink ink);
+    void addText(const OdDbText& text, const OdString& content, const OdGeMatrix3d& toWorld, Ink ink);
+    void addMText(const OdDbMText& text, const OdGeMatrix3d& toWorld, Ink ink);
+    void put(Shape shape);
+    const LayerLooks& looksOf(const OdDbDatabase& drawing);
+
+    Item item;
+    std::map<const OdDbDatabase*, LayerLooks> looks;
+};
+
+} // namespace workbench

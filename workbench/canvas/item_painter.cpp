@@ -1,0 +1,154 @@
+#include "workbench/canvas/item_painter.h"
+
+#include "workbench/canvas/letters.h"
+
+#include <QTransform>
+#include <cmath>
+
+namespace workbench {
+
+namespace {
+
+const double smallestItem = 1.2; // pixels; below it an item is one dot
+const double smallestText = 3;   // pixels; below it a text is a line
+const int mostWaiting = 4096;
+
+// The part of the line inside of the area; false when there is none. Far ends would overflow the painter.
+bool clipLine(const QRectF& area, QPointF& a, QPointF& b) {
+    double from = 0, to = 1;
+    const QPointF along = b - a;
+    const double steps[] = {-along.x(), along.x(), -along.y(), along.y()};
+    const double rooms[] = {a.x() - area.left(), area.right() - a.x(), a.y() - area.top(),
+                            area.bottom() - a.y()};
+    for (int side = 0; side < 4; ++side) {
+        if (steps[side] == 0 && rooms[side] < 0)
+            return false;
+        if (steps[side] < 0)
+            from = std::max(from, rooms[side] / steps[side]);
+        else if (steps[side] > 0)
+            to = std::min(to, rooms[side] / steps[side]);
+    }
+    if (from > to)
+        return false;
+    b = a + along * to;
+    a += along * from;
+    return true;
+}
+
+} // namespace
+
+ItemPainter::ItemPainter(QPainter& painter, const View& view, const QColor& foreground)
+    : target(painter), shownView(view), standOut(foreground),
+      clip(-16, -16, view.size().width() + 32, view.size().height() + 32) {
+    lines.reserve(mostWaiting);
+}
+
+ItemPainter::~ItemPainter() { flush(); }
+
+void ItemPainter::setPen(const QPen& pen) {
+    flush();
+    ownPen = pen;
+    hasOwnPen = true;
+}
+
+QColor ItemPainter::colorOf(Ink ink) const {
+    if (hasOwnPen)
+        return ownPen.color();
+    return ink == kForeground ? standOut : QColor(ink);
+}
+
+void ItemPainter::use(Ink ink) {
+    if (ink != current || lines.size() >= mostWaiting)
+        flush();
+    current = ink;
+}
+
+void ItemPainter::flush() {
+    target.setPen(hasOwnPen ? ownPen : QPen(colorOf(current), 0));
+    target.setBrush(Qt::NoBrush);
+    if (!lines.isEmpty())
+        target.drawLines(lines);
+    if (!dots.isEmpty())
+        target.drawPoints(dots.constData(), dots.size());
+    lines.clear();
+    dots.clear();
+}
+
+void ItemPainter::draw(const Item& item) {
+    const double size = std::max(item.box.width(), item.box.height()) * shownView.scale();
+    const bool isPlain = item.shapes.front().kind != Shape::Missing && item.shapes.front().kind != Shape::Dot;
+    if (size < smallestItem && isPlain) {
+        use(item.shapes.front().ink);
+        dots.append(shownView.toPixel(item.box.center()));
+        return;
+    }
+    for (const Shape& shape : item.shapes)
+        draw(shape);
+}
+
+void ItemPainter::draw(const Shape& shape) {
+    use(shape.ink);
+    switch (shape.kind) {
+    case Shape::Path:
+        return drawRun(shape.points);
+    case Shape::Arc:
+        return drawRun(arcPoints(shape, shownView.scale()));
+    case Shape::Text:
+        return drawText(shape);
+    case Shape::Dot: {
+        const QPointF at = shownView.toPixel(shape.points[0]);
+        addLine(at - QPointF(1, 0), at + QPointF(1, 0));
+        addLine(at - QPointF(0, 1), at + QPointF(0, 1));
+        return;
+    }
+    case Shape::Missing:
+        return drawMissing(shape);
+    }
+}
+
+void ItemPainter::drawRun(const std::vector<QPointF>& points) {
+    QPointF last = shownView.toPixel(points.front());
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        const QPointF next = shownView.toPixel(points[i]);
+        addLine(last, next);
+        last = next;
+    }
+}
+
+void ItemPainter::addLine(const QPointF& a, const QPointF& b) {
+    QPointF from = a, to = b;
+    if (clipLine(clip, from, to))
+        lines.append(QLineF(from, to));
+}
+
+void ItemPainter::drawText(const Shape& text) {
+    const double height = std::hypot(text.points[2].x(), text.points[2].y()) * shownView.scale();
+    const std::vector<QPointF> corners = textCorners(text);
+    const double far = 1e5; // letters larger than this have no edge in sight
+    if (height < smallestText || height > far || hasOwnPen)
+        drawRun({corners[0], corners[1]});
+    if (height < smallestText || height > far)
+        return;
+    flush();
+    const QPointF origin = shownView.toPixel(corners[0]);
+    const QPointF along = text.points[1] * shownView.scale(), up = text.points[2] * shownView.scale();
+    target.save();
+    target.setTransform(QTransform(along.x(), -along.y(), up.x(), -up.y(), origin.x(), origin.y()), true);
+    target.fillPath(lettersOf(text.text).outline, colorOf(text.ink));
+    target.restore();
+}
+
+// A box with a cross, and the name beside it.
+void ItemPainter::drawMissing(const Shape& mark) {
+    const QPointF at = shownView.toPixel(mark.points[0]);
+    if (!clip.contains(at))
+        return;
+    flush();
+    const QRectF box(at - QPointF(kMissingMark, kMissingMark), at + QPointF(kMissingMark, kMissingMark));
+    target.drawRect(box);
+    target.drawLine(box.topLeft(), box.bottomRight());
+    target.drawLine(box.bottomLeft(), box.topRight());
+    target.drawText(box.topRight() + QPointF(5, kMissingMark + 4), mark.text);
+}
+
+} // namespace workbench

@@ -1,0 +1,45 @@
+// Paints items with as little work as their size on the screen deserves.
+#pragma once
+
+#include "workbench/canvas/shape.h"
+#include "workbench/canvas/view.h"
+
+#include <QLineF>
+#include <QPainter>
+#include <QVector>
+
+namespace workbench {
+
+class ItemPainter {
+public:
+    ItemPainter(QPainter& painter, const View& view, const QColor& foreground);
+    ~ItemPainter(); // paints what is left
+    ItemPainter(const ItemPainter&) = delete;
+    ItemPainter& operator=(const ItemPainter&) = delete;
+
+    // All shapes in one pen from now on, as for what is selected.
+    void setPen(const QPen& pen);
+    void draw(const Item& item);
+
+private:
+    void draw(const Shape& shape);
+    void drawText(const Shape& text);
+    void drawMissing(const Shape& mark);
+    void drawRun(const std::vector<QPointF>& points);
+    void addLine(const QPointF& a, const QPointF& b);
+    QColor colorOf(Ink ink) const;
+    void use(Ink ink);
+    void flush();
+
+    QPainter& target;
+    const View& shownView;
+    const QColor standOut;
+    const QRectF clip;
+    QPen ownPen;
+    bool hasOwnPen = false;
+    Ink current = kForeground;
+    QVector<QLineF> lines; // waiting to be painted in the current ink
+    QVector<QPointF> dots;
+};
+
+} // namespace workbench

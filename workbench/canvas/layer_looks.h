@@ -1,0 +1,30 @@
+// What the layers of a drawing say about how their objects look.
+#pragma once
+
+#include "sdk/db/database.h"
+#include "sdk/db/layer_table.h"
+#include "workbench/canvas/shape.h"
+
+#include <unordered_map>
+
+namespace workbench {
+
+struct LayerLook {
+    Ink ink = kForeground;
+    bool off = false;
+    bool frozen = false;
+};
+
+// Of the palette; 7, which is white or black, is the foreground.
+Ink inkOfIndex(int index);
+
+class LayerLooks {
+public:
+    explicit LayerLooks(const OdDbDatabase& drawing);
+    const LayerLook& of(const OdString& layer) const; // a missing layer is shown in the foreground
+
+private:
+    std::unordered_map<std::wstring, LayerLook> looks; // by name in small letters
+};
+
+} // namespace workbench

@@ -1,0 +1,17 @@
+// The outlines of texts, made once for each text.
+#pragma once
+
+#include <QPainterPath>
+#include <QString>
+
+namespace workbench {
+
+// At a letter height of 1, from the origin to the right, y upwards.
+struct Letters {
+    QPainterPath outline;
+    double width = 0;
+};
+
+const Letters& lettersOf(const QString& text);
+
+} // namespace workbench

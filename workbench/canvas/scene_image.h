@@ -1,0 +1,34 @@
+// The picture of a drawing as it was last painted, so that the cursor may move over it without painting it
+// anew.
+#pragma once
+
+#include "workbench/canvas/display_list.h"
+#include "workbench/canvas/view.h"
+
+#include <QColor>
+#include <QPixmap>
+
+namespace workbench {
+
+// Black or white, whatever is better seen on the colour.
+QColor contrastOf(const QColor& background);
+
+class SceneImage {
+public:
+    void setBackground(const QColor& color);
+    void forget() { isCurrent = false; } // the drawing is different from before
+    // The picture of the view, for a screen of `ratio` device pixels for each pixel. A view that was only
+    // moved has its new borders painted alone.
+    const QPixmap& of(const DisplayList& list, const View& view, double ratio);
+
+private:
+    bool movedTo(const DisplayList& list, const View& view);
+    void paint(const DisplayList& list, const QRect& part);
+
+    QPixmap image;
+    View painted;
+    QColor background = Qt::black;
+    bool isCurrent = false;
+};
+
+} // namespace workbench

@@ -1,0 +1,63 @@
+#include "workbench/canvas/shape.h"
+
+#include "workbench/canvas/letters.h"
+
+#include <cmath>
+
+namespace workbench {
+
+namespace {
+
+QPointF arcPoint(const Shape& arc, double angle) {
+    return arc.points[0] + arc.points[1] * std::cos(angle) + arc.points[2] * std::sin(angle);
+}
+
+// The ends, and the places in between where the arc turns back along one of the axes.
+Box boxOfArc(const Shape& arc) {
+    const double start = arc.points[3].x(), sweep = arc.points[3].y();
+    Box box = boxOf(arcPoint(arc, start), arcPoint(arc, start + sweep));
+    for (const double turn :
+         {std::atan2(arc.points[2].x(), arc.points[1].x()), std::atan2(arc.points[2].y(), arc.points[1].y())})
+        for (int half = 0; half < 2; ++half) {
+            const double angle = turn + half * M_PI;
+            const double behind = std::fmod(std::fmod(angle - start, 2 * M_PI) + 2 * M_PI, 2 * M_PI);
+            if (behind <= sweep)
+                box.add(arcPoint(arc, angle));
+        }
+    return box;
+}
+
+} // namespace
+
+std::vector<QPointF> arcPoints(const Shape& arc, double scale) {
+    const double radius = std::max(std::hypot(arc.points[1].x(), arc.points[1].y()),
+                                   std::hypot(arc.points[2].x(), arc.points[2].y())) *
+                          scale;
+    const double start = arc.points[3].x(), sweep = arc.points[3].y();
+    // A chord stays within a quarter of a pixel of its arc.
+    const double step = radius > 1 ? 2 * std::acos(1 - 0.25 / radius) : M_PI / 2;
+    const int count = static_cast<int>(std::clamp(std::ceil(sweep / step), 4.0, 4000.0));
+    std::vector<QPointF> points;
+    points.reserve(static_cast<std::size_t>(count) + 1);
+    for (int i = 0; i <= count; ++i)
+        points.push_back(arcPoint(arc, start + sweep * i / count));
+    return points;
+}
+
+std::vector<QPointF> textCorners(const Shape& text) {
+    const double width = lettersOf(text.text).width;
+    const QPointF along = text.points[1] * width, up = text.points[2];
+    const QPointF corner = text.points[0] - along * text.points[3].x() - up * text.points[3].y();
+    return {corner, corner + along, corner + along + up, corner + up};
+}
+
+Box boxOf(const Shape& shape) {
+    if (shape.kind == Shape::Arc)
+        return boxOfArc(shape);
+    Box box;
+    for (const QPointF& point : shape.kind == Shape::Text ? textCorners(shape) : shape.points)
+        box.add(point);
+    return box;
+}
+
+} // namespace workbench

@@ -1,0 +1,79 @@
+#include "workbench/canvas/spatial_index.h"
+
+namespace workbench {
+
+namespace {
+
+const int deepest = 20;
+
+} // namespace
+
+SpatialIndex::SpatialIndex(const Box& area) {
+    const Box whole = area.isEmpty() ? Box{0, 0, 1, 1} : area;
+    const double side = std::max({whole.width(), whole.height(), 1e-6});
+    nodes.push_back(
+        {{whole.left, whole.bottom, whole.left + side, whole.bottom + side}, {{-1, -1, -1, -1}}, {}});
+}
+
+Box SpatialIndex::quarterOf(const Box& area, int quarter) {
+    const QPointF middle = area.center();
+    return {quarter & 1 ? middle.x() : area.left, quarter & 2 ? middle.y() : area.bottom,
+            quarter & 1 ? area.right : middle.x(), quarter & 2 ? area.top : middle.y()};
+}
+
+Box SpatialIndex::reachOf(const Box& area) { return area.grown(area.width() / 2); }
+
+// The node that the box belongs to; -1 when it lies outside, or has no node as yet and none is to be made.
+int SpatialIndex::nodeFor(const Box& box, bool create) {
+    if (!reachOf(nodes[0].area).contains(box) || !nodes[0].area.contains(box.center()))
+        return -1;
+    const double size = std::max(box.width(), box.height());
+    int node = 0;
+    for (int depth = 0; depth < deepest; ++depth) {
+        const Box area = nodes[static_cast<std::size_t>(node)].area;
+        if (size > area.width() / 2)
+            break;
+        const QPointF middle = area.center();
+        const int quarter = (box.center().x() > middle.x() ? 1 : 0) | (box.center().y() > middle.y() ? 2 : 0);
+        int next = nodes[static_cast<std::size_t>(node)].quarters[static_cast<std::size_t>(quarter)];
+        if (next < 0) {
+            if (!create)
+                return -1;
+            next = static_cast<int>(nodes.size());
+            nodes.push_back({quarterOf(area, quarter), {{-1, -1, -1, -1}}, {}});
+            nodes[static_cast<std::size_t>(node)].quarters[static_cast<std::size_t>(quarter)] = next;
+        }
+        node = next;
+    }
+    return node;
+}
+
+void SpatialIndex::insert(int item, const Box& box) {
+    const int node = nodeFor(box, true);
+    (node < 0 ? outside : nodes[static_cast<std::size_t>(node)].items).push_back(item);
+}
+
+void SpatialIndex::remove(int item, const Box& box) {
+    const int node = nodeFor(box, false);
+    std::vector<int>& items = node < 0 ? outside : nodes[static_cast<std::size_t>(node)].items;
+    items.erase(std::remove(items.begin(), items.end(), item), items.end());
+}
+
+void SpatialIndex::visit(const Box& box, const std::function<void(int item)>& visitor) const {
+    for (const int item : outside)
+        visitor(item);
+    std::vector<int> open{0};
+    while (!open.empty()) {
+        const Node& node = nodes[static_cast<std::size_t>(open.back())];
+        open.pop_back();
+        if (!reachOf(node.area).intersects(box))
+            continue;
+        for (const int item : node.items)
+            visitor(item);
+        for (const int quarter : node.quarters)
+            if (quarter >= 0)
+                open.push_back(quarter);
+    }
+}
+
+} // namespace workbench

@@ -1,0 +1,24 @@
+// Saving and closing drawings so that nothing is lost unasked; for the commands and for closing the window.
+#pragma once
+
+namespace standin {
+class Document;
+class DocumentManager;
+} // namespace standin
+
+namespace workbench {
+
+class FileQuestions;
+
+// Whether it was saved; false when the user cancels. Throws OdError.
+bool saveDrawing(standin::DocumentManager& documents, standin::Document& document,
+                 const FileQuestions& files);
+bool saveDrawingAs(standin::DocumentManager& documents, standin::Document& document,
+                   const FileQuestions& files);
+
+// Saves or gives up the changes as the user says; false when the drawing is to stay open.
+bool settleChanges(standin::DocumentManager& documents, standin::Document& document,
+                   const FileQuestions& files);
+bool settleAllChanges(standin::DocumentManager& documents, const FileQuestions& files);
+
+} // namespace workbench

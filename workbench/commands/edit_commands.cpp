@@ -1,0 +1,74 @@
+// Commands that take changes back, select objects and tell about them.
+#include "workbench/commands/commands.h"
+
+#include "sdk/db/database.h"
+#include "standin/console/command_loop.h"
+#include "standin/console/console.h"
+#include "standin/documents/document_manager.h"
+#include "standin/selection/editor_selection.h"
+#include "workbench/commands/object_text.h"
+
+#include <QCoreApplication>
+
+using namespace standin;
+
+namespace workbench {
+
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("EditCommands", text); }
+
+void undo(const CommandScope& scope) {
+    if (!scope.documents.currentOne()->database()->undo())
+        scope.console.print(tr("There is nothing to undo."));
+    HostUpdateDisplay();
+}
+
+void redo(const CommandScope& scope) {
+    if (!scope.documents.currentOne()->database()->redo())
+        scope.console.print(tr("There is nothing to redo."));
+    HostUpdateDisplay();
+}
+
+// The prompt makes what it collects the selection.
+int selectObjects(const CommandScope& scope, hostSelectionSetPtr* set) {
+    return scope.documents.currentOne()->editor().selectObjects(
+        set, 0, tr("Select objects:").toStdWString().c_str(), nullptr, 0, 0, 0, 0, 0);
+}
+
+void select(const CommandScope& scope) {
+    hostSelectionSetPtr set;
+    selectObjects(scope, &set);
+}
+
+// What is selected already is taken without asking.
+void list(const CommandScope& scope) {
+    hostSelectionSetPtr set = scope.documents.currentOne()->editor().getSelection();
+    if ((set.isNull() || set->count() == 0) && selectObjects(scope, &set) != kInputPicked)
+        return;
+    OdDbObjectIdArray ids;
+    set->objectIds(ids);
+    for (const OdDbObjectId& id : ids)
+        for (const QString& line : objectText(id))
+            scope.console.print(line);
+}
+
+} // namespace
+
+void addEditCommands(const CommandScope& scope) {
+    scope.menus.addEntry({Menu::Edit, tr("&Undo"), "UNDO", "undo", QKeySequence::Undo});
+    scope.menus.addEntry({Menu::Edit, tr("&Redo"), "REDO", {}, QKeySequence(Qt::CTRL + Qt::Key_Y)});
+    scope.menus.addEntry({Menu::Edit, tr("Select &all"), "SELECT\nAll\n", {}, QKeySequence::SelectAll, true});
+    scope.menus.addEntry({Menu::Edit, tr("&List selected objects"), "LIST"});
+    scope.loop.add({"UNDO", tr("Takes the last command's changes back."), withDrawing(scope, undo)});
+    scope.loop.add({"REDO", tr("Does again what UNDO took back."), withDrawing(scope, redo)});
+    scope.loop.add({"SELECT", tr("Selects objects."), withDrawing(scope, select)});
+    scope.loop.add({"LIST", tr("Tells about the selected objects."), withDrawing(scope, list)});
+    DocumentManager& documents = scope.documents;
+    QObject::connect(&scope.loop, &CommandLoop::commandStarted, &documents, [&documents] {
+        if (Document* current = documents.currentOne())
+            current->database()->startUndoRecord();
+    });
+}
+
+} // namespace workbench

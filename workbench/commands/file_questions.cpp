@@ -1,0 +1,116 @@
+#include "workbench/commands/file_questions.h"
+
+#include "host/documents.h"
+#include "host/qt_ui_core.h"
+#include "host/text.h"
+#include "standin/console/console.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+using namespace standin;
+
+namespace workbench {
+
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("FileQuestions", text); }
+
+QString filter() { return tr("Drawings (*.dxf *.dwg);;All files (*)"); }
+
+// A name that was copied with its quotes is the name without them.
+QString absolutePath(QString name) {
+    name = name.trimmed();
+    if (name.size() > 1 && name.startsWith(QLatin1Char('"')) && name.endsWith(QLatin1Char('"')))
+        name = name.mid(1, name.size() - 2);
+    return QFileInfo(name).absoluteFilePath();
+}
+
+QString withSuffix(const QString& path) {
+    return QFileInfo(path).suffix().isEmpty() ? path + QStringLiteral(".dxf") : path;
+}
+
+} // namespace
+
+bool FileQuestions::asksOnConsole() const {
+    HostDocumentManager* documents = HostDocManager();
+    OdResBufPtr value;
+    const bool read = documents && documents->varService() &&
+                      documents->varService()->getVar(L"FILEDIA", &value, nullptr, 0) != kVarUnavailable;
+    return headless || (read && !value->getBool());
+}
+
+// An empty text when the answer was Enter.
+std::optional<QString> FileQuestions::typedFile(const QString& prompt) const {
+    OdString answer;
+    const int result = io.getInput(prompt.toStdWString().c_str(), nullptr, kAnyText, &answer, 0);
+    if (result == kInputNone)
+        return QString();
+    return result == kInputTyped ? std::optional<QString>(absolutePath(hostqt::qString(answer)))
+                                 : std::nullopt;
+}
+
+std::optional<QString> FileQuestions::fileToOpen() const {
+    if (asksOnConsole()) {
+        const auto typed = typedFile(tr("Enter name of drawing to open:"));
+        return typed && !typed->isEmpty() ? typed : std::nullopt;
+    }
+    const QString chosen = QFileDialog::getOpenFileName(host_qt_ui_core::parentForDialog(),
+                                                        tr("Open drawing"), QString(), filter());
+    return chosen.isEmpty() ? std::nullopt : std::optional<QString>(absolutePath(chosen));
+}
+
+std::optional<QString> FileQuestions::fileToSave(const QString& suggested, const QString& own) const {
+    if (!asksOnConsole()) {
+        const QString chosen = QFileDialog::getSaveFileName(host_qt_ui_core::parentForDialog(),
+                                                            tr("Save drawing as"), suggested, filter());
+        return chosen.isEmpty() ? std::nullopt : std::optional<QString>(withSuffix(absolutePath(chosen)));
+    }
+    const auto typed = typedFile(tr("Enter file name to save as <%1>:").arg(suggested));
+    if (!typed)
+        return std::nullopt;
+    const QString path = withSuffix(typed->isEmpty() ? absolutePath(suggested) : *typed);
+    const bool free = path == own || !QFileInfo::exists(path);
+    return free || mayReplace(path) ? std::optional<QString>(path) : std::nullopt;
+}
+
+bool FileQuestions::mayReplace(const QString& path) const {
+    const QString prompt = tr("%1 exists already. Replace it? [%2] <No>:").arg(path, QStringLiteral("%s"));
+    return io.getInput(prompt.toStdWString().c_str(), L"Yes No _ Yes No", 0, nullptr, 0) == kInputKeyword;
+}
+
+Unsaved FileQuestions::whatOfChanges(const QString& drawing) const {
+    if (!asksOnConsole())
+        return whatOfChangesByDialog(drawing);
+    const QString prompt = tr("Save changes to %1? [%2] <Yes>:").arg(drawing, QStringLiteral("%s"));
+    switch (io.getInput(prompt.toStdWString().c_str(), L"Yes No Cancel _ Yes No Cancel", 0, nullptr, 0)) {
+    case kInputNone:
+    case kInputKeyword:
+        return Unsaved::Save;
+    case kInputKeyword + 1:
+        return Unsaved::Discard;
+    default:
+        return Unsaved::Cancel;
+    }
+}
+
+Unsaved FileQuestions::whatOfChangesByDialog(const QString& drawing) const {
+    QMessageBox box(QMessageBox::Question, tr("Unsaved changes"), tr("Save changes to %1?").arg(drawing),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                    host_qt_ui_core::parentForDialog());
+    box.setObjectName(QStringLiteral("unsavedBox"));
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Save);
+    switch (box.exec()) {
+    case QMessageBox::Save:
+        return Unsaved::Save;
+    case QMessageBox::Discard:
+        return Unsaved::Discard;
+    default:
+        return Unsaved::Cancel;
+    }
+}
+
+} // namespace workbench

@@ -1,0 +1,37 @@
+// What the commands about drawings ask the user: files and unsaved changes, by dialogs or on the console.
+#pragma once
+
+#include <QString>
+#include <optional>
+
+namespace standin {
+class Console;
+}
+
+namespace workbench {
+
+enum class Unsaved { Save, Discard, Cancel };
+
+class FileQuestions {
+public:
+    // `consoleOnly`: nobody is there to answer a dialog.
+    FileQuestions(standin::Console& console, bool consoleOnly) : io(console), headless(consoleOnly) {}
+
+    // Absolute paths; nothing when the user cancels.
+    std::optional<QString> fileToOpen() const;
+    // `suggested` is what Enter takes. A file that exists is only given back when it may be replaced; the one
+    // named `own` may be.
+    std::optional<QString> fileToSave(const QString& suggested, const QString& own) const;
+    Unsaved whatOfChanges(const QString& drawing) const;
+
+private:
+    Unsaved whatOfChangesByDialog(const QString& drawing) const;
+    bool asksOnConsole() const; // headless, or FILEDIA is 0
+    std::optional<QString> typedFile(const QString& prompt) const;
+    bool mayReplace(const QString& path) const;
+
+    standin::Console& io;
+    const bool headless;
+};
+
+} // namespace workbench
