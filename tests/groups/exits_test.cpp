@@ -1,171 +1,127 @@
 // Drives each command to each of its exits: every flow is cancelled at every one of its prompts and then run
 // to its end.
-#include "groups/command_line_create.h"
-#include "groups/command_line_edit.h"
-#include "groups/command_line_from_selection.h"
-#include "groups/command_line_remove_object.h"
-#include "groups/command_line_ungroup.h"
-#include "groups/command_line_unified.h"
+#include "tests/groups/dialog_user.h"
+#include "tests/groups/exits_table.h"
 #include "tests/groups/group_fixture.h"
+#include "tests/groups/scripted_step.h"
 
-#include <algorithm>
-#include <ostream>
+#include <gmock/gmock.h>
 
-namespace {
-
-struct Verdict {
-    int result;
-    int status;
-};
-
-struct Flow {
-    const char* name;
-    Ref<CGroupCmd> (*make)();
-    std::vector<ScriptedAnswer> answers; // one for each prompt
-    Verdict atEnd;
-    bool changesDrawing;
-    std::vector<int> selected = {};
-    // The answers whose prompt is the list's own text input: a cancel there goes on with the next prompt.
-    std::vector<std::size_t> textInputs = {};
-    bool cancelTouchesStatus = true;
-};
-
-void PrintTo(const Flow& flow, std::ostream* out) { *out << flow.name; }
-
-template <class Command> Ref<CGroupCmd> maker() {
-    return Ref<CGroupCmd>::share(static_cast<CGroupCmd*>(new Command));
-}
-
-constexpr auto unified = maker<CCommandLineGroupUnified>;
-constexpr auto edit = maker<CCommandLineGroupEdit>;
-
-std::vector<Flow> flows() {
-    return {
-        {"UnifiedList", unified, {keyword(0), enter(), typed(L"x")}, {1, 1}, false, {}, {1}},
-        {"OrderToTheEnd",
-         unified,
-         {keyword(1), typed(L"FIVE"), typed(L"3"), typed(L"1"), typed(L"2")},
-         {0, 0},
-         true},
-        {"OrderWithWrongNumbers",
-         unified,
-         {keyword(1), typed(L"none"), typed(L"FIVE"), typed(L"9"), typed(L"0"), typed(L"9"), typed(L"4"),
-          typed(L"9"), typed(L"1")},
-         {0, 0},
-         true},
-        {"OrderReverse", unified, {keyword(1), typed(L"FIVE"), keyword(0)}, {0, 0}, true},
-        {"OrderOfOne", unified, {keyword(1), typed(L"ONE")}, {0, 0}, false},
-        {"Add", unified, {keyword(2), keyword(0), enter(), typed(L"FIVE")}, {0, 2}, false, {}, {2}},
-        {"Remove", unified, {keyword(3), typed(L"FIVE")}, {0, 0}, false},
-        {"RemoveSelected", unified, {keyword(3), typed(L"FIVE")}, {0, 0}, true, {1, 2}},
-        {"Explode", unified, {keyword(4), typed(L"FIVE")}, {0, 0}, true},
-        {"Rename",
-         unified,
-         {keyword(5), typed(L"FIVE"), keyword(0), enter(), enter(), typed(L"NEW")},
-         {0, 0},
-         true,
-         {},
-         {3}},
-        {"RenameToATakenName", unified, {keyword(5), typed(L"FIVE"), typed(L"ONE")}, {2, 2}, false},
-        {"SelectableYes", unified, {keyword(6), typed(L"FIVE"), keyword(0)}, {0, 0}, true},
-        {"SelectableNo", unified, {keyword(6), typed(L"FIVE"), keyword(1)}, {0, 0}, false},
-        {"CreateNew",
-         unified,
-         {keyword(7), keyword(0), enter(), typed(L"A B"), typed(L"NEW"), typed(L"text")},
-         {0, 2},
-         false,
-         {},
-         {2}},
-        {"CreateByEnter", unified, {enter(), enter()}, {0, 0}, false},
-        {"CreateKnownNo",
-         unified,
-         {keyword(7), typed(L"ONE"), keyword(0), typed(L"?"), keyword(1)},
-         {0, 0},
-         false},
-        {"EditAdd", edit, {picked({}), keyword(0)}, {0, 2}, false},
-        {"EditRemove", edit, {picked({}), keyword(1)}, {0, 0}, false},
-        {"EditRename",
-         edit,
-         {picked({}), keyword(2), keyword(0), enter(), typed(L"NEW")},
-         {0, 0},
-         true,
-         {},
-         {3}},
-        {"EditOtherReply", edit, {picked({}), keyword(7)}, {0, 0}, false},
-        {"RemoveObject",
-         maker<CCommandLineGroupRemoveObject>,
-         {typed(L"none"), enter(), typed(L"FIVE")},
-         {0, 0},
-         true,
-         {1},
-         {},
-         false},
-        {"Create", maker<CCommandLineGroupCreate>, {}, {0, 2}, false, {1}},
-        {"Ungroup", maker<CCommandLineGroupUngroup>, {}, {0, 2}, false, {1}},
-        {"FromSelection", maker<CCommandLineGroupFromSelection>, {}, {0, 0}, true, {1}},
-    };
-}
-
-} // namespace
+using testing::ElementsAreArray;
 
 class CommandExits : public GroupTest, public testing::WithParamInterface<Flow> {
 protected:
     CommandExits() {
+        addLine();
         addGroup(L"FIVE", pick({0, 1, 2, 3, 4}));
         addGroup(L"ONE", pick({5}));
         setPickStyle(0);
-        selection.select(pick(GetParam().selected));
+        selection.select(pick(flow.selected));
+        selection.ignoresNewSets = flow.keepsSelection;
+        if (flow.hasStep)
+            static_cast<standin::ServiceHub*>(host.application())
+                ->add(Ref<ScriptedStep>::share(new ScriptedStep(io, host.vars)));
     }
     Verdict runWith(std::size_t answerCount) {
         for (std::size_t i = 0; i < answerCount; ++i) {
-            ScriptedAnswer next = GetParam().answers[i];
-            if (next.code == kInputPicked)
-                next.objects = pick({0});
+            ScriptedAnswer next = flow.steps[i].answer;
+            next.objects = pick(flow.steps[i].picks);
             io.answer(next);
         }
-        const Ref<CGroupCmd> command = GetParam().make();
+        const Ref<CGroupCmd> command = flow.make();
         const int result = command->Run(nullptr);
         return {result, command->getStatus()};
     }
-    bool isTextInput(std::size_t prompt) const {
-        const auto& list = GetParam().textInputs;
-        return std::find(list.begin(), list.end(), prompt) != list.end();
+    Verdict runToTheEnd() {
+        DialogUser user;
+        if (flow.boxTitle)
+            user.then([this](QDialog& dialog) {
+                auto& box = dynamic_cast<QMessageBox&>(dialog);
+                EXPECT_EQ(box.windowTitle(), QLatin1String(flow.boxTitle));
+                box.button(flow.boxButton)->click();
+            });
+        const Verdict verdict = runWith(flow.steps.size());
+        EXPECT_TRUE(user.finished());
+        return verdict;
     }
+    // The prompts that a cancel at this step shows, and all that it prints.
+    std::vector<OdString> promptsUpTo(std::size_t last) const {
+        std::vector<OdString> texts;
+        for (std::size_t i = 0; i < flow.steps.size() && i <= last; ++i)
+            if (flow.steps[i].prompt)
+                texts.emplace_back(flow.steps[i].prompt);
+        return texts;
+    }
+    std::vector<OdString> printedUpTo(std::size_t last) const {
+        std::vector<OdString> texts;
+        for (std::size_t i = 0; i < flow.steps.size() && i <= last; ++i)
+            texts.insert(texts.end(), flow.steps[i].printedBefore.begin(), flow.steps[i].printedBefore.end());
+        return texts;
+    }
+    std::vector<OdString> askedTexts() const {
+        std::vector<OdString> texts;
+        for (const AskedPrompt& asked : io.prompts)
+            texts.push_back(asked.text);
+        return texts;
+    }
+    std::wstring groupsText() const {
+        const std::wstring all = summary();
+        return all.substr(0, all.find(L"highlighted:"));
+    }
+    void cancelAt(std::size_t at) {
+        io.unanswered = 0;
+        io.prompts.clear();
+        io.printed.clear();
+        selection.select(pick(flow.selected));
+        const ExitStep& step = flow.steps[at];
+        const bool goesOn = step.cancel != ExitStep::kEnds;
+        const Verdict verdict = runWith(at);
+        EXPECT_TRUE(io.allTaken());
+        EXPECT_EQ(io.unanswered, goesOn ? 2 : 1);
+        EXPECT_EQ(verdict.result, step.afterCancel.result);
+        EXPECT_EQ(verdict.status, step.afterCancel.status);
+        EXPECT_THAT(askedTexts(), ElementsAreArray(promptsUpTo(goesOn ? at + 1 : at)));
+        std::vector<OdString> printed = printedUpTo(at);
+        if (step.cancel == ExitStep::kGoesOnWithAMessage)
+            printed.emplace_back(L"[HelpGroupName] getInputText() returned false or canceled.");
+        EXPECT_THAT(io.printed, ElementsAreArray(printed));
+        selection.select(pick(flow.selected));
+    }
+    const Flow& flow = GetParam();
 };
 
 TEST_P(CommandExits, CancelAtEveryPromptEndsTheRunAndChangesNothing) {
-    const Flow& flow = GetParam();
     const std::wstring before = summary();
-    for (std::size_t prompt = 0; prompt < flow.answers.size(); ++prompt) {
-        io.unanswered = 0;
-        selection.select(pick(flow.selected));
-        const Verdict verdict = runWith(prompt);
-        EXPECT_TRUE(io.allTaken()) << flow.name << " at prompt " << prompt;
-        EXPECT_EQ(io.unanswered, isTextInput(prompt) ? 2 : 1) << flow.name << " at prompt " << prompt;
-        EXPECT_EQ(verdict.result, 1) << flow.name << " at prompt " << prompt;
-        EXPECT_EQ(verdict.status, flow.cancelTouchesStatus ? 1 : 0) << flow.name << " at prompt " << prompt;
-        selection.select(pick(flow.selected));
-        EXPECT_EQ(summary(), before) << flow.name << " at prompt " << prompt;
+    for (std::size_t at = 0; at < flow.steps.size(); ++at) {
+        SCOPED_TRACE("cancelled at prompt " + std::to_string(at));
+        cancelAt(at);
+        EXPECT_EQ(summary(), before);
     }
 }
 
-TEST_P(CommandExits, RunToTheEndHasItsResultItsStatusAndNoOpenTransaction) {
-    const Flow& flow = GetParam();
-    const Verdict verdict = runWith(flow.answers.size());
+TEST_P(CommandExits, RunToTheEndHasItsTextsItsResultItsStatusItsGroupsAndNoOpenTransaction) {
+    const std::wstring before = groupsText();
+    const Verdict verdict = runToTheEnd();
     EXPECT_TRUE(io.allTaken());
     EXPECT_EQ(io.unanswered, 0);
     EXPECT_EQ(verdict.result, flow.atEnd.result);
     EXPECT_EQ(verdict.status, flow.atEnd.status);
+    EXPECT_THAT(askedTexts(), ElementsAreArray(promptsUpTo(flow.steps.size())));
+    std::vector<OdString> printed = printedUpTo(flow.steps.size());
+    printed.insert(printed.end(), flow.printedAtEnd.begin(), flow.printedAtEnd.end());
+    EXPECT_THAT(io.printed, ElementsAreArray(printed));
+    EXPECT_EQ(groupsText(), flow.groupsAtEnd ? flow.groupsAtEnd : before);
+    EXPECT_THAT(highlightedLines(), ElementsAreArray(flow.highlightedAtEnd));
     EXPECT_EQ(database->numActiveTransactions(), 0);
 }
 
 TEST_P(CommandExits, UndoAndRedoRestoreTheDrawingTagForTag) {
     database->startUndoRecord();
     const std::string before = drawingText();
-    runWith(GetParam().answers.size());
+    runToTheEnd();
     const std::string after = drawingText();
-    EXPECT_EQ(before != after, GetParam().changesDrawing);
-    if (!GetParam().changesDrawing)
+    EXPECT_EQ(before != after, flow.groupsAtEnd != nullptr);
+    if (!flow.groupsAtEnd)
         return;
     EXPECT_TRUE(database->undo());
     EXPECT_TRUE(drawingText() == before);
@@ -173,5 +129,5 @@ TEST_P(CommandExits, UndoAndRedoRestoreTheDrawingTagForTag) {
     EXPECT_TRUE(drawingText() == after);
 }
 
-INSTANTIATE_TEST_SUITE_P(Flows, CommandExits, testing::ValuesIn(flows()),
+INSTANTIATE_TEST_SUITE_P(Flows, CommandExits, testing::ValuesIn(flowsOfGroupCommands()),
                          [](const auto& flowInfo) { return flowInfo.param.name; });

@@ -3,9 +3,9 @@
 #include "groups/command_line_edit.h"
 #include "groups/command_line_ungroup.h"
 #include "groups/command_line_unified.h"
-#include "host/group_selection_step.h"
 #include "tests/groups/dialog_user.h"
 #include "tests/groups/group_fixture.h"
+#include "tests/groups/scripted_step.h"
 
 #include <QLineEdit>
 #include <QListWidget>
@@ -14,30 +14,6 @@
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-// Answers out of the queue of the console, and tidies up as a host's step does.
-class ScriptedStep : public CKWUnknownImpl<IGroupSelectionStep> {
-public:
-    ScriptedStep(ScriptedIO& console, FixtureVars& variables) : io(console), vars(variables) {}
-    int selectObjects(HostEditorSelection&, const GroupSelectionRequest& request,
-                      hostSelectionSet& result) override {
-        requests.push_back(request);
-        const ScriptedAnswer given = io.take();
-        io.noteAnswer({request.prompt, request.keywords, 0}, given);
-        for (const OdDbObjectId& id : given.objects)
-            result.append(id);
-        for (const OdDbObjectId id : request.highlightedIds)
-            odrxCast<OdDbEntity>(id.safeOpenObject())->highlight(false);
-        if (request.pickStyleCleared)
-            vars.set("PICKSTYLE", request.formerPickStyle);
-        return given.code;
-    }
-    std::vector<GroupSelectionRequest> requests;
-
-private:
-    ScriptedIO& io;
-    FixtureVars& vars;
-};
 
 class WithStep : public GroupTest {
 protected:
