@@ -43,10 +43,11 @@ public:
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:
-    ConsoleExtension consoleExtension;
-    ApplicationServices applicationServices;
+    // Before the children, whose construction already sends events.
     bool running = false;
     int depth = 0; // of notify
+    ConsoleExtension consoleExtension;
+    ApplicationServices applicationServices;
 };
 
 } // namespace standin
