@@ -39,13 +39,16 @@ protected:
     QTemporaryDir folder;
 };
 
-// Run in a child process that has given up its rights: who may do everything sees no file as read-only.
-[[noreturn]] void exitTellingWhetherReadOnlyAlone(const QString& path) {
+// Run in a child process that has given up its rights: who may do everything sees no file as read-only. The
+// status is 0 when nothing is ticked, 1 for "Read Only" alone, 2 for anything else.
+[[noreturn]] void exitTellingWhatIsTicked(const QString& path) {
     if (geteuid() == 0 && setuid(65534) != 0)
-        _exit(2);
+        _exit(3);
     const GeneralTab tab{QFileInfo(path)};
     const auto ticked = [&tab](const char* name) { return tab.findChild<QCheckBox*>(name)->isChecked(); };
-    _exit(ticked("readOnlyCheck") && !ticked("hiddenCheck") && !ticked("archiveCheck") ? 0 : 1);
+    if (ticked("hiddenCheck") || ticked("archiveCheck") || ticked("systemCheck"))
+        _exit(2);
+    _exit(ticked("readOnlyCheck") ? 1 : 0);
 }
 
 } // namespace
@@ -93,6 +96,26 @@ TEST_F(GeneralPage, ShowsTheFactsOfTheFile) {
     EXPECT_EQ(dialog.control<QLabel>("iconLabel")->pixmap(Qt::ReturnByValue).isNull(), false);
 }
 
+TEST_F(GeneralPage, KindIsAskedOfTheBareNameAndNotOfTheContents) {
+    const QString path = folder.filePath("house");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("%PDF-1.4\n");
+    file.close();
+    drawing->setFilename(OdString(path.toStdWString()));
+    ASSERT_NE(GeneralTab::formatFileType(path), GeneralTab::formatFileType("house"));
+    EXPECT_EQ(label(OpenProperties(), "typeLabel"), GeneralTab::formatFileType("house"));
+}
+
+TEST_F(GeneralPage, LocationIsTheRealFolderBehindALink) {
+    ASSERT_TRUE(QDir(folder.path()).mkpath("real"));
+    ASSERT_TRUE(QFile::link(folder.filePath("real"), folder.filePath("link")));
+    useFile("link/house.txt");
+    const OpenProperties dialog;
+    EXPECT_EQ(dialog.control<QLabel>("locationLabel")->toolTip(),
+              QDir(folder.filePath("real")).canonicalPath());
+}
+
 TEST_F(GeneralPage, DatesAreTheDrawingsAndNotTheFiles) {
     useFile("house.txt");
     const OpenProperties dialog;
@@ -116,6 +139,7 @@ TEST_F(GeneralPage, LocationIsElidedOnResizeWithTheWholePathInTheToolTip) {
     const QString whole = QFileInfo(path).canonicalPath();
     const auto* location = dialog.control<QLabel>("locationLabel");
     EXPECT_EQ(location->toolTip(), whole);
+    EXPECT_EQ(location->sizePolicy(), QSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed));
     EXPECT_TRUE(location->text().endsWith(QChar(0x2026))) << location->text().toStdString();
     const QString narrow = location->text();
     dialog.resize(4000, dialog.height());
@@ -150,7 +174,14 @@ TEST_F(GeneralPage, ReadOnlyIsTickedForAFileMadeReadOnly) {
     const QString path = useFile("house.txt");
     ASSERT_EQ(chmod(path.toLocal8Bit(), 0444), 0);
     ASSERT_EQ(chmod(folder.path().toLocal8Bit(), 0755), 0);
-    EXPECT_EXIT(exitTellingWhetherReadOnlyAlone(path), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(exitTellingWhatIsTicked(path), testing::ExitedWithCode(1), "");
+}
+
+TEST_F(GeneralPage, ReadOnlyIsNotTickedForAFileThatMayNotEvenBeRead) {
+    const QString path = useFile("house.txt");
+    ASSERT_EQ(chmod(path.toLocal8Bit(), 0), 0);
+    ASSERT_EQ(chmod(folder.path().toLocal8Bit(), 0755), 0);
+    EXPECT_EXIT(exitTellingWhatIsTicked(path), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(GeneralPage, AttributesStandInTwoByTwo) {
@@ -176,9 +207,14 @@ TEST_F(GeneralPage, RowsAndSpacersStandInTheirPlaces) {
                                                 {9, "Attributes:"}};
     for (const auto& [row, text] : rows)
         EXPECT_EQ(qobject_cast<QLabel*>(grid->itemAtPosition(row, 0)->widget())->text(), QLatin1String(text));
-    for (const int row : {0, 4, 8})
-        EXPECT_EQ(grid->itemAtPosition(row, 1)->spacerItem()->sizeHint(), QSize(40, 20));
-    EXPECT_EQ(grid->itemAtPosition(10, 1)->spacerItem()->sizeHint(), QSize(20, 40));
+    for (const int row : {0, 4, 8}) {
+        const QSpacerItem* spacer = grid->itemAtPosition(row, 1)->spacerItem();
+        EXPECT_EQ(spacer->sizeHint(), QSize(40, 20));
+        EXPECT_EQ(spacer->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed));
+    }
+    const QSpacerItem* last = grid->itemAtPosition(10, 1)->spacerItem();
+    EXPECT_EQ(last->sizeHint(), QSize(20, 40));
+    EXPECT_EQ(last->sizePolicy(), QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding));
     EXPECT_EQ(grid->rowStretch(2), 1);
 }
 
