@@ -1,3 +1,4 @@
+// One run of the attach command: files, dialog, and what is kept of it.
 #include "xref/attach_command.h"
 
 #include "host/modal_runner.h"

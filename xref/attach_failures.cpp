@@ -1,3 +1,4 @@
+// Which error is told in which words.
 #include "xref/attach_failures.h"
 
 #include "xref/attach_host.h"

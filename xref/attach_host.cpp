@@ -1,3 +1,4 @@
+// The few questions that the attach command asks its host, each with an answer when there is no document.
 #include "xref/attach_host.h"
 
 #include "host/app.h"

@@ -1,3 +1,4 @@
+// The steps of one attach, from the check of the target space to the entry of the reference.
 #include "xref/attach_reference.h"
 
 #include "host/command_io.h"
@@ -46,6 +47,7 @@ bool refuseCircular(HostCommandIO* io, const QString& path) {
         return false;
     if (io)
         io->printFormatted(attach::word(L"Error: Possible circular reference to current drawing.").c_str());
+    reportToConsole(io, hostqt::odString(path));
     return true;
 }
 

@@ -1,3 +1,4 @@
+// Which characters a block name can hold, and how a taken one is numbered.
 #include "xref/block_name.h"
 
 #include <QFileInfo>

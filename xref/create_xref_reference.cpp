@@ -1,3 +1,4 @@
+// The search for a definition of the same file, the making of a new one, and the checks of what it refers to.
 #include "xref/create_xref_reference.h"
 
 #include "host/text.h"

@@ -1,3 +1,4 @@
+// The file dialog of the attach command, set up in the order that it is told.
 #include "xref/file_selection.h"
 
 #include "host/modal_runner.h"

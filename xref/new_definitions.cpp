@@ -1,3 +1,4 @@
+// The one list of new definitions, kept between the dialog and the attaching.
 #include "xref/new_definitions.h"
 
 #include <unordered_set>

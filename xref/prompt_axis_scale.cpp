@@ -1,3 +1,4 @@
+// What the answers to the prompts for Y and Z mean.
 #include "xref/prompt_axis_scale.h"
 
 #include "host/command_io.h"

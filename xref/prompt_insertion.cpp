@@ -1,3 +1,4 @@
+// The loop of the insertion prompt and what each of its keywords does.
 #include "xref/prompt_insertion.h"
 
 #include "host/command_io.h"

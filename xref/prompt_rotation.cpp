@@ -1,3 +1,4 @@
+// The loop of the rotation prompt.
 #include "xref/prompt_rotation.h"
 
 #include "host/command_io.h"

@@ -1,3 +1,4 @@
+// The scale prompt as a machine of three states: first answer, factors, opposite corner.
 #include "xref/prompt_scale.h"
 
 #include "host/command_io.h"

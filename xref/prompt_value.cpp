@@ -1,3 +1,4 @@
+// One loop for distances and angles, which differ in how text is read and the second point asked for.
 #include "xref/prompt_value.h"
 
 #include "host/command_io.h"

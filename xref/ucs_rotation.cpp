@@ -1,3 +1,4 @@
+// The X axis of the current coordinate system as seen in the plane of a reference.
 #include "xref/ucs_rotation.h"
 
 #include "xref/attach_host.h"

@@ -1,3 +1,4 @@
+// The ratio of two unit factors, safe against units without one.
 #include "xref/unit_ratio.h"
 
 #include <cmath>

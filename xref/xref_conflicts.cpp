@@ -1,3 +1,4 @@
+// The walk over the references of a candidate drawing.
 #include "xref/xref_conflicts.h"
 
 #include "host/command_io.h"

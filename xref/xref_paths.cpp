@@ -1,3 +1,4 @@
+// Where a reference was found, and the forms in which its path is saved.
 #include "xref/xref_paths.h"
 
 #include "host/app.h"

@@ -1,3 +1,4 @@
+// What the tracker hands to the host when a prompt opens and closes.
 #include "xref/xref_tracker.h"
 
 #include "xref/attach_host.h"

@@ -1,6 +1,7 @@
 // Attaches one drawing to another as the attach command does, for checks by another reader:
 // attach_tool SITE PART OVERLAY X Y SCALE ROTATION PATH_TYPE
 #include "sdk/db/xref_man.h"
+#include "standin/references/attach_services.h"
 #include "tests/support/fixture_host.h"
 #include "tests/support/test_application.h"
 #include "xref/attach_reference.h"
@@ -13,6 +14,8 @@ namespace {
 int attach(char** arguments) {
     const OdString site(arguments[1]), part(arguments[2]);
     FixtureHost host;
+    static_cast<standin::ServiceHub*>(host.application())
+        ->add(Ref<standin::AttachServices>::share(new standin::AttachServices));
     const OdDbDatabasePtr drawing = OdDbDatabase::readFile(site);
     host.openDocument(drawing).path = site;
     const bool attached =

@@ -75,6 +75,21 @@ class Attach(unittest.TestCase):
         doc = self.attach(site, part, path_type=2)
         self.assertEqual(doc.blocks.get("part").block.dxf.xref_path, "part.dxf")
 
+    def test_relative_path_counts_from_the_drawing(self):
+        (self.folder / "parts").mkdir()
+        site = self.drawing("site.dxf", "R2018", units.M)
+        part = self.drawing("parts/part.dxf", "R2018", units.M)
+        doc = self.attach(site, part, path_type=1)
+        self.assertEqual(doc.blocks.get("part").block.dxf.xref_path, "parts/part.dxf")
+
+    def test_names_of_any_characters_are_found_again(self):
+        site = self.drawing("site.dxf", "R2018", units.M)
+        part = self.drawing("a 'b' ä=1.dxf", "R2018", units.M)
+        doc = self.attach(site, part)
+        insert = doc.modelspace().query("INSERT").first
+        self.assertEqual(insert.dxf.name, "a 'b' ä_1")
+        self.assertEqual(doc.blocks.get(insert.dxf.name).block.dxf.xref_path, str(part))
+
     def test_second_attach_shares_the_block(self):
         site = self.drawing("site.dxf", "R2018", units.M)
         part = self.drawing("part.dxf", "R2018", units.M)

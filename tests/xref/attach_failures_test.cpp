@@ -5,6 +5,8 @@
 #include "xref/attach_reference.h"
 #include "xref/create_xref_reference.h"
 
+#include <unistd.h>
+
 namespace {
 
 class AttachFailures : public XRefTest {
@@ -40,6 +42,78 @@ TEST_F(AttachFailures, DirectoryIsNoFile) {
     QDir(folder.path()).mkdir("part.dxf");
     const QString path = inFolder("part.dxf");
     expectRefusal(path, {QStringLiteral("\"%1\" cannot be found.").arg(path)});
+}
+
+namespace {
+
+// A user that may not read everything: root lays its rights down for a while.
+class OrdinaryUser {
+public:
+    OrdinaryUser() : effective(geteuid()) {
+        if (effective == 0) {
+            EXPECT_EQ(seteuid(65534), 0);
+        }
+    }
+    ~OrdinaryUser() { EXPECT_EQ(seteuid(effective), 0); }
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+
+private:
+    uid_t effective;
+};
+
+} // namespace
+
+TEST_F(AttachFailures, FileThatMayNotBeReadIsToldWithItsPath) {
+    const QString path = write("secret.dxf");
+    QFile::setPermissions(folder.path(), QFile::ReadOther | QFile::ExeOther | QFile::ReadOwner |
+                                             QFile::WriteOwner | QFile::ExeOwner);
+    QFile::setPermissions(path, {});
+    const OrdinaryUser user;
+    expectRefusal(path, {QStringLiteral("\"%1\" cannot be found.").arg(path)});
+}
+
+TEST_F(AttachFailures, FileNameOf300CharactersIsToldLikeAMissingFile) {
+    const QString path = inFolder(QString(300, 'n') + ".dxf");
+    expectRefusal(path, {QStringLiteral("\"%1\" cannot be found.").arg(path)});
+}
+
+TEST_F(AttachFailures, DrawingsOwnBaseNameIsToldToTheServicesWithThePath) {
+    provideServices();
+    QDir(folder.path()).mkdir("other");
+    const QString path = write("other/site.dxf");
+    expectRefusal(path, {});
+    EXPECT_EQ(io.formatted, QStringList("Error: Possible circular reference to current drawing."));
+    EXPECT_EQ(services->reported, QStringList(path));
+}
+
+TEST_F(AttachFailures, BlockOfTheSameNameThatIsNoReferenceStaysBesideTheNewOne) {
+    addPlainBlock(L"part");
+    EXPECT_TRUE(attachFile(write("part.dxf")));
+    EXPECT_EQ(referenceNames(), QStringList("part_1"));
+    EXPECT_FALSE(block("part")->isFromExternalReference());
+}
+
+namespace {
+
+// No handle is given out twice, so the next one counts on when a definition was taken back.
+std::string withoutSeed(std::string bytes) {
+    const std::size_t value = bytes.find('\n', bytes.find("$HANDSEED") + 11) + 1;
+    return bytes.erase(value, bytes.find('\n', value) - value);
+}
+
+} // namespace
+
+TEST_F(AttachFailures, BadFileBesideTwoThousandReferencesLeavesThemAsTheyWere) {
+    for (int i = 0; i < 2000; ++i)
+        define(QStringLiteral("r%1").arg(i), inFolder(QStringLiteral("r%1.dxf").arg(i)));
+    before = withoutSeed(drawing->writeBytes());
+    EXPECT_FALSE(attachFile(writeBytes("bad.dxf", "x")));
+    EXPECT_EQ(noticeTexts(), QStringList(invalid));
+    EXPECT_TRUE(withoutSeed(drawing->writeBytes()) == before);
+    EXPECT_TRUE(attachFile(write("part.dxf")));
+    EXPECT_EQ(referenceNames().size(), 2001);
+    EXPECT_EQ(inserted().size(), 1u);
 }
 
 TEST_F(AttachFailures, EmptyFileIsNotValid) { expectRefusal(writeBytes("empty.dxf", ""), {invalid}); }
