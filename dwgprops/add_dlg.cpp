@@ -1,3 +1,4 @@
+// Two edits and two buttons in a column.
 #include "dwgprops/add_dlg.h"
 
 #include <QHBoxLayout>

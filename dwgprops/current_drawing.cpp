@@ -1,3 +1,4 @@
+// Asks the host for its current document each time, so that no pointer to it is kept.
 #include "dwgprops/current_drawing.h"
 
 #include "host/documents.h"

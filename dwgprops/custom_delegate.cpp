@@ -1,3 +1,4 @@
+// Catches the Tab key before the editor's own delegate moves on with it.
 #include "dwgprops/custom_delegate.h"
 
 #include <QKeyEvent>

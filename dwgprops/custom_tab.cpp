@@ -1,3 +1,4 @@
+// The table of custom properties: how it is filled, edited in its cells, and watched.
 #include "dwgprops/custom_tab.h"
 
 #include "dwgprops/custom_delegate.h"
@@ -132,6 +133,7 @@ void CustomTab::normaliseCell(int row, int column) {
     item->setText(column == 0 || !trimmed.isEmpty() ? trimmed : text);
 }
 
+// There is a named row, since an editor is open on one; none at all is not guarded against, on purpose.
 void CustomTab::editNextRow() {
     closeEditor();
     editingRow = (editingRow + 1) % countNamedRows(*table);

@@ -26,7 +26,7 @@ void CustomTab::onAdd() {
 }
 
 // The checks look at the untrimmed text, so a name with a blank before it passes beside the same name
-// without; both then read alike, and that is meant.
+// without; both then read alike, and that is meant. So are the commas without a blank around the name.
 void CustomTab::checkName(AddDlg& dialog) {
     const QString name = dialog.nameEdit->text();
     QString fault;

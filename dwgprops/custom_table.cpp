@@ -1,3 +1,4 @@
+// The keys of the table of custom properties, and what the tables of the dialog share.
 #include "dwgprops/custom_table.h"
 
 #include <QHeaderView>

@@ -1,3 +1,4 @@
+// One format for all dates of the dialog.
 #include "dwgprops/db_text.h"
 
 #include "host/text.h"

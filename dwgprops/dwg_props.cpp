@@ -1,3 +1,4 @@
+// How the dialog is put together, and what OK writes back.
 #include "dwgprops/dwg_props.h"
 
 #include "dwgprops/current_drawing.h"

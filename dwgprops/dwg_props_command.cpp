@@ -1,3 +1,4 @@
+// One transaction around one run of the dialog.
 #include "dwgprops/dwg_props_command.h"
 
 #include "dwgprops/current_drawing.h"

@@ -1,3 +1,4 @@
+// Shortens its text anew whenever its width changes.
 #include "dwgprops/elided_label.h"
 
 #include <QFontMetrics>

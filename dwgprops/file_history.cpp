@@ -1,3 +1,4 @@
+// The module's own history, which is empty, and the way to the one that is registered.
 #include "dwgprops/file_history.h"
 
 #include "sdk/db/database.h"

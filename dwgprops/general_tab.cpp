@@ -1,3 +1,4 @@
+// What is known of the drawing's file, from its picture down to its attributes.
 #include "dwgprops/general_tab.h"
 
 #include "dwgprops/current_drawing.h"

@@ -1,3 +1,4 @@
+// Reads the number of rows from the profile and the versions from the registered history.
 #include "dwgprops/history_tab.h"
 
 #include "dwgprops/current_drawing.h"

@@ -1,3 +1,4 @@
+// Both edits put the cursor back to the first character, each on its own occasion.
 #include "dwgprops/start_line_edit.h"
 
 // Meant to go past QLineEdit to QWidget.

@@ -1,3 +1,4 @@
+// Dates, names and the editing time of the drawing, in five rows.
 #include "dwgprops/statistic_tab.h"
 
 #include "dwgprops/db_text.h"

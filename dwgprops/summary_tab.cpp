@@ -1,3 +1,4 @@
+// Six labelled edits, filled from the summary record.
 #include "dwgprops/summary_tab.h"
 
 #include "dwgprops/db_text.h"

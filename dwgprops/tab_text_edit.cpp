@@ -1,3 +1,4 @@
+// The Tab key of the comment box.
 #include "dwgprops/tab_text_edit.h"
 
 #include <QKeyEvent>

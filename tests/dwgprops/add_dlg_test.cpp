@@ -126,6 +126,21 @@ TEST_F(AddProperty, ANameInUseFailsWithItsText) {
     expectRefusal("a%1", "The name,a%1, is already in use.\nYou will need to enter a different name.");
 }
 
+// As many rows count as have names, from the first row on, wherever the named ones stand.
+TEST_F(AddProperty, BehindARowWithoutANameTheLastNameIsNeitherComparedNorKept) {
+    setProperties({{"", "1"}, {"b", "2"}});
+    OpenProperties other(kCustom);
+    onNextDialog<AddDlg>([](AddDlg& add) {
+        add.nameEdit->setText("b");
+        QTest::mouseClick(add.okButton, Qt::LeftButton);
+        if (add.isVisible())
+            add.reject();
+    });
+    other.click("addButton");
+    EXPECT_TRUE(host.messages.empty());
+    EXPECT_EQ(shownProperties(*other.customTable()), (Properties{{"", "1"}, {"b", ""}}));
+}
+
 TEST_F(AddProperty, NamesAreComparedExactlyAndWithCase) {
     add("name", "1");
     add("Name", "2");
