@@ -39,9 +39,18 @@ OdDbDatabasePtr OdDbDatabase::readBytes(std::string bytes, const OdString& name)
 }
 
 OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path) {
+    const OdFileStamp stamp = odFileStamp(path);
     OdDbDatabasePtr database = readBytes(odReadFile(path), path);
     database->parts->filename = path;
+    database->parts->fileStamp = stamp;
     return database;
+}
+
+bool OdDbDatabase::isFileChangedByOthers() const {
+    if (parts->fileStamp == OdFileStamp())
+        return false;
+    const OdFileStamp present = odFileStamp(parts->filename);
+    return present != OdFileStamp() && present != parts->fileStamp;
 }
 
 const std::vector<OdString>& OdDbDatabase::readWarnings() const { return parts->warnings; }
@@ -52,6 +61,7 @@ void OdDbDatabase::writeFile(const OdString& path) {
     OdDbDrawingWriter writer(*parts);
     odWriteFile(path, writer.pieces());
     parts->filename = path;
+    parts->fileStamp = odFileStamp(path);
     parts->savedState = parts->log.state();
     parts->headerSaved();
 }
@@ -65,7 +75,12 @@ std::string OdDbDatabase::writeBytes() const {
 }
 
 OdString OdDbDatabase::getFilename() const { return parts->filename; }
-void OdDbDatabase::setFilename(const OdString& path) { parts->filename = path; }
+void OdDbDatabase::setFilename(const OdString& path) {
+    if (path != parts->filename)
+        parts->fileStamp = {};
+    parts->filename = path;
+}
+
 OdString OdDbDatabase::versionName() const {
     return OdString(L"AC") + OdString(std::to_wstring(parts->version));
 }

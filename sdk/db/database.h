@@ -35,6 +35,9 @@ public:
     // eFileWriteError with the reason. The drawing counts as unmodified afterwards and takes the name.
     void writeFile(const OdString& path);
     std::string writeBytes() const;
+    // Whether the file is no longer what was read from it or last written to it: ask before writing over it.
+    // False when it is gone.
+    bool isFileChangedByOthers() const;
     OdString getFilename() const; // empty for a drawing that was never saved
     void setFilename(const OdString& path);
     OdString versionName() const; // "AC1032" and so on

@@ -9,6 +9,7 @@
 #include "sdk/db/reactor.h"
 #include "sdk/db/stub.h"
 #include "sdk/dxf/codec.h"
+#include "sdk/rx/file_bytes.h"
 
 #include <chrono>
 #include <map>
@@ -59,8 +60,7 @@ public:
     DxfCodec codec;
     int version = kVersionR12;
     OdString filename;
-    std::pair<long long, long long>
-        fileStamp; // size and time of the file, of a drawing loaded as a reference
+    OdFileStamp fileStamp; // of the file when it was read or last written
     std::vector<OdString> warnings;
     OdDbHeader header;
     std::size_t headerStart = 0; // of the first variable in the header section's record

@@ -2,7 +2,6 @@
 
 #include "sdk/db/database_impl.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
@@ -51,14 +50,9 @@ void loadNested(OdDbDatabase& database) {
     }
 }
 
-// Size and time of a file: while both are the same, so is what was read from it.
-std::pair<long long, long long> stampOf(const QFileInfo& file) {
-    return {file.size(), file.lastModified().toMSecsSinceEpoch()};
-}
-
 bool isLoadedFrom(const OdDbBlockTableRecord& record, const QFileInfo& file) {
     const OdDbDatabasePtr loaded = record.xrefDatabase();
-    return !loaded.isNull() && loaded->impl().fileStamp == stampOf(file) &&
+    return !loaded.isNull() && loaded->impl().fileStamp == odFileStamp(od(file.filePath())) &&
            QFileInfo(qt(loaded->getFilename())).canonicalFilePath() == file.canonicalFilePath();
 }
 
@@ -70,9 +64,7 @@ OdResult loadFile(OdDbBlockTableRecord& record, const QFileInfo& file) {
     if (isLoadedFrom(record, file))
         return eOk;
     const LoadingFile guard(path);
-    const auto stamp = stampOf(file);
     OdDbDatabasePtr loaded = OdDbDatabase::readFile(od(file.absoluteFilePath()));
-    loaded->impl().fileStamp = stamp;
     loadNested(*loaded);
     const bool wasWritable = record.isWriteEnabled();
     record.upgradeOpen();

@@ -3,11 +3,21 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <sys/stat.h>
 
 namespace {
 
 OdString messageFor(const OdString& path, const QString& reason) {
     return path + OdString(L": ") + OdString(reason.toStdWString());
+}
+
+// Opening a pipe would wait for its other end.
+void refuseToRead(const OdString& path) {
+    const QFileInfo present(QString::fromStdWString(path.wide()));
+    if (present.isDir())
+        throw OdError(eCantOpenFile, messageFor(path, "is a directory"));
+    if (present.exists() && !present.isFile())
+        throw OdError(eCantOpenFile, messageFor(path, "is not a regular file"));
 }
 
 // A device or a pipe must never be replaced by a file.
@@ -19,10 +29,20 @@ void refuseSpecialFile(const OdString& path) {
 
 } // namespace
 
+OdFileStamp odFileStamp(const OdString& path) {
+    struct stat found {};
+    if (stat(QFile::encodeName(QString::fromStdWString(path.wide())).constData(), &found) != 0)
+        return {};
+    constexpr std::uint64_t second = 1000000000;
+    return {static_cast<std::uint64_t>(found.st_size),
+            static_cast<std::uint64_t>(found.st_mtim.tv_sec) * second +
+                static_cast<std::uint64_t>(found.st_mtim.tv_nsec),
+            static_cast<std::uint64_t>(found.st_ino)};
+}
+
 std::string odReadFile(const OdString& path) {
+    refuseToRead(path);
     QFile file(QString::fromStdWString(path.wide()));
-    if (QFileInfo(file).isDir())
-        throw OdError(eCantOpenFile, messageFor(path, "is a directory"));
     if (!file.open(QIODevice::ReadOnly))
         throw OdError(eCantOpenFile, messageFor(path, file.errorString()));
     std::string bytes(static_cast<std::size_t>(file.size()), '\0');
