@@ -68,6 +68,13 @@ TEST_F(AddProperty, TheEleventhPropertyAddsARow) {
     EXPECT_EQ(shown().size(), 11U);
 }
 
+TEST_F(AddProperty, APropertyAddedInTheSelectedBlankRowCanBeDeletedAtOnce) {
+    dialog.customTable()->selectRow(0);
+    EXPECT_FALSE(dialog.control<QWidget>("deleteButton")->isEnabled());
+    add("first", "1");
+    EXPECT_TRUE(dialog.control<QWidget>("deleteButton")->isEnabled());
+}
+
 TEST_F(AddProperty, CancelAddsNothing) {
     onNextDialog<AddDlg>([](AddDlg& add) {
         add.nameEdit->setText("name");

@@ -1,4 +1,5 @@
 // The History tab over a history of the test's own, and over the module's, which is empty.
+#include "dwgprops/custom_delegate.h"
 #include "dwgprops/file_history.h"
 #include "host/typed_reads.h"
 #include "tests/dwgprops/dialog_driver.h"
@@ -199,4 +200,5 @@ TEST_F(HistoryPage, TableIsSetUpAsTheCustomOneButTakesOneRow) {
     EXPECT_EQ(table.editTriggers(), QAbstractItemView::NoEditTriggers);
     EXPECT_EQ(table.focusPolicy(), Qt::NoFocus);
     EXPECT_FALSE(table.horizontalHeader()->sectionsClickable());
+    EXPECT_NE(qobject_cast<CustomDelegate*>(table.itemDelegate()), nullptr);
 }
