@@ -8,8 +8,6 @@
 #include "groups/selected_objects.h"
 #include "host/text.h"
 
-#include <QObject>
-
 int CCommandLineGroupEdit::enableQuery() { return selectionIsOneGroup(); }
 
 int CCommandLineGroupEdit::Run(IParam*) {
@@ -25,11 +23,10 @@ int CCommandLineGroupEdit::Run(IParam*) {
 
 bool CCommandLineGroupEdit::findGroup(const Scene& scene, Found& found) {
     for (;;) {
-        hostSelectionSetPtr selection;
-        if (!selectMember(scene, selection, found.name))
+        if (!selectMember(scene, found))
             return false;
         found.dictionary = openGroupDictionary(scene.database);
-        const OdDbObjectIdArray ids = idsOf(selection);
+        const OdDbObjectIdArray ids = idsOf(found.selection);
         if (ids.empty())
             found.group = groupByName(found.dictionary, found.name, OdDb::kForWrite);
         else if (!ids.front().isValid())
@@ -48,8 +45,8 @@ bool CCommandLineGroupEdit::findGroup(const Scene& scene, Found& found) {
 // "?" asks for a name, which counts when the next selection stays empty. The reply of that keyword is kept
 // while the prompt comes again: that is meant. The keyword Name ends the run like a cancel, and that is meant
 // too.
-bool CCommandLineGroupEdit::selectMember(const Scene& scene, hostSelectionSetPtr& selection, OdString& name) {
-    const QString keywords = QObject::tr("? Name _ ? Name");
+bool CCommandLineGroupEdit::selectMember(const Scene& scene, Found& found) {
+    const QString keywords = group_messages::selectGroupKeywords();
     const OdString keywordText = hostqt::odString(keywords);
     const OdString prompt = hostqt::odString(
         group_messages::selectGroupOr().arg(keywordBracket(keywordWordsHelpFirst(localKeywords(keywords)))));
@@ -57,12 +54,12 @@ bool CCommandLineGroupEdit::selectMember(const Scene& scene, hostSelectionSetPtr
     for (;;) {
         const hostSelectionSetPtr current = scene.editor->getSelection();
         if (!current.isNull() && current->count() != 0)
-            selection = current;
+            found.selection = current;
         else
-            reply = scene.editor->selectObjects(&selection, 0, prompt.c_str(), keywordText.c_str(),
+            reply = scene.editor->selectObjects(&found.selection, 0, prompt.c_str(), keywordText.c_str(),
                                                 kSelectGroupPrompt, 0, 0, 0, 0);
         if (reply != kInputKeyword)
             return reply == kInputPicked || reply == kInputNone;
-        askExistingGroupName(scene.io, scene.database, name);
+        askExistingGroupName(scene.io, scene.database, found.name);
     }
 }

@@ -9,14 +9,15 @@ public:
     int enableQuery() override;
 
 private:
-    // The group in hand.
+    // What a run has in hand.
     struct Found {
+        hostSelectionSetPtr selection; // of the search; what selectObjects leaves alone stays from before
         OdDbDictionaryPtr dictionary;
         OdDbGroupPtr group;
         OdString name;
     };
     bool findGroup(const Scene& scene, Found& found);
-    bool selectMember(const Scene& scene, hostSelectionSetPtr& selection, OdString& name);
+    bool selectMember(const Scene& scene, Found& found);
     int runOption(const Scene& scene, Found& found);
     int removeObjects(const Scene& scene, const Found& found, const OdDbObjectIdArray& members);
     int renameGroup(const Scene& scene, const Found& found, const OdDbObjectIdArray& members);

@@ -20,9 +20,10 @@ QString optionKeywords() { return QObject::tr("\"Add objects\" \"Remove objects\
 
 // The quoted keywords fall apart here: that is meant.
 QString optionPrompt(const QString& keywords) {
-    QString unquoted = keywords;
-    unquoted.remove(QLatin1Char('"'));
-    return group_messages::enterGroupOption().arg(keywordBracket(keywordWords(unquoted)));
+    QStringList words = keywordWords(keywords);
+    words.replaceInStrings(QStringLiteral("\""), QString());
+    words.removeDuplicates();
+    return group_messages::enterGroupOption().arg(keywordBracket(words));
 }
 
 } // namespace

@@ -66,7 +66,7 @@ int CCommandLineGroupRemoveObject::removeFrom(const OdDbDatabasePtr& database, G
     const OdDbObjectIdArray leaving = selectedMembers(editor, data.group);
     if (leaving.empty() || pickStyle != 0)
         return removeByPrompt(database, editor, data, false) == 0 ? 0 : 1;
-    if (!mayRemove(data.group, leaving.size(), name, QObject::tr("Warning"), QMessageBox::Cancel))
+    if (!mayRemove(data.group, leaving.size(), name, group_messages::warning(), QMessageBox::Cancel))
         return 1;
     const int count = removeOneByOne(database, data.group, leaving);
     printFormatted(*currentIO(), group_messages::removed(count, name));

@@ -10,8 +10,6 @@
 #include "groups/selection_step.h"
 #include "host/transaction_guard.h"
 
-#include <QObject>
-
 namespace {
 
 enum Keyword { kList = kInputKeyword, kName };
@@ -41,7 +39,7 @@ int CCommandLineGroupUngroup::Run(IParam*) {
         return end(1);
     status = 2;
     const Scene scene{currentDatabase(), *currentIO(), currentEditor()};
-    const QString keywords = QObject::tr("? Name _ ? Name");
+    const QString keywords = group_messages::selectGroupKeywords();
     GroupSelectionRequest request = selectionRequest(
         scene.database,
         group_messages::selectGroupOr().arg(keywordBracket(keywordWordsHelpFirst(localKeywords(keywords)))),

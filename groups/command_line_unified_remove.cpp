@@ -7,10 +7,8 @@
 #include "groups/removal.h"
 #include "groups/run_parameters.h"
 #include "groups/selected_objects.h"
-#include "groups/selection_step.h"
 #include "groups/system_variables.h"
 #include "host/text.h"
-#include "host/transaction_guard.h"
 
 #include <QObject>
 
@@ -39,7 +37,7 @@ int CCommandLineGroupUnified::removeFrom(const Scene& scene, const OdDbDictionar
         removeByPrompt(scene.database, scene.editor, data, false);
         return end(0);
     }
-    if (!mayRemove(data.group, leaving.size(), name, QObject::tr("Warning")))
+    if (!mayRemove(data.group, leaving.size(), name, group_messages::warning()))
         return end(1);
     removeInTransaction(scene.database, data.group, leaving);
     printFormatted(scene.io, group_messages::removed(static_cast<int>(leaving.size()), name));

@@ -24,6 +24,8 @@ template <class Control> Control* named(Control* control, const char* name) {
 void setUpTable(QTableWidget& table, const QStringList& headers);
 int firstSelectedRow(const QTableWidget& table); // -1 without a selection
 void scrollToRow(QTableWidget& table, int row);
+QString yesOrNo(bool yes);
+void showHelp(); // the topic of the group dialogs
 QHBoxLayout* centredRow(std::initializer_list<QPushButton*> buttons);
 
 // An id as the user data of a table item, and back; the null id for anything that is no id.

@@ -48,6 +48,7 @@ bool isWork(int result) {
 // The end is in this order: the record, then what Cancel takes back, then the undo block, then the dialog.
 int CGroupCmd::Run(IParam*) {
     status = 2;
+    HostEditorSelection* const editor = currentEditor();
     const OdDbDatabasePtr database = currentDatabase();
     const OdDbObjectId dictionaryId = database->getGroupDictionaryId(true);
     std::optional<GroupData> data(std::in_place);
@@ -56,7 +57,7 @@ int CGroupCmd::Run(IParam*) {
         return end(1);
     CGroupDlg dialog(parent, dictionaryId, *data);
     HostLocalUndo undo(database);
-    const int result = runDialog(dialog, dictionaryId, *data);
+    const int result = runDialog({dialog, editor, dictionaryId, *data});
     data.reset();
     if (result != CGroupDlg::kCancelled)
         return end(0);
@@ -65,32 +66,31 @@ int CGroupCmd::Run(IParam*) {
 }
 
 // Escape gives 0, which shows the dialog again as every unknown result does: that is meant.
-int CGroupCmd::runDialog(CGroupDlg& dialog, OdDbObjectId dictionaryId, GroupData& data) {
+int CGroupCmd::runDialog(const DialogRun& run) {
     for (;;) {
-        const int result = runModal(dialog);
-        dropHighlight(data);
+        const int result = runModal(run.dialog);
+        dropHighlight(run.data);
         if (endsRun(result))
             return result;
         if (result == CGroupDlg::kHighlight)
             return CGroupDlg::kEnded;
-        if (isWork(result) && workFor(result, dialog, dictionaryId, data) != 0)
+        if (isWork(result) && workFor(result, run) != 0)
             return CGroupDlg::kEnded;
     }
 }
 
-int CGroupCmd::workFor(int result, CGroupDlg& dialog, OdDbObjectId dictionaryId, GroupData& data) {
-    HostEditorSelection* const editor = currentEditor();
+int CGroupCmd::workFor(int result, const DialogRun& run) {
     if (result == CGroupDlg::kRemove)
-        return removeObjectsPrompt(editor, data, false);
+        return removeObjectsPrompt(run.editor, run.data, false);
     if (result == CGroupDlg::kAdd)
-        return addObjectsPrompt(editor, data);
+        return addObjectsPrompt(run.editor, run.data);
     if (result == CGroupDlg::kReorder)
-        return orderGroup(dictionaryId, data);
+        return orderGroup(run.dictionaryId, run.data);
     if (result == CGroupDlg::kFindName)
-        return pickGroupMember(editor, dictionaryId);
-    askForMembers(editor);
-    const int failure = createGroupFromData(editor, dictionaryId, data);
-    dialog.refillTable();
+        return pickGroupMember(run.editor, run.dictionaryId);
+    askForMembers(run.editor);
+    const int failure = createGroupFromData(run.editor, run.dictionaryId, run.data);
+    run.dialog.refillTable();
     return failure;
 }
 

@@ -23,6 +23,13 @@ protected:
     int highlightGroupMembers(GroupData& data);
 
 private:
-    int runDialog(CGroupDlg& dialog, OdDbObjectId dictionaryId, GroupData& data);
-    int workFor(int result, CGroupDlg& dialog, OdDbObjectId dictionaryId, GroupData& data);
+    // What a run of the dialog works on, as it was at the start.
+    struct DialogRun {
+        CGroupDlg& dialog;
+        HostEditorSelection* editor;
+        OdDbObjectId dictionaryId;
+        GroupData& data;
+    };
+    int runDialog(const DialogRun& run);
+    int workFor(int result, const DialogRun& run);
 };

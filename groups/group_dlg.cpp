@@ -2,7 +2,6 @@
 
 #include "groups/dialog_parts.h"
 #include "groups/highlight.h"
-#include "host/help.h"
 #include "host/selection.h"
 #include "host/text.h"
 
@@ -128,10 +127,6 @@ void CGroupDlg::updateHighlight() {
 }
 
 // Not connected: that is meant.
-void CGroupDlg::showHelp() {
-    const Ref<IHelpService> help = Ref<IHelpService>::take(Get_IHelpService());
-    if (help)
-        help->showTopic("IDH_GroupCmd[1]");
-}
+void CGroupDlg::showHelp() { group_dialogs::showHelp(); }
 
 #include "moc_group_dlg.cpp"

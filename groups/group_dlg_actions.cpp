@@ -114,6 +114,6 @@ void CGroupDlg::changeSelectable() {
     const OdDbGroupPtr group = groupForRow(row, OdDb::kForWrite);
     const bool selectable = !group->isSelectable();
     group->setSelectable(selectable);
-    groupTable->setItem(row, 1, new QTableWidgetItem(selectable ? QDialog::tr("Yes") : QDialog::tr("No")));
+    groupTable->setItem(row, 1, new QTableWidgetItem(group_dialogs::yesOrNo(selectable)));
     group_dialogs::scrollToRow(*groupTable, row);
 }

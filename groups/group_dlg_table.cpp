@@ -84,7 +84,7 @@ void CGroupDlg::showRows(const std::vector<Row>& rows, bool withIds) {
     // A header that may redraw looks for the position of each row that is resized, which takes as long as
     // there are rows.
     groupTable->verticalHeader()->setUpdatesEnabled(false);
-    const QString yes = QDialog::tr("Yes"), no = QDialog::tr("No");
+    const QString yes = group_dialogs::yesOrNo(true), no = group_dialogs::yesOrNo(false);
     int at = 0;
     for (const Row& row : rows) {
         auto* const nameItem = new QTableWidgetItem(hostqt::qString(row.name));

@@ -16,6 +16,8 @@ QString enterGroupOption() { return QObject::tr("Enter a group option [%1]"); }
 
 QString selectGroupOr() { return QObject::tr("Select group or [%1]"); }
 
+QString selectGroupKeywords() { return QObject::tr("? Name _ ? Name"); }
+
 QString selectObjects() { return QObject::tr("Select objects"); }
 
 QString selectObjectsIn() { return QObject::tr("Select objects [%1]"); }
@@ -35,6 +37,8 @@ QString groupCreated(const OdString& name) {
 }
 
 QString notAMember() { return QObject::tr("Object is not a member of a group."); }
+
+QString warning() { return QObject::tr("Warning"); }
 
 QString removingAll(const OdString& name) {
     return QObject::tr("You are trying to remove all entities from group '%1'. Continue?")

@@ -7,19 +7,21 @@
 
 namespace group_messages {
 
-QString enterGroupName();     // "Enter a group name"
-QString enterNewName();       // "Enter a new name for group"
-QString enterDescription();   // "Enter a group description:"
-QString enterGroupOption();   // "Enter a group option [%1]"
-QString selectGroupOr();      // "Select group or [%1]"
-QString selectObjects();      // "Select objects"
-QString selectObjectsIn();    // "Select objects [%1]"
-QString selectObjectsToAdd(); // "Select objects to add to group..."
-QString endKeywords();        // "End *E _ End *E"
+QString enterGroupName();      // "Enter a group name"
+QString enterNewName();        // "Enter a new name for group"
+QString enterDescription();    // "Enter a group description:"
+QString enterGroupOption();    // "Enter a group option [%1]"
+QString selectGroupOr();       // "Select group or [%1]"
+QString selectGroupKeywords(); // "? Name _ ? Name"
+QString selectObjects();       // "Select objects"
+QString selectObjectsIn();     // "Select objects [%1]"
+QString selectObjectsToAdd();  // "Select objects to add to group..."
+QString endKeywords();         // "End *E _ End *E"
 QString groupExists(const OdString& name);
 QString invalidName(); // "Group name is invalid."
 QString groupCreated(const OdString& name);
 QString notAMember(); // "Object is not a member of a group."
+QString warning();    // "Warning"
 QString removingAll(const OdString& name);
 QString removed(int count, const OdString& name);
 

@@ -1,8 +1,6 @@
 // What the buttons of the dialog "Order Group" do.
 #include "groups/group_reorder_dlg.h"
 
-#include "host/help.h"
-
 #include <QLabel>
 #include <QLineEdit>
 #include <algorithm>
@@ -62,9 +60,3 @@ void CGroupReorderDlg::reverseOrder() {
 }
 
 void CGroupReorderDlg::highlightMembers() { done(kHighlight); }
-
-void CGroupReorderDlg::showHelp() {
-    const Ref<IHelpService> help = Ref<IHelpService>::take(Get_IHelpService());
-    if (help)
-        help->showTopic("IDH_GroupCmd[1]");
-}

@@ -41,7 +41,6 @@ private:
     void refuse(const QString& message, QLineEdit* edit);
     void reverseOrder();
     void highlightMembers();
-    void showHelp();
 
     OdDbObjectId dictionaryId;
     GroupData* data;

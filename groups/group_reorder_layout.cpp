@@ -94,5 +94,5 @@ void CGroupReorderDlg::connectControls() {
     connect(reverseButton, &QPushButton::clicked, this, &CGroupReorderDlg::reverseOrder);
     connect(okButton, &QPushButton::clicked, this, [this] { done(kAccepted); });
     connect(cancelButton, &QPushButton::clicked, this, [this] { done(kCancelled); });
-    connect(helpButton, &QPushButton::clicked, this, &CGroupReorderDlg::showHelp);
+    connect(helpButton, &QPushButton::clicked, this, &group_dialogs::showHelp);
 }

@@ -1,4 +1,5 @@
 // Names, members and drawings that are not as they should be, and texts in another language.
+#include "groups/command_line_edit.h"
 #include "groups/command_line_from_selection.h"
 #include "groups/command_line_unified.h"
 #include "groups/highlight.h"
@@ -153,16 +154,42 @@ TEST_F(BadInput, YesAndNoOfTheListAreNotTranslated) {
     EXPECT_EQ(io.printed[2].wide().substr(34, 3), L"Yes");
 }
 
+// Translates one text of the commands.
+class OneText : public ContextMarker {
+public:
+    OneText(const char* text, const char* translated)
+        : ContextMarker("QObject"), source(text), translation(translated) {}
+    QString translate(const char*, const char* text, const char*, int) const override {
+        return qstrcmp(text, source) == 0 ? QString::fromUtf8(translation) : QString();
+    }
+
+private:
+    const char* source;
+    const char* translation;
+};
+
 TEST_F(BadInput, AutomaticNameFollowsATranslationWithAPercentSign) {
-    class PercentNames : public ContextMarker {
-    public:
-        PercentNames() : ContextMarker("QObject") {}
-        QString translate(const char*, const char* text, const char*, int) const override {
-            return qstrcmp(text, "Group%1") == 0 ? QStringLiteral("Nr%d") : QString();
-        }
-    };
-    const PercentNames translator;
+    const OneText translator("Group%1", "Nr%d");
     selection.select(pick({0}));
     EXPECT_EQ(run<CCommandLineGroupFromSelection>(), 0);
     EXPECT_TRUE(hasGroup(L"Nr1"));
+}
+
+TEST_F(BadInput, MarkBeforeTheTranslatedOptionsIsCut) {
+    const OneText translator("? Order Add Remove Explode REName Selectable Create _ "
+                             "? Order Add Remove Explode REName Selectable Create",
+                             "Kwrd: ? Ordnen Ordnen Neu _ ? Order Add Create");
+    EXPECT_EQ(runUnified({cancel()}), 1);
+    EXPECT_EQ(io.prompts[0].text, OdString(L"Enter a group option [?/Ordnen/Neu] <Create>:"));
+    EXPECT_EQ(io.prompts[0].keywords, OdString(L"? Ordnen Ordnen Neu"));
+}
+
+TEST_F(BadInput, QuotedOptionsFallApartAtEachBlank) {
+    const OneText translator("\"Add objects\" \"Remove objects\" REName", "\"Neu\" \"Weg  Neu\" Name Name");
+    addGroup(L"G", pick({0}));
+    selection.select(pick({0}));
+    answer({cancel()});
+    EXPECT_EQ(run<CCommandLineGroupEdit>(), 1);
+    EXPECT_EQ(io.prompts[0].text, OdString(L"Enter a group option [Neu/Weg/Name]"));
+    EXPECT_EQ(io.prompts[0].keywords, OdString(L"\"Neu\" \"Weg  Neu\" Name Name"));
 }

@@ -1,5 +1,8 @@
 // The group command that starts from a member.
+#include "groups/command_line_create.h"
 #include "groups/command_line_edit.h"
+#include "groups/command_line_ungroup.h"
+#include "groups/highlight.h"
 #include "tests/groups/dialog_user.h"
 #include "tests/groups/group_fixture.h"
 
@@ -61,12 +64,48 @@ TEST_F(Edit, ObjectInNoGroupIsToldTheSelectionClearedAndThePromptComesAgain) {
     EXPECT_EQ(io.prompts.size(), 1u);
 }
 
+// The selection in hand is that of the run: an empty answer that leaves it alone means the missed object
+// again.
+TEST_F(Edit, EmptyAnswerAfterAMissMeansTheMissedObjectAgain) {
+    EXPECT_EQ(edit({picked(pick({5})), enter(), picked(pick({0})), cancel()}), 1);
+    const OdString missed(L"Object is not a member of a group.");
+    EXPECT_THAT(io.printed, ElementsAre(missed, missed));
+    EXPECT_EQ(io.prompts.size(), 4u);
+}
+
 TEST_F(Edit, KeywordNameEndsTheRunLikeACancel) {
     EXPECT_EQ(edit({keyword(1)}), 1);
     EXPECT_EQ(status, 1);
 }
 
 TEST_F(Edit, TypedTextAtTheSelectionEndsTheRun) { EXPECT_EQ(edit({typed(L"FIRST")}), 1); }
+
+// The reply of "?" is still there when a selection has come up meanwhile.
+TEST_F(Edit, SelectionThatComesUpWhileANameIsAskedForLeadsBackToTheName) {
+    int asked = 0;
+    io.onPrompt = [&](const OdString&) { selection.select(++asked == 1 ? pick({0}) : pick({})); };
+    EXPECT_EQ(edit({keyword(0), typed(L"FIRST"), typed(L"SECOND"), cancel()}), 1);
+    EXPECT_EQ(status, 1);
+    ASSERT_EQ(io.prompts.size(), 4u);
+    EXPECT_EQ(io.prompts[2].text, OdString(L"Enter a group name"));
+    EXPECT_EQ(io.prompts[3].text, OdString(L"Select group or [?/Name]"));
+}
+
+// A selection whose first id is no id.
+class BrokenSelection : public hostSelectionSet {
+public:
+    void objectIds(OdDbObjectIdArray& ids) const override { ids = {OdDbObjectId()}; }
+    int count() const override { return 1; }
+    void clear() override {}
+    void append(const OdDbObjectId&) override {}
+};
+
+TEST_F(Edit, InvalidIdOfTheSelectionEndsTheRunWithoutAWord) {
+    selection.setSelection(hostSelectionSetPtr(new BrokenSelection));
+    EXPECT_EQ(edit({}), 1);
+    EXPECT_EQ(status, 1);
+    EXPECT_THAT(io.printed, IsEmpty());
+}
 
 TEST_F(Edit, EmptySelectionAfterHelpTakesTheNamedGroup) {
     EXPECT_EQ(edit({keyword(0), typed(L"FIRST"), enter(), keyword(2), typed(L"RENAMED")}), 0);
@@ -130,6 +169,13 @@ TEST_F(Edit, RemoveFlowClearsPickStyleAndLeavesTheMembersHighlighted) {
     EXPECT_THAT(members(L"FIRST"), ElementsAre(0, 1));
 }
 
+TEST_F(Edit, RemoveFlowDoesNotHighlightAnew) {
+    selection.select(pick({0}));
+    io.onPrompt = [this](const OdString&) { setObjectsHighlight(pick({0}), false); };
+    EXPECT_EQ(edit({keyword(1)}), 0);
+    EXPECT_THAT(highlightedLines(), ElementsAre(1));
+}
+
 class EditRemoval : public Edit {
 protected:
     EditRemoval() {
@@ -145,6 +191,16 @@ TEST_F(EditRemoval, SelectionThatTheHostKeepsIsRemoved) {
     EXPECT_THAT(io.printed,
                 ElementsAre(OdString(L"\n1 entities from current selection removed from group 'FIRST'")));
     EXPECT_THAT(highlightedLines(), IsEmpty());
+}
+
+TEST_F(EditRemoval, PickStyleIgnoresTheSelectionThatTheHostKeeps) {
+    setPickStyle(1);
+    selection.select(pick({0}));
+    EXPECT_EQ(edit({keyword(1)}), 0);
+    EXPECT_THAT(members(L"FIRST"), ElementsAre(0, 1));
+    EXPECT_THAT(io.printed, IsEmpty());
+    EXPECT_THAT(highlightedLines(), ElementsAre(0, 1));
+    EXPECT_EQ(pickStyle(), 0);
 }
 
 TEST_F(EditRemoval, CancelledConfirmationEndsWellAndUnhighlights) {
@@ -195,7 +251,10 @@ protected:
         QMenu menu(&window);
         menu.popup({});
         EXPECT_NE(QApplication::activePopupWidget(), nullptr);
-        return make<CCommandLineGroupEdit>()->enableQuery();
+        const int answer = make<CCommandLineGroupEdit>()->enableQuery();
+        EXPECT_EQ(make<CCommandLineGroupUngroup>()->enableQuery(), answer);
+        EXPECT_EQ(make<CCommandLineGroupCreate>()->enableQuery(), 1);
+        return answer;
     }
 };
 

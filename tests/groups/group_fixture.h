@@ -8,8 +8,8 @@
 #include "sdk/db/database.h"
 #include "sdk/db/dictionary.h"
 #include "sdk/db/group.h"
+#include "tests/groups/hooked_io.h"
 #include "tests/support/fixture_host.h"
-#include "tests/support/scripted_io.h"
 
 #include <QWidget>
 #include <gtest/gtest.h>
@@ -68,7 +68,7 @@ protected:
 
     FixtureHost host;
     QWidget window; // the parent of the dialogs
-    ScriptedIO io;
+    HookedIO io;
     ScriptedSelection selection{io};
     OdDbDatabasePtr database = OdDbDatabase::createEmpty();
     OdDbObjectIdArray lines;

@@ -158,6 +158,7 @@ TEST_F(FromSelection, FailureIsTakenBackAndGivesOne) {
     selection.select({dictionary()->objectId()});
     const DebugLines debug;
     EXPECT_EQ(run<CCommandLineGroupFromSelection>(), 1);
+    EXPECT_EQ(status, 0);
     EXPECT_EQ(dictionary()->numEntries(), 0u);
     EXPECT_EQ(database->numActiveTransactions(), 0);
     EXPECT_TRUE(io.printed.empty());

@@ -125,6 +125,16 @@ TEST_F(UnifiedOrder, ReverseKeywordReversesAtTheFirstPromptOnly) {
     EXPECT_THAT(members(L"FIVE"), ElementsAre(3, 4, 2, 1, 0));
 }
 
+TEST_F(UnifiedOrder, TransferThatFailsIsNoFailureOfTheCommand) {
+    io.onPrompt = [this](const OdString& text) {
+        if (text.left(23) == OdString(L"Enter number of objects"))
+            lines[4].safeOpenObject(OdDb::kForWrite)->erase(true);
+    };
+    EXPECT_EQ(order({typed(L"4"), typed(L"0"), typed(L"1")}), 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_THAT(members(L"FIVE"), ElementsAre(0, 1, 2, 3));
+}
+
 class UnifiedAdd : public Unified {};
 
 TEST_F(UnifiedAdd, NothingIsAddedAndTheMembersStayHighlighted) {
@@ -227,7 +237,9 @@ TEST_F(UnifiedRemove, LosingAllMembersAfterOkLeavesTheGroupEmpty) {
 TEST_F(UnifiedRemove, OnlyMemberOfAGroupLeavesWithoutAWarning) {
     addGroup(L"ONE", pick({4}));
     selection.select(pick({4}));
+    const DialogUser user; // of no dialog
     EXPECT_EQ(runUnified({keyword(3), typed(L"ONE")}), 0);
+    EXPECT_TRUE(user.finished());
     EXPECT_THAT(members(L"ONE"), IsEmpty());
 }
 
@@ -255,6 +267,7 @@ TEST_F(UnifiedChanges, ExplodeTakesTheGroupAwayAndKeepsTheObjects) {
     EXPECT_EQ(status, 0);
     EXPECT_FALSE(hasGroup(L"OLD"));
     EXPECT_TRUE(id.isErased());
+    EXPECT_EQ(odrxCast<OdDbGroup>(id.openObject(OdDb::kForRead, true))->numEntities(), 0u);
     EXPECT_FALSE(lines[0].isErased());
 }
 
