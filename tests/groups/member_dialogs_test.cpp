@@ -55,6 +55,14 @@ TEST_F(ReorderDialog, ShowsTheGroupOfTheRecordWithItsRanges) {
               int(QMetaType::ULongLong));
 }
 
+TEST_F(ReorderDialog, GroupOfTheRecordIsFoundInAnyCase) {
+    data.name = L"one";
+    data.currentRow = -1;
+    show();
+    EXPECT_EQ(data.currentRow, 1);
+    EXPECT_EQ(data.group->name(), OdString(L"ONE"));
+}
+
 TEST_F(ReorderDialog, WithoutAKnownNameTheFirstRowIsTaken) {
     data = GroupData();
     show();
