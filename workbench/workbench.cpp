@@ -9,6 +9,8 @@
 #include "standin/qt_application/host_application.h"
 #include "standin/registry.h"
 #include "workbench/commands/commands.h"
+#include "workbench/commands/history_commands.h"
+#include "workbench/history/history_keeper.h"
 #include "workbench/module_loader.h"
 #include "workbench/script/script_player.h"
 #include "workbench/window/main_window.h"
@@ -57,6 +59,7 @@ Workbench::Workbench(const Launch& launchOptions)
     module = std::make_unique<LoadedModule>(launch.moduleFile, &problem);
     if (!problem.isEmpty())
         report(problem);
+    history = std::make_unique<HistoryKeeper>(*documents, io, files, launch.rootDir, setup.io);
     mainWindow = std::make_unique<MainWindow>(io, loop, *documents, styles);
     addCommands();
     applySettings();
@@ -84,6 +87,7 @@ void Workbench::provideServices() {
 void Workbench::addCommands() {
     const CommandScope scope{io, loop, *documents, styles, files, mainWindow->drawingArea(), *mainWindow};
     addDrawingCommands(scope);
+    addHistoryCommands(scope, *history);
     addEditCommands(scope);
     addViewCommands(scope);
     addPlugInEntries(*mainWindow);

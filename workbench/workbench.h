@@ -21,6 +21,7 @@ class HelpService;
 
 namespace workbench {
 
+class HistoryKeeper;
 class LoadedModule;
 class MainWindow;
 class ScriptPlayer;
@@ -60,6 +61,7 @@ private:
     standin::Catalogues catalogues;
     std::unique_ptr<standin::Application> application;
     std::unique_ptr<standin::DocumentManager> documents;
+    std::unique_ptr<HistoryKeeper> history;
     Ref<standin::HelpService> help;
     Ref<standin::Events> events;
     std::unique_ptr<LoadedModule> module;

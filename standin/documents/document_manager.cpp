@@ -2,6 +2,7 @@
 
 #include "host/text.h"
 #include "sdk/db/database.h"
+#include "sdk/db/xref_man.h"
 #include "standin/console/console.h"
 #include "standin/registry.h"
 #include "standin/sysvars/read_context.h"
@@ -45,12 +46,21 @@ Document* DocumentManager::openEmpty() {
 Document* DocumentManager::openFile(const QString& path) {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     auto database = OdDbDatabase::readFile(hostqt::odString(absolute));
+    OdDbXRefMan::loadAll(database.get());
     auto document = std::make_unique<Document>(std::move(database), io, QString());
     document->setPath(absolute);
     return adopt(std::move(document));
 }
 
+Document* DocumentManager::openCopy(const QString& path, const QString& title) {
+    auto database = OdDbDatabase::readFile(hostqt::odString(QFileInfo(path).absoluteFilePath()));
+    OdDbXRefMan::loadAll(database.get()); // while it still knows where it lies
+    database->setFilename(OdString());
+    return adopt(std::make_unique<Document>(std::move(database), io, title));
+}
+
 void DocumentManager::save(Document* document, const QString& path) {
+    emit beforeSave(document, path);
     document->database()->writeFile(hostqt::odString(path));
     if (document->path() == path)
         return;

@@ -25,6 +25,8 @@ public:
     // Both make the new document the current one. An empty one is titled Drawing1, Drawing2 and so on.
     Document* openEmpty();
     Document* openFile(const QString& path); // throws OdError
+    // Opens what a file holds as a drawing that was never saved, so that the file stays as it is.
+    Document* openCopy(const QString& path, const QString& title); // throws OdError
     // Writes the drawing, which has the file's name from then on. Throws OdError.
     void save(Document* document, const QString& path);
     void activate(Document* document);
@@ -34,6 +36,8 @@ public:
 
 signals:
     void currentChanged();
+    // The file, if there is one, still is as it was before.
+    void beforeSave(standin::Document* document, const QString& path);
     void documentRenamed(); // it was saved under another name
     void documentClosed(const QString& title);
 

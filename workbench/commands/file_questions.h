@@ -23,10 +23,10 @@ public:
     // named `own` may be.
     std::optional<QString> fileToSave(const QString& suggested, const QString& own) const;
     Unsaved whatOfChanges(const QString& drawing) const;
+    bool asksOnConsole() const; // headless, or FILEDIA is 0
 
 private:
     Unsaved whatOfChangesByDialog(const QString& drawing) const;
-    bool asksOnConsole() const; // headless, or FILEDIA is 0
     std::optional<QString> typedFile(const QString& prompt) const;
     bool mayReplace(const QString& path) const;
 
