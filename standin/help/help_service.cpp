@@ -1,9 +1,10 @@
 #include "standin/help/help_service.h"
 
+#include "standin/help/help_browser.h"
+
 #include <QApplication>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QTextBrowser>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -26,16 +27,17 @@ HelpWindow::HelpWindow(const QString& pageFolder, QWidget* parent)
     setWindowTitle(tr("Help"));
     build();
     layOut();
-    resize(680, 560);
+    resize(760, 640);
 }
 
 HelpWindow::~HelpWindow() = default;
 
 void HelpWindow::build() {
-    pageBrowser = new QTextBrowser(this);
+    pageBrowser = new HelpBrowser(this);
     pageBrowser->setObjectName(QStringLiteral("pageBrowser"));
     pageBrowser->setOpenExternalLinks(true);
     pageBrowser->document()->setDocumentMargin(14);
+    connect(pageBrowser, &QTextBrowser::sourceChanged, this, &HelpWindow::showTitle);
 }
 
 void HelpWindow::layOut() {
@@ -50,6 +52,10 @@ void HelpWindow::showTopic(const QString& topic) {
         pageBrowser->setSource(QUrl::fromLocalFile(page.absoluteFilePath()));
     else
         pageBrowser->setPlainText(tr("There is no help page \"%1\".").arg(topic));
+    showTitle();
+}
+
+void HelpWindow::showTitle() {
     const QString title = pageBrowser->documentTitle();
     setWindowTitle(title.isEmpty() ? tr("Help") : tr("Help - %1").arg(title));
 }

@@ -7,9 +7,9 @@
 #include <QString>
 #include <QWidget>
 
-class QTextBrowser;
-
 namespace standin {
+
+class HelpBrowser;
 
 class HelpWindow : public QWidget {
     Q_OBJECT
@@ -21,8 +21,9 @@ public:
 private:
     void build();
     void layOut();
+    void showTitle();
     QString folder;
-    QTextBrowser* pageBrowser = nullptr;
+    HelpBrowser* pageBrowser = nullptr;
 };
 
 class HelpService : public CKWUnknownImpl<IHelpService> {
