@@ -56,23 +56,41 @@ bool isLoadedFrom(const OdDbBlockTableRecord& record, const QFileInfo& file) {
            QFileInfo(qt(loaded->getFilename())).canonicalFilePath() == file.canonicalFilePath();
 }
 
-OdResult loadFile(OdDbBlockTableRecord& record, const QFileInfo& file) {
+void takeUnits(OdDbBlockTableRecord& record, const OdDbDatabase& loaded) {
+    if (record.blockInsertUnits() == loaded.getINSUNITS())
+        return;
+    const bool wasWritable = record.isWriteEnabled();
+    record.upgradeOpen();
+    record.setBlockInsertUnits(loaded.getINSUNITS());
+    if (!wasWritable)
+        record.downgradeOpen();
+}
+
+// A drawing that is only being shown has changed nothing by it, and there is nothing to undo.
+enum class Loading { IsAChange, OnlyShows };
+
+OdResult loadFile(OdDbBlockTableRecord& record, const QFileInfo& file, Loading loading) {
     OdDbDatabase& host = *record.database();
     const QString path = file.canonicalFilePath();
     if (isOnTheWay(path, host))
         return eSelfReference;
-    if (isLoadedFrom(record, file))
+    OdDbDatabasePtr loaded = record.xrefDatabase();
+    const bool isThere = isLoadedFrom(record, file);
+    if (!isThere) {
+        const LoadingFile guard(path);
+        loaded = OdDbDatabase::readFile(od(file.absoluteFilePath()));
+        loadNested(*loaded);
+        noteDependency(host, record.pathName(), file);
+    }
+    if (loading == Loading::IsAChange)
+        takeUnits(record, *loaded);
+    if (isThere)
         return eOk;
-    const LoadingFile guard(path);
-    OdDbDatabasePtr loaded = OdDbDatabase::readFile(od(file.absoluteFilePath()));
-    loadNested(*loaded);
-    const bool wasWritable = record.isWriteEnabled();
-    record.upgradeOpen();
-    record.setBlockInsertUnits(loaded->getINSUNITS());
-    if (!wasWritable)
-        record.downgradeOpen();
-    noteDependency(host, record.pathName(), file);
-    host.impl().setXrefDatabase(*record.objectId().getStub(), loaded);
+    OdDbStub& block = *record.objectId().getStub();
+    if (loading == Loading::IsAChange)
+        host.impl().setXrefDatabase(block, loaded);
+    else
+        host.impl().blocks[&block].xrefDatabase = loaded;
     return eOk;
 }
 
@@ -87,6 +105,22 @@ OdString fileIn(const QDir& folder, const QString& path) {
         if (QFileInfo(candidate).isFile())
             return od(QFileInfo(candidate).absoluteFilePath());
     return {};
+}
+
+OdResult loadRecord(OdDbBlockTableRecord* record, Loading loading) {
+    if (!record || !record->database())
+        return eNullObjectPointer;
+    const OdString savedPath = record->pathName();
+    if (savedPath.isEmpty())
+        return eInvalidInput;
+    const OdString found = OdDbXRefMan::findFile(*record->database(), savedPath);
+    if (found.isEmpty())
+        return eCantOpenFile;
+    try {
+        return loadFile(*record, QFileInfo(qt(found)), loading);
+    } catch (const OdError& error) {
+        return error.code();
+    }
 }
 
 } // namespace
@@ -104,21 +138,7 @@ OdDbObjectId OdDbXRefManExt::addNewXRefDefBlock(OdDbDatabase* database, const Od
     return id;
 }
 
-OdResult OdDbXRefMan::load(OdDbBlockTableRecord* record) {
-    if (!record || !record->database())
-        return eNullObjectPointer;
-    const OdString savedPath = record->pathName();
-    if (savedPath.isEmpty())
-        return eInvalidInput;
-    const OdString found = findFile(*record->database(), savedPath);
-    if (found.isEmpty())
-        return eCantOpenFile;
-    try {
-        return loadFile(*record, QFileInfo(qt(found)));
-    } catch (const OdError& error) {
-        return error.code();
-    }
-}
+OdResult OdDbXRefMan::load(OdDbBlockTableRecord* record) { return loadRecord(record, Loading::IsAChange); }
 
 void OdDbXRefMan::unload(OdDbBlockTableRecord* record) {
     if (record->database())
@@ -143,7 +163,7 @@ OdDbObjectIdArray OdDbXRefMan::loadAll(OdDbDatabase* database) {
     const auto blocks = odrxCast<OdDbBlockTable>(database->getBlockTableId().safeOpenObject());
     for (OdDbSymbolTableIterator it = blocks->newIterator(); !it.done(); it.step()) {
         const auto block = odrxCast<OdDbBlockTableRecord>(it.getRecordId().openObject());
-        if (block->isFromExternalReference() && load(block.get()) != eOk)
+        if (block->isFromExternalReference() && loadRecord(block.get(), Loading::OnlyShows) != eOk)
             failed.push_back(it.getRecordId());
     }
     return failed;

@@ -25,7 +25,9 @@ public:
     static OdResult load(OdDbBlockTableRecord* record);
     static void unload(OdDbBlockTableRecord* record);
     static void setOverlaid(OdDbBlockTableRecord* record, bool overlaid);
-    // Loads every reference of a drawing; gives those that failed.
+    // Loads every reference of a drawing that was just opened; gives those that failed. That is no change of
+    // the drawing: there is nothing to undo, and a block whose file has other units by now keeps its own
+    // until load() is called for it.
     static OdDbObjectIdArray loadAll(OdDbDatabase* database);
     // The file that a saved path stands for, looked for as it stands, beside the drawing, by its name alone
     // beside the drawing, and likewise in the search folders; empty when there is none.

@@ -1,6 +1,7 @@
 // The open documents, and the variables that belong to them.
 #include "host/text.h"
 #include "sdk/db/database.h"
+#include "sdk/db/xref_man.h"
 #include "standin/console/console.h"
 #include "standin/documents/document_manager.h"
 #include "standin/sysvars/read_context.h"
@@ -82,6 +83,22 @@ TEST_F(DocumentsTest, SavedDrawingIsOpenedUnderItsName) {
     EXPECT_EQ(text(L"DWGNAME"), "Größe.dxf");
     EXPECT_EQ(text(L"DWGPREFIX"), folder.path() + "/");
     EXPECT_EQ(number(L"DWGTITLED"), 1);
+}
+
+TEST_F(DocumentsTest, ReferencesOfAnOpenedDrawingAreLoaded) {
+    const QTemporaryDir folder;
+    OdDbDatabase::createEmpty()->writeFile(hostqt::odString(folder.filePath("part.dxf")));
+    const OdDbDatabasePtr site = OdDbDatabase::createEmpty();
+    OdDbXRefManExt::addNewXRefDefBlock(site.get(), L"part.dxf", L"part", false);
+    site->writeFile(hostqt::odString(folder.filePath("site.dxf")));
+    for (Document* document : {documents.openFile(folder.filePath("site.dxf")),
+                               documents.openCopy(folder.filePath("site.dxf"), "Copy")}) {
+        const OdDbDatabasePtr opened = document->database();
+        const auto blocks = odrxCast<OdDbBlockTable>(opened->getBlockTableId().safeOpenObject());
+        const auto part = odrxCast<OdDbBlockTableRecord>(blocks->getAt(L"part", OdDb::kForRead));
+        EXPECT_FALSE(part->xrefDatabase().isNull());
+        EXPECT_FALSE(opened->isModified());
+    }
 }
 
 TEST_F(DocumentsTest, UnsavedDrawingIsUntitled) {

@@ -61,6 +61,27 @@ TEST_F(References, LoadingSetsUnitsAndDatabase) {
     EXPECT_EQ(record->xrefDatabase(false)->getFilename(), pathOf("a.dxf"));
 }
 
+TEST_F(References, LoadingAllOfADrawingIsNoChangeOfIt) {
+    write("a.dxf", {});
+    attach("a.dxf");
+    attach("missing.dxf");
+    database->writeFile(pathOf("host.dxf"));
+    const OdDbDatabasePtr opened = OdDbDatabase::readFile(pathOf("host.dxf"));
+    const std::string before = opened->writeBytes();
+    const OdDbObjectIdArray failed = OdDbXRefMan::loadAll(opened.get());
+    ASSERT_EQ(failed.size(), 1u);
+    EXPECT_EQ(odrxCast<OdDbBlockTableRecord>(failed[0].safeOpenObject())->getName(),
+              OdString(L"missing.dxf"));
+    const auto blocks = odrxCast<OdDbBlockTable>(opened->getBlockTableId().safeOpenObject());
+    const auto record = odrxCast<OdDbBlockTableRecord>(blocks->getAt(L"a.dxf", OdDb::kForRead));
+    EXPECT_FALSE(record->xrefDatabase().isNull());
+    EXPECT_FALSE(opened->isModified());
+    EXPECT_FALSE(opened->hasUndo());
+    EXPECT_EQ(opened->writeBytes(), before);
+    EXPECT_EQ(OdDbXRefMan::load(record.get()), eOk);
+    EXPECT_EQ(record->blockInsertUnits(), OdDb::kUnitsMeters);
+}
+
 TEST_F(References, LoadingFailsWithoutAnException) {
     EXPECT_NE(OdDbXRefMan::load(nullptr), eOk);
     EXPECT_EQ(OdDbXRefMan::load(attach("missing.dxf").get()), eCantOpenFile);
