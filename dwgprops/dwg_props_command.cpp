@@ -7,22 +7,6 @@
 #include "host/qt_ui_core.h"
 #include "host/transaction_guard.h"
 
-namespace {
-
-// Aborts whatever is still open when the command is left, by whatever way; the guard itself does not.
-class AbortAtEnd {
-public:
-    explicit AbortAtEnd(DbTransactionGuard& watched) : guard(watched) {}
-    ~AbortAtEnd() { guard.abort(); }
-    AbortAtEnd(const AbortAtEnd&) = delete;
-    AbortAtEnd& operator=(const AbortAtEnd&) = delete;
-
-private:
-    DbTransactionGuard& guard;
-};
-
-} // namespace
-
 void runDwgProps() {
     DbTransactionGuard guard(currentDrawing());
     guard.begin();

@@ -28,3 +28,15 @@ private:
     OdDbDatabasePtr database;
     int depth;
 };
+
+// Aborts whatever is still open when it is left, by whatever way: the scope object of a caller that must.
+class AbortAtEnd {
+public:
+    explicit AbortAtEnd(DbTransactionGuard& watched) : guard(watched) {}
+    ~AbortAtEnd() { guard.abort(); }
+    AbortAtEnd(const AbortAtEnd&) = delete;
+    AbortAtEnd& operator=(const AbortAtEnd&) = delete;
+
+private:
+    DbTransactionGuard& guard;
+};

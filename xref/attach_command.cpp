@@ -15,18 +15,6 @@
 
 namespace {
 
-// Aborts whatever is still open when the command is left, by whatever way; the guard itself does not.
-class AbortAtEnd {
-public:
-    explicit AbortAtEnd(DbTransactionGuard& watched) : guard(watched) {}
-    ~AbortAtEnd() { guard.abort(); }
-    AbortAtEnd(const AbortAtEnd&) = delete;
-    AbortAtEnd& operator=(const AbortAtEnd&) = delete;
-
-private:
-    DbTransactionGuard& guard;
-};
-
 // Makes the definition and the references of one run a single step of undo.
 class UndoBlock {
 public:

@@ -82,3 +82,20 @@ TEST_F(TransactionGuard, EndingTwiceEndsNothingMore) {
     guard.abort();
     EXPECT_EQ(depth(), 1);
 }
+
+TEST_F(TransactionGuard, ScopeObjectAbortsWhatIsOpenAndFindsNothingAfterACommit) {
+    for (const bool commits : {false, true}) {
+        DbTransactionGuard guard(database);
+        guard.begin();
+        {
+            const AbortAtEnd abortAtEnd(guard);
+            database->startTransaction();
+            addGroup(commits ? L"KEPT" : L"DROPPED");
+            if (commits)
+                guard.commit();
+        }
+        EXPECT_EQ(depth(), 0);
+    }
+    EXPECT_TRUE(groups()->has(L"KEPT"));
+    EXPECT_FALSE(groups()->has(L"DROPPED"));
+}
