@@ -79,19 +79,26 @@ TEST_F(AttachCommand, FileDialogAsksForDrawingsFromTheRoot) {
     EXPECT_EQ(driver.parentWidget, &window);
 }
 
-TEST_F(AttachCommand, FileDialogHasItsCaption) {
+TEST_F(AttachCommand, FileDialogHasItsCaptionAndStaysOnTopOfTheWholeApplication) {
     QString caption;
+    Qt::WindowFlags flags;
+    Qt::WindowModality modality = Qt::NonModal;
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, &look, [&] {
         auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         if (!dialog)
             return;
         caption = dialog->windowTitle();
+        flags = dialog->windowFlags();
+        modality = dialog->windowModality();
         dialog->reject();
     });
     look.start(5);
     selectXRefFiles(&window, true);
     EXPECT_EQ(caption, "External Reference");
+    EXPECT_EQ(flags & Qt::WindowType_Mask, Qt::Window);
+    EXPECT_TRUE(flags & Qt::WindowStaysOnTopHint);
+    EXPECT_EQ(modality, Qt::ApplicationModal);
 }
 
 TEST_F(AttachCommand, FileDialogForOneFileTakesOne) {
@@ -104,11 +111,13 @@ TEST_F(AttachCommand, DialogHasItsTitleAndCentresTheWindowBehindIt) {
     window.move(1, 2);
     const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
     QString title;
+    Qt::WindowFlags flags;
     bool modal = false;
     QPoint place;
     QWidget* parent = nullptr;
     OnAttachDialog onDialog([&](Dialog& dialog) {
         title = dialog.windowTitle();
+        flags = dialog.windowFlags();
         modal = dialog.isModal();
         parent = dialog.parentWidget();
         place = window.pos();
@@ -118,6 +127,9 @@ TEST_F(AttachCommand, DialogHasItsTitleAndCentresTheWindowBehindIt) {
     ASSERT_EQ(windows.value(0), &window);
     run(write("part.dxf"));
     EXPECT_EQ(title, "External reference");
+    EXPECT_EQ(flags & Qt::WindowType_Mask, Qt::Window);
+    EXPECT_TRUE(flags & Qt::MSWindowsFixedSizeDialogHint);
+    EXPECT_TRUE(flags & Qt::WindowCloseButtonHint);
     EXPECT_TRUE(modal);
     EXPECT_EQ(parent, &window);
     EXPECT_EQ(place, QPoint((screen.width() - 200) / 2, (screen.height() - 100) / 2));

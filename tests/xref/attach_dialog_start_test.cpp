@@ -3,6 +3,7 @@
 #include "tests/xref/attach_dialog_fixture.h"
 
 #include <QGroupBox>
+#include <QLayout>
 
 TEST_F(AttachDialog, ControlsHaveTheirDefaults) {
     open(write("part.dxf"));
@@ -45,6 +46,25 @@ TEST_F(AttachDialog, ControlsHaveTheirLabelsAndSizes) {
     titles.sort();
     EXPECT_EQ(titles, QStringList({"Block Unit", "Insertion Point", "Path Type", "Preview", "Reference Type",
                                    "Rotation", "Scale"}));
+}
+
+TEST_F(AttachDialog, GroupsButtonsAndRowsHaveTheirSizes) {
+    open(write("part.dxf"));
+    for (const QGroupBox* group : dialog->findChildren<QGroupBox*>()) {
+        const bool isPreview = group->title() == "Preview";
+        EXPECT_EQ(group->minimumSize() == QSize(220, 250) && group->size() == QSize(220, 250), isPreview);
+        const bool isFixed = isPreview || group->title() == "Reference Type";
+        EXPECT_EQ(group->minimumWidth() == 220 && group->maximumWidth() == 220, isFixed);
+    }
+    for (const char* name : {"browseButton", "okButton", "cancelButton", "helpButton"}) {
+        EXPECT_EQ(control<QWidget>(name)->minimumWidth(), 80) << name;
+        EXPECT_EQ(control<QWidget>(name)->height(), 25) << name;
+    }
+    for (const char* name : {"nameCombo", "foundInEdit", "savedPathEdit"})
+        EXPECT_EQ(control<QWidget>(name)->height(), 25) << name;
+    EXPECT_EQ(control<QWidget>("nameCombo")->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    const QLayout* rows = dialog->layout();
+    EXPECT_EQ(rows->itemAt(rows->count() - 1)->layout()->contentsMargins(), QMargins(0, 10, 0, 0));
 }
 
 TEST_F(AttachDialog, EmptyMapOpensWithoutAFile) {
@@ -194,6 +214,13 @@ TEST_F(AttachDialog, NameInAnUnsavedDrawingShowsBothMessages) {
     EXPECT_EQ(noticeTexts(), QStringList({notSaved, notOnOneDisk}));
     EXPECT_EQ(host.notices()[0].kind, 0);
     EXPECT_EQ(host.notices()[0].buttons, 7);
+}
+
+TEST_F(AttachDialog, DrawingWhoseDocumentHasNoFileCountsAsUnsaved) {
+    host.document.path = OdString();
+    give("NAME", "part");
+    open();
+    EXPECT_EQ(noticeTexts(), QStringList({notSaved, notOnOneDisk}));
 }
 
 TEST_F(AttachDialog, NameBesideTheDrawingIsFoundWithABase) {

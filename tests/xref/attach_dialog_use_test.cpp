@@ -162,6 +162,14 @@ TEST_F(AttachDialog, TypedLettersAreStoppedByTheValidator) {
     EXPECT_EQ(edit("angleEdit")->validator(), edit("scaleXEdit")->validator());
 }
 
+TEST_F(AttachDialog, NumbersAreTypedInEnglishAndWithoutAnExponent) {
+    open(write("part.dxf"));
+    type("angleEdit", "-1.5");
+    EXPECT_EQ(text("angleEdit"), "-1.5");
+    type("angleEdit", "2e3");
+    EXPECT_EQ(text("angleEdit"), "23");
+}
+
 namespace {
 
 struct Refusal {

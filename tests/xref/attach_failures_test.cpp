@@ -2,6 +2,7 @@
 #include "sdk/db/xref_man.h"
 #include "tests/xref/xref_fixture.h"
 #include "xref/attach_failures.h"
+#include "xref/attach_host.h"
 #include "xref/attach_reference.h"
 #include "xref/create_xref_reference.h"
 
@@ -270,6 +271,13 @@ TEST_F(AttachFailures, ExceptionOfAnotherKindEndsLikeAnyOtherCode) {
     EXPECT_FALSE(attachReference(hostqt::odString(write("part.dxf")), {}, OdGeScale3d(1), false, false, true,
                                  false, false, 0, false, 0));
     EXPECT_EQ(services->reported, QStringList({"XattachCmd Exception ", inFolder("part.dxf")}));
+}
+
+TEST_F(AttachFailures, WithoutADocumentTheConsoleIsTheManagersOwn) {
+    host.closeDocument();
+    EXPECT_EQ(attach::io(), &io);
+    standin::registry().documents = nullptr;
+    EXPECT_EQ(attach::io(), nullptr);
 }
 
 TEST_F(AttachFailures, MessagesAreTranslated) {

@@ -223,6 +223,32 @@ TEST_F(AttachReference, PromptsComeInTheirOrderAndPlaceTheReference) {
     EXPECT_DOUBLE_EQ(inserted().at(0)->rotation(), 0.25);
 }
 
+namespace {
+
+// The reference that a tracker shows.
+struct ShownReference : HostDrawableSink {
+    explicit ShownReference(HostEdPointTracker* tracker) { tracker->addDrawables(this); }
+    void addDrawable(OdRxObject* drawable, int, int, int, int) override {
+        reference = static_cast<OdDbBlockReference*>(drawable);
+    }
+    void removeDrawable(OdRxObject*, int, int, int, int) override {}
+    OdDbBlockReference* reference = nullptr;
+};
+
+} // namespace
+
+TEST_F(AttachReference, GivenRotationDoesNotTurnAReferenceWhoseRotationIsAskedFor) {
+    attach.insertionOnScreen = attach.rotationOnScreen = true;
+    attach.rotation = 0.5;
+    std::vector<double> turned;
+    io.onQuestion = [&](const XRefIO::Question&, HostEdPointTracker* tracker) {
+        turned.push_back(ShownReference(tracker).reference->rotation());
+    };
+    io.script({pick(5, 6), value(0.25)});
+    attach.of(write("part.dxf"));
+    EXPECT_THAT(turned, ElementsAre(0, 0));
+}
+
 TEST_F(AttachReference, ReferenceIsInNoSpaceDuringThePrompts) {
     attach.insertionOnScreen = true;
     std::size_t present = 99;
