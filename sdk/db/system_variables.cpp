@@ -50,9 +50,12 @@ OdResBufPtr OdDbDatabase::getSysVar(const OdString& name) const {
     if (parts->header.code(inHeader) != 0)
         return valueOf(parts->header, parts->codec, inHeader);
     const auto found = parts->sessionVariables.find(name.makeUpper().wide());
-    if (found == parts->sessionVariables.end())
+    if (found != parts->sessionVariables.end())
+        return found->second->clone();
+    value = applicationVariables ? applicationVariables->drawingDefault(name) : OdResBufPtr();
+    if (value.isNull())
         throw OdError(eKeyNotFound, name);
-    return found->second->clone();
+    return value;
 }
 
 void OdDbDatabase::setSysVar(const OdString& name, const OdResBuf* value) {

@@ -25,19 +25,6 @@ OdResBufPtr storedValue(const SysVarDef& definition, IParam* section) {
     return accepts(definition, *result) ? result : OdResBufPtr();
 }
 
-// Keeps a value for a scope.
-class Marked {
-public:
-    Marked(DrawingVars*& variable, DrawingVars* value) : mark(variable), former(variable) { mark = value; }
-    ~Marked() { mark = former; }
-    Marked(const Marked&) = delete;
-    Marked& operator=(const Marked&) = delete;
-
-private:
-    DrawingVars*& mark;
-    DrawingVars* former;
-};
-
 } // namespace
 
 VarService::VarService(SysVarTable variableTable, DrawingVarsLookup drawingVars)
@@ -79,10 +66,8 @@ int VarService::getVar(const OdString& name, OdResBufPtr* out, OdRxObject* conte
         return kVarUnavailable;
     DrawingVars* drawing = drawingVarsOf(context);
     OdResBufPtr value;
-    if (definition->scope == VarScope::Drawing && drawing) {
-        const Marked asking(askedFor, drawing);
+    if (definition->scope == VarScope::Drawing && drawing)
         value = drawing->valueInDrawing(definition->name);
-    }
     value = value.isNull() ? valueIn(*definition, drawing) : converted(*definition, *value);
     if (value.isNull())
         return kVarUnavailable;
@@ -104,11 +89,8 @@ int VarService::setVar(const OdString& name, OdResBuf* value, OdRxObject* contex
 }
 
 void VarService::store(const SysVarDef& definition, const OdResBufPtr& value, DrawingVars* drawing) {
-    if (definition.scope == VarScope::Drawing) {
-        const Marked asking(askedFor, drawing);
-        if (drawing->setInDrawing(definition.name, *value))
-            return;
-    }
+    if (definition.scope == VarScope::Drawing && drawing->setInDrawing(definition.name, *value))
+        return;
     (*valuesFor(definition, drawing))[definition.name] = value;
     keep(definition, *value);
 }
@@ -128,16 +110,22 @@ void VarService::keep(const SysVarDef& definition, const OdResBuf& value) {
 
 OdResBufPtr VarService::getVariable(const OdString& name) {
     const SysVarDef* definition = variables.find(hostqt::qString(name));
-    return definition ? valueIn(*definition, askedFor ? askedFor : drawingVarsOf(nullptr)) : OdResBufPtr();
+    const bool isOurs = definition && definition->scope == VarScope::Application;
+    return isOurs ? valueIn(*definition, nullptr) : OdResBufPtr();
+}
+
+OdResBufPtr VarService::drawingDefault(const OdString& name) {
+    const SysVarDef* definition = variables.find(hostqt::qString(name));
+    return definition ? definition->defaultValue->clone() : OdResBufPtr();
 }
 
 bool VarService::setVariable(const OdString& name, const OdResBuf* value) {
     const SysVarDef* definition = variables.find(hostqt::qString(name));
-    DrawingVars* drawing = askedFor ? askedFor : drawingVarsOf(nullptr);
-    if (!definition || !value || !accepts(*definition, *value) || !valuesFor(*definition, drawing))
+    const bool isOurs = definition && definition->scope == VarScope::Application;
+    if (!isOurs || !value || !accepts(*definition, *value))
         return false;
     const OdResBufPtr kept = converted(*definition, *value);
-    (*valuesFor(*definition, drawing))[definition->name] = kept;
+    applicationValues[definition->name] = kept;
     keep(*definition, *kept);
     return true;
 }

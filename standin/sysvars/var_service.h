@@ -41,8 +41,9 @@ public:
     void openOptionTree(IParam* tree) override;
     void closeOptionTree(IParam* tree) override;
 
-    // Asked by a drawing for a variable that it doesn't hold.
+    // Asked by a drawing, which holds the variables of drawings itself.
     OdResBufPtr getVariable(const OdString& name) override;
+    OdResBufPtr drawingDefault(const OdString& name) override;
     bool setVariable(const OdString& name, const OdResBuf* value) override;
 
     const SysVarTable& table() const { return variables; }
@@ -57,7 +58,6 @@ private:
     SysVarTable variables;
     DrawingVarsLookup drawingVarsOf;
     std::map<QString, OdResBufPtr> applicationValues;
-    DrawingVars* askedFor = nullptr; // the document whose drawing is being asked
     Ref<IParam> profileSection;
     Ref<IParam> openTree;
 };

@@ -113,6 +113,12 @@ EditorSelection& Canvas::editor() const { return sheet->document.editor(); }
 
 void Canvas::refresh() { update(); }
 
+void Canvas::referencesChanged() {
+    if (sheet)
+        sheet->list.forgetAll();
+    update();
+}
+
 void Canvas::viewChanged() {
     update();
     if (sheet && rect().contains(cursorAt))

@@ -35,8 +35,9 @@ public:
     void zoomToScale(double pixelsPerUnit);
     bool zoomPrevious(); // false when there is no view before this one
     void zoomTo(const OdDbObjectId& id);
-    void refresh(); // something was highlighted, selected or changed
-    void escape();  // gives up a window that is being drawn, else the selection
+    void refresh();           // something was highlighted, selected or changed
+    void referencesChanged(); // other drawings are shown in the current one than before
+    void escape();            // gives up a window that is being drawn, else the selection
     const View* view() const { return sheet ? &sheet->view() : nullptr; }
 
 signals:

@@ -8,6 +8,7 @@
 #include "sdk/db/text.h"
 
 #include <cmath>
+#include <utility>
 
 namespace workbench {
 
@@ -15,6 +16,15 @@ namespace {
 
 const int deepestBlock = 64;
 const double farthest = 1e15; // beyond it pixels can't be told apart any more
+
+std::string_view firstValue(const OdDbEntity& entity, int code) {
+    const std::size_t place = entity.tags().find(code);
+    return place == DxfTagList::npos ? std::string_view() : dxfTrimmed(entity.tags()[place].value());
+}
+
+bool isWord(std::string_view text, const char* word) {
+    return text.size() == qstrlen(word) && qstrnicmp(text.data(), word, static_cast<uint>(text.size())) == 0;
+}
 
 bool isUsable(const QPointF& point) {
     return std::isfinite(point.x()) && std::isfinite(point.y()) && std::fabs(point.x()) < farthest &&
@@ -52,7 +62,19 @@ void ItemBuilder::add(const OdDbEntity& entity, const Place& place) {
     // A layer that is off hides its own objects alone, a frozen one what its references show, too.
     if (layer.frozen || (layer.off && !isReference))
         return;
+    const Dashes outer = std::exchange(dashes, dashesOf(entity, layer, place));
     addGeometry(entity, place, layer, inkOf(entity, layer, place));
+    dashes = outer;
+}
+
+Dashes ItemBuilder::dashesOf(const OdDbEntity& entity, const LayerLook& layer, const Place& place) const {
+    const std::string_view name = firstValue(entity, 6);
+    const bool byLayer = name.empty() || isWord(name, "BYLAYER");
+    const Dashes plain = byLayer                   ? layer.dashes
+                         : isWord(name, "BYBLOCK") ? dashes
+                                                   : place.layers->linetypes().of(entity.linetype());
+    const std::string_view scale = plain ? firstValue(entity, 48) : std::string_view();
+    return scale.empty() ? plain : Linetypes::scaled(plain, dxfReal(scale));
 }
 
 LayerLook ItemBuilder::layerOf(const OdDbEntity& entity, const Place& place) const {
@@ -139,6 +161,8 @@ void ItemBuilder::put(Shape shape) {
     if (shape.points.empty())
         return;
     item.box.add(boxOf(shape));
+    if (shape.kind == Shape::Path || shape.kind == Shape::Arc)
+        shape.dashes = dashes;
     item.shapes.push_back(std::move(shape));
 }
 

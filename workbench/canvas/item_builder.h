@@ -42,6 +42,7 @@ private:
     void add(const OdDbEntity& entity, const Place& place);
     LayerLook layerOf(const OdDbEntity& entity, const Place& place) const;
     Ink inkOf(const OdDbEntity& entity, const LayerLook& layer, const Place& place) const;
+    Dashes dashesOf(const OdDbEntity& entity, const LayerLook& layer, const Place& place) const;
     void addGeometry(const OdDbEntity& entity, const Place& place, const LayerLook& layer, Ink ink);
     void addReference(const OdDbBlockReference& reference, const Place& place, const LayerLook& layer,
                       Ink ink);
@@ -54,12 +55,15 @@ private:
                   Ink ink);
     void addArc(const OdGePoint3d& center, const OdGeVector3d& zero, const OdGeVector3d& quarter,
                 double start, double sweep, const OdGeMatrix3d& matrix, Ink ink);
+    void addOther(const OdDbEntity& entity, const Place& place, const LayerLook& layer, Ink ink);
+    void addArea(const OdDbEntity& entity, const OdGeMatrix3d& toWorld, Ink ink);
     void addText(const OdDbText& text, const OdString& content, const OdGeMatrix3d& toWorld, Ink ink);
     void addMText(const OdDbMText& text, const OdGeMatrix3d& toWorld, Ink ink);
     void put(Shape shape);
     const LayerLooks& looksOf(const OdDbDatabase& drawing);
 
     Item item;
+    Dashes dashes; // of the object that is being added
     std::map<const OdDbDatabase*, LayerLooks> looks;
 };
 

@@ -2,8 +2,10 @@
 
 #include "workbench/canvas/letters.h"
 
+#include <QPolygonF>
 #include <QTransform>
 #include <cmath>
+#include <optional>
 
 namespace workbench {
 
@@ -90,15 +92,17 @@ void ItemPainter::draw(const Shape& shape) {
     use(shape.ink);
     switch (shape.kind) {
     case Shape::Path:
-        return drawRun(shape.points);
+        return drawRun(shape.points, shape.dashes);
     case Shape::Arc:
-        return drawRun(arcPoints(shape, shownView.scale()));
+        return drawRun(arcPoints(shape, shownView.scale()), shape.dashes);
+    case Shape::Fill:
+        return drawFill(shape);
     case Shape::Text:
         return drawText(shape);
     case Shape::Dot: {
         const QPointF at = shownView.toPixel(shape.points[0]);
-        addLine(at - QPointF(1, 0), at + QPointF(1, 0));
-        addLine(at - QPointF(0, 1), at + QPointF(0, 1));
+        addLine(at - QPointF(1, 0), at + QPointF(1, 0), nullptr);
+        addLine(at - QPointF(0, 1), at + QPointF(0, 1), nullptr);
         return;
     }
     case Shape::Missing:
@@ -106,19 +110,46 @@ void ItemPainter::draw(const Shape& shape) {
     }
 }
 
-void ItemPainter::drawRun(const std::vector<QPointF>& points) {
+void ItemPainter::drawRun(const std::vector<QPointF>& points, const Dashes& dashes) {
+    std::optional<Dasher> dasher;
+    if (dashes && !hasOwnPen)
+        dasher.emplace(*dashes, shownView.scale());
     QPointF last = shownView.toPixel(points.front());
     for (std::size_t i = 1; i < points.size(); ++i) {
         const QPointF next = shownView.toPixel(points[i]);
-        addLine(last, next);
+        addLine(last, next, dasher && !dasher->isPlain() ? &*dasher : nullptr);
         last = next;
     }
 }
 
-void ItemPainter::addLine(const QPointF& a, const QPointF& b) {
+void ItemPainter::addLine(const QPointF& a, const QPointF& b, Dasher* dasher) {
     QPointF from = a, to = b;
-    if (clipLine(clip, from, to))
+    const bool seen = clipLine(clip, from, to);
+    if (dasher)
+        dasher->add(seen ? QLineF(from, to) : QLineF(), QLineF(a, from).length(), QLineF(a, b).length(),
+                    lines);
+    else if (seen)
         lines.append(QLineF(from, to));
+}
+
+// What is marked has an outline instead, so that what lies upon it is still seen.
+void ItemPainter::drawFill(const Shape& area) {
+    QPolygonF corners;
+    for (const QPointF& point : area.points)
+        corners.append(shownView.toPixel(point));
+    const bool near = clip.adjusted(-1e4, -1e4, 1e4, 1e4).contains(corners.boundingRect());
+    if (hasOwnPen || !near) {
+        std::vector<QPointF> outline = area.points;
+        outline.push_back(outline.front());
+        return drawRun(outline, nullptr);
+    }
+    flush();
+    const bool smooth = target.testRenderHint(QPainter::Antialiasing);
+    target.setRenderHint(QPainter::Antialiasing, false); // no seams between areas that touch
+    target.setPen(Qt::NoPen);
+    target.setBrush(colorOf(area.ink));
+    target.drawPolygon(corners);
+    target.setRenderHint(QPainter::Antialiasing, smooth);
 }
 
 void ItemPainter::drawText(const Shape& text) {
@@ -126,7 +157,7 @@ void ItemPainter::drawText(const Shape& text) {
     const std::vector<QPointF> corners = textCorners(text);
     const double far = 1e5; // letters larger than this have no edge in sight
     if (height < smallestText || height > far || hasOwnPen)
-        drawRun({corners[0], corners[1]});
+        drawRun({corners[0], corners[1]}, nullptr);
     if (height < smallestText || height > far)
         return;
     flush();

@@ -25,8 +25,9 @@ private:
     void draw(const Shape& shape);
     void drawText(const Shape& text);
     void drawMissing(const Shape& mark);
-    void drawRun(const std::vector<QPointF>& points);
-    void addLine(const QPointF& a, const QPointF& b);
+    void drawRun(const std::vector<QPointF>& points, const Dashes& dashes);
+    void addLine(const QPointF& a, const QPointF& b, Dasher* dasher);
+    void drawFill(const Shape& area);
     QColor colorOf(Ink ink) const;
     void use(Ink ink);
     void flush();

@@ -54,8 +54,27 @@ void ItemBuilder::addGeometry(const OdDbEntity& entity, const Place& place, cons
         addMText(*paragraph, world, ink);
     else if (const auto* point = dynamic_cast<const OdDbPoint*>(&entity))
         put({Shape::Dot, ink, {flat(world * point->position())}, {}});
-    else if (entity.dxfName() == OdString(L"DIMENSION"))
+    else
+        addOther(entity, place, layer, ink);
+}
+
+// Kinds that have no class of their own, by their tags.
+void ItemBuilder::addOther(const OdDbEntity& entity, const Place& place, const LayerLook& layer, Ink ink) {
+    const OdString name = entity.dxfName();
+    if (name == OdString(L"DIMENSION"))
         addDimension(entity, place, layer, ink);
+    else if (name == OdString(L"SOLID") || name == OdString(L"TRACE"))
+        addArea(entity, place.toWorld * OdGeMatrix3d::planeToWorld(entity.normal()), ink);
+}
+
+// The corners come in the order of a Z; the fourth may be missing or the same as the third.
+void ItemBuilder::addArea(const OdDbEntity& entity, const OdGeMatrix3d& toWorld, Ink ink) {
+    Shape area{Shape::Fill, ink, {}, {}};
+    for (const int code : {10, 11, 13, 12})
+        if (entity.tags().find(code) != DxfTagList::npos)
+            area.points.push_back(flat(toWorld * entity.tags().point(entity.tags().whole(), code)));
+    if (area.points.size() > 2)
+        put(std::move(area));
 }
 
 void ItemBuilder::addArc(const OdGePoint3d& center, const OdGeVector3d& zero, const OdGeVector3d& quarter,

@@ -13,6 +13,7 @@ struct LayerLook {
     Ink ink = kForeground;
     bool off = false;
     bool frozen = false;
+    Dashes dashes;
 };
 
 // Of the palette; 7, which is white or black, is the foreground.
@@ -22,8 +23,10 @@ class LayerLooks {
 public:
     explicit LayerLooks(const OdDbDatabase& drawing);
     const LayerLook& of(const OdString& layer) const; // a missing layer is shown in the foreground
+    const Linetypes& linetypes() const { return types; }
 
 private:
+    Linetypes types;
     std::unordered_map<std::wstring, LayerLook> looks; // by name in small letters
 };
 

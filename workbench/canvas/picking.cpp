@@ -19,8 +19,8 @@ double distanceToSegment(const QPointF& point, const QPointF& a, const QPointF& 
 std::vector<QPointF> outline(const Shape& shape, double scale) {
     if (shape.kind == Shape::Arc)
         return arcPoints(shape, scale);
-    if (shape.kind == Shape::Text) {
-        std::vector<QPointF> corners = textCorners(shape);
+    if (shape.kind == Shape::Text || shape.kind == Shape::Fill) {
+        std::vector<QPointF> corners = shape.kind == Shape::Text ? textCorners(shape) : shape.points;
         corners.push_back(corners.front());
         return corners;
     }
@@ -39,7 +39,8 @@ std::vector<QPointF> outline(const Shape& shape, double scale) {
 // Texts and marks are picked anywhere inside, other shapes on their lines.
 double distanceTo(const Shape& shape, const QPointF& point, double scale) {
     const std::vector<QPointF> points = outline(shape, scale);
-    const bool filled = shape.kind == Shape::Text || shape.kind == Shape::Missing;
+    const bool filled =
+        shape.kind == Shape::Text || shape.kind == Shape::Missing || shape.kind == Shape::Fill;
     if (filled &&
         QPolygonF(QVector<QPointF>(points.begin(), points.end())).containsPoint(point, Qt::OddEvenFill))
         return 0;

@@ -3,6 +3,7 @@
 
 #include "sdk/db/object_id.h"
 #include "workbench/canvas/box.h"
+#include "workbench/canvas/linetypes.h"
 
 #include <QRgb>
 #include <QString>
@@ -17,6 +18,7 @@ constexpr Ink kForeground = 0;
 struct Shape {
     enum Kind {
         Path,   // points joined by lines
+        Fill,   // the corners of a filled area
         Arc,    // centre, the vectors to the angles 0 and 90 degrees, then start and sweep in radians
         Text,   // origin, the vectors of one letter height along and up, then how much of the width and the
                 // height lies before the origin
@@ -27,6 +29,7 @@ struct Shape {
     Ink ink = kForeground;
     std::vector<QPointF> points;
     QString text;
+    Dashes dashes{}; // of a path or an arc
 };
 
 struct Item {
