@@ -34,6 +34,7 @@ void CGroupDlg::endForNew() {
     done(kNew);
 }
 
+// The trimmed name is checked, what was typed is stored, in upper case: that is meant.
 int CGroupDlg::checkNewName(const QString& name) {
     const QString trimmed = name.trimmed();
     int error = 0;

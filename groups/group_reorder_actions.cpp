@@ -28,6 +28,7 @@ bool parsePosition(const QString& text, int& value) {
     return ok;
 }
 
+// The label speaks of less than all members, the check allows what stands behind the larger position: meant.
 void CGroupReorderDlg::reorder() {
     messageLabel->clear();
     const OdDbGroupPtr group = data->group;

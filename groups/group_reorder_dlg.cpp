@@ -73,6 +73,7 @@ void CGroupReorderDlg::refreshOrderFields(bool store) {
     data->group = group;
 }
 
+// Three texts of their own, for a number of the printf form; those of the construction never show: meant.
 void CGroupReorderDlg::showGroup(const OdDbGroupPtr& group) {
     const int count = static_cast<int>(group->numEntities());
     const QString description = hostqt::qString(group->description());

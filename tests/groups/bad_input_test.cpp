@@ -2,14 +2,20 @@
 #include "groups/command_line_edit.h"
 #include "groups/command_line_from_selection.h"
 #include "groups/command_line_unified.h"
+#include "groups/group_dlg.h"
+#include "groups/group_member_dlg.h"
+#include "groups/group_reorder_dlg.h"
 #include "groups/highlight.h"
+#include "groups/obj_highlight_dlg.h"
 #include "sdk/db/layer_table.h"
+#include "tests/groups/context_marker.h"
 #include "tests/groups/dialog_user.h"
 #include "tests/groups/group_fixture.h"
 
+#include <QGroupBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QTranslator>
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
@@ -110,22 +116,6 @@ TEST_F(BadInput, NameThatTheDictionaryRefusesLeavesTheRunWithItsException) {
     EXPECT_TRUE(hasGroup(L"G"));
 }
 
-// Marks every text of one context.
-class ContextMarker : public QTranslator {
-public:
-    explicit ContextMarker(const char* markedContext) : context(markedContext) {
-        QCoreApplication::installTranslator(this);
-    }
-    ~ContextMarker() override { QCoreApplication::removeTranslator(this); }
-    bool isEmpty() const override { return false; }
-    QString translate(const char* textContext, const char* text, const char*, int) const override {
-        return qstrcmp(textContext, context) == 0 ? QLatin1Char('~') + QLatin1String(text) : QString();
-    }
-
-private:
-    const char* context;
-};
-
 TEST_F(BadInput, TextsOfTheCommandsAreTranslatedInTheContextQObject) {
     const ContextMarker marker("QObject");
     EXPECT_EQ(runUnified({cancel()}), 1);
@@ -134,16 +124,36 @@ TEST_F(BadInput, TextsOfTheCommandsAreTranslatedInTheContextQObject) {
                        L"<~Create>:"));
 }
 
+// Title, labels, buttons, boxes and headers, as far as they have a text.
+static QStringList textsOf(const QDialog& dialog) {
+    QStringList texts{dialog.windowTitle()};
+    for (const auto* label : dialog.findChildren<QLabel*>())
+        texts << label->text();
+    for (const auto* button : dialog.findChildren<QAbstractButton*>())
+        texts << button->text();
+    for (const auto* box : dialog.findChildren<QGroupBox*>())
+        texts << box->title();
+    for (const auto* table : dialog.findChildren<QTableWidget*>())
+        for (int column = 0; column < table->columnCount(); ++column)
+            texts << table->horizontalHeaderItem(column)->text();
+    texts.removeAll(QString());
+    return texts;
+}
+
 TEST_F(BadInput, TextsOfTheDialogsAreTranslatedInTheContextQDialog) {
-    addGroup(L"G", pick({0}));
+    addGroup(L"G", pick({0, 1}));
     const ContextMarker marker("QDialog");
-    DialogUser user;
-    user.then([](QDialog& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("~Object Grouping"));
-        EXPECT_EQ(in<QTableWidget>(dialog, "groupTable").item(0, 1)->text(), QStringLiteral("~Yes"));
-        DialogUser::clickIn(dialog, "cancelButton");
-    });
-    EXPECT_EQ(run<CGroupCmd>(), 1);
+    GroupData data;
+    const OdDbObjectId groups = dictionary()->objectId();
+    CGroupDlg grouping(&window, groups, data);
+    EXPECT_EQ(in<QTableWidget>(grouping, "groupTable").item(0, 1)->text(), QStringLiteral("~Yes"));
+    CGroupReorderDlg order(&window, groups, data);
+    CObjHighlightDlg highlight(&window, group(L"G"), &host.document);
+    CGroupMemberDlg names(&window, {});
+    for (const QDialog* dialog : std::initializer_list<QDialog*>{&grouping, &order, &highlight, &names})
+        for (const QString& text : textsOf(*dialog))
+            EXPECT_TRUE(text.startsWith(QLatin1Char('~')))
+                << dialog->objectName().toStdString() << ": " << text.toStdString();
 }
 
 TEST_F(BadInput, YesAndNoOfTheListAreNotTranslated) {

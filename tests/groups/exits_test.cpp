@@ -1,5 +1,6 @@
 // Drives each command to each of its exits: every flow is cancelled at every one of its prompts and then run
 // to its end.
+#include "tests/groups/context_marker.h"
 #include "tests/groups/dialog_user.h"
 #include "tests/groups/exits_table.h"
 #include "tests/groups/group_fixture.h"
@@ -37,7 +38,8 @@ protected:
         if (flow.boxTitle)
             user.then([this](QDialog& dialog) {
                 auto& box = dynamic_cast<QMessageBox&>(dialog);
-                EXPECT_EQ(box.windowTitle(), QLatin1String(flow.boxTitle));
+                EXPECT_EQ(box.windowTitle(), mark + QLatin1String(flow.boxTitle));
+                EXPECT_TRUE(box.text().startsWith(mark));
                 box.button(flow.boxButton)->click();
             });
         const Verdict verdict = runWith(flow.steps.size());
@@ -88,6 +90,7 @@ protected:
         selection.select(pick(flow.selected));
     }
     const Flow& flow = GetParam();
+    QString mark; // of translated texts
 };
 
 TEST_P(CommandExits, CancelAtEveryPromptEndsTheRunAndChangesNothing) {
@@ -113,6 +116,19 @@ TEST_P(CommandExits, RunToTheEndHasItsTextsItsResultItsStatusItsGroupsAndNoOpenT
     EXPECT_EQ(groupsText(), flow.groupsAtEnd ? flow.groupsAtEnd : before);
     EXPECT_THAT(highlightedLines(), ElementsAreArray(flow.highlightedAtEnd));
     EXPECT_EQ(database->numActiveTransactions(), 0);
+}
+
+TEST_P(CommandExits, EveryTextIsTranslatedInTheContextQObject) {
+    const ContextMarker marker("QObject");
+    mark = QStringLiteral("~");
+    runToTheEnd();
+    std::vector<OdString> texts = askedTexts();
+    texts.insert(texts.end(), io.printed.begin(), io.printed.end());
+    for (const OdString& text : texts) {
+        if (text != OdString(L"\n")) {
+            EXPECT_EQ(text.left(1), OdString(L"~")) << text.toUtf8();
+        }
+    }
 }
 
 TEST_P(CommandExits, UndoAndRedoRestoreTheDrawingTagForTag) {
