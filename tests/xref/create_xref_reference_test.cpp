@@ -128,12 +128,18 @@ TEST_F(CreateReference, ErasingTakesDefinitionAndReferenceBack) {
     EXPECT_TRUE(blockId.isErased());
 }
 
-TEST_F(CreateReference, ErasingWithoutADefinitionErasesTheReferenceAlone) {
-    create(write("part.dxf"));
-    block("part")->upgradeOpen();
-    const auto record = odrxCast<OdDbBlockTableRecord>(blockId.safeOpenObject(OdDb::kForWrite));
-    record->erase(true);
-    EXPECT_EQ(codeOf([&] { eraseNewXRef(reference); }), eOk);
+TEST_F(CreateReference, ErasingTakesAReferenceThatIsInASpaceWithAndWithoutItsDefinition) {
+    for (const bool defined : {true, false}) {
+        create(write("part.dxf"));
+        odrxCast<OdDbBlockTableRecord>(drawing->getModelSpaceId().safeOpenObject(OdDb::kForWrite))
+            ->appendOdDbEntity(reference.get());
+        if (!defined)
+            odrxCast<OdDbBlockTableRecord>(blockId.safeOpenObject(OdDb::kForWrite))->erase(true);
+        eraseNewXRef(reference);
+        EXPECT_TRUE(reference->isErased());
+        EXPECT_TRUE(inserted().empty());
+        EXPECT_TRUE(referenceNames().isEmpty());
+    }
 }
 
 TEST_F(CreateReference, ThousandsOfReferencesAreNoHindrance) {
@@ -230,9 +236,10 @@ TEST_F(CreateReference, ResolvedPathWithAnEntryIsTheFoundFolderAndName) {
 }
 
 TEST_F(CreateReference, ResolvedPathOfALoadedReferenceWithoutAnEntryIsThatOfItsDrawing) {
-    define("a", write("a.dxf"));
+    write("a.dxf");
+    define("a", "a.dxf");
     OdDbXRefMan::load(block("a").get());
-    drawing->fileDependencyManager()->eraseEntry(L"Acad:XRef", odPath("a.dxf"));
+    drawing->fileDependencyManager()->eraseEntry(L"Acad:XRef", L"a.dxf");
     EXPECT_EQ(resolveXRefPath(block("a")), odPath("a.dxf"));
 }
 

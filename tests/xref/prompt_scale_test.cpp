@@ -174,6 +174,33 @@ const ZCell zCells[] = {
 INSTANTIATE_TEST_SUITE_P(Z, ZScaleCells, testing::ValuesIn(zCells),
                          [](const auto& row) { return row.param.name; });
 
+class YScale : public XRefTest {
+protected:
+    int ask(const Answer& answer) {
+        io.script({answer});
+        return promptYScale(y, 6);
+    }
+    double y = 5;
+};
+
+TEST_F(YScale, IsThePickedValue) {
+    EXPECT_EQ(ask(value(3)), -1);
+    EXPECT_EQ(y, 3);
+}
+
+TEST_F(YScale, IsThatOfXWhenNothingIsEntered) {
+    EXPECT_EQ(ask(enter()), -1);
+    EXPECT_EQ(y, 6);
+}
+
+TEST_F(YScale, IsOneAfterACancelAndAfterAnyOtherAnswer) {
+    EXPECT_EQ(ask(cancel()), -2);
+    EXPECT_EQ(y, 1);
+    y = 5;
+    EXPECT_EQ(ask(keyword(0)), -1);
+    EXPECT_EQ(y, 1);
+}
+
 class ScalePromptTexts : public XRefTest {
 protected:
     OdDbBlockReferencePtr reference{new OdDbBlockReference};
