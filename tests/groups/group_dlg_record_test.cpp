@@ -1,6 +1,8 @@
 // The record of the dialog "Object Grouping", seen from outside of a run.
 #include "tests/groups/group_dialog_fixture.h"
 
+#include "host/text.h"
+
 #include <QCheckBox>
 
 TEST(GroupDialogMessages, EachCodeOfAnErrorHasItsMessage) {
@@ -57,6 +59,44 @@ TEST_F(GroupDialogRecord, RowOfTheRecordKeepsItsValueWhenNoNameMatchesAfterwards
     data.name = L"chair";
     dialog.refillTable();
     EXPECT_EQ(data.currentRow, 0);
+}
+
+TEST_F(GroupDialogRecord, RefillMatchesUnnamedGroupsToo) {
+    const OdString unnamed = odrxCast<OdDbGroup>(addUnnamed(pick({5})).safeOpenObject())->name();
+    data.includeUnnamed = true;
+    data.name = unnamed;
+    dialog.refillTable();
+    ASSERT_GE(data.currentRow, 0);
+    EXPECT_EQ(names(dialog).at(data.currentRow), hostqt::qString(unnamed));
+    EXPECT_EQ(enabledButtons(dialog), all);
+}
+
+TEST_F(GroupDialogRecord, FillForIncludeUnnamedKeepsTheIdsInTheRowsAndLeavesTheRowOfTheRecord) {
+    data.name = L"TABLE";
+    data.currentRow = 7;
+    in<QCheckBox>(dialog, "includeUnnamedCheck").click();
+    EXPECT_EQ(data.currentRow, 7);
+    EXPECT_TRUE(data.includeUnnamed);
+    EXPECT_EQ(table(dialog).item(0, 0)->data(Qt::UserRole).toULongLong(),
+              reinterpret_cast<quintptr>(group(L"TABLE")->objectId().getStub()));
+    dialog.refillTable();
+    EXPECT_FALSE(table(dialog).item(0, 0)->data(Qt::UserRole).isValid());
+}
+
+TEST_F(GroupDialogRecord, ChoosingAnUnnamedGroupKeepsUnnamedChecked) {
+    addUnnamed(pick({5}));
+    in<QCheckBox>(dialog, "includeUnnamedCheck").click();
+    in<QCheckBox>(dialog, "unnamedCheck").click();
+    table(dialog).setCurrentCell(2, 0);
+    EXPECT_TRUE(in<QCheckBox>(dialog, "unnamedCheck").isChecked());
+    EXPECT_EQ(message(dialog), QString());
+}
+
+TEST_F(GroupDialogRecord, NoButtonIsMadeTheDefault) {
+    for (const auto* button : dialog.findChildren<QPushButton*>()) {
+        EXPECT_FALSE(button->isDefault()) << button->objectName().toStdString();
+        EXPECT_TRUE(button->autoDefault()) << button->objectName().toStdString();
+    }
 }
 
 TEST_F(GroupDialogRecord, CapturedNameIsTheTypedOneAndTheEditThenShowsTheRow) {
