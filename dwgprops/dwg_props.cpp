@@ -89,6 +89,7 @@ void dwgProps::addTabs() {
 
 void dwgProps::buildButtons() {
     okButton = newButton(tr("OK"), "okButton", this);
+    okButton->setDefault(true); // or Return in an edit would press Cancel, the button behind the focus
     cancelButton = newButton(tr("Cancel"), "cancelButton", this);
     helpButton = newButton(tr("Help"), "helpButton", this);
 }

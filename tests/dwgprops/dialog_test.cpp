@@ -55,6 +55,19 @@ TEST_F(PropertiesDialog, ButtonsFollowTheTabsInTabOrder) {
     EXPECT_EQ(order, QStringList({"tabs", "titleEdit", "okButton", "cancelButton", "helpButton"}));
 }
 
+TEST_F(PropertiesDialog, ReturnInAnEditPressesOkAndEscapePressesCancel) {
+    OpenProperties dialog(kSummary);
+    dialog.type("titleEdit", "typed");
+    QTest::keyClick(dialog.control<QLineEdit>("titleEdit"), Qt::Key_Return);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(summary()->getTitle(), OdString(L"typed"));
+    OpenProperties again(kSummary);
+    again.type("titleEdit", "typed anew");
+    QTest::keyClick(again.control<QLineEdit>("titleEdit"), Qt::Key_Escape);
+    EXPECT_FALSE(again.isVisible());
+    EXPECT_EQ(summary()->getTitle(), OdString(L"typed"));
+}
+
 TEST_F(PropertiesDialog, HelpShowsItsTopic) {
     OpenProperties dialog;
     dialog.click("helpButton");
