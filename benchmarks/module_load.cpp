@@ -1,5 +1,6 @@
 // Loading the module and starting it, beside loading an empty library that links the same Qt. Each figure is
 // the first load in a fresh process that already has its application object, as in the host.
+#include "benchmarks/timing.h"
 #include "host/app.h"
 #include "host/unknown.h"
 #include "sdk/rx/rx_module.h"
@@ -12,6 +13,7 @@
 #include <dlfcn.h>
 #include <stdexcept>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -45,18 +47,20 @@ double secondsInFreshProcess(const char* file) {
     return child.readAllStandardOutput().toLongLong() * 1e-9;
 }
 
-void load(benchmark::State& state, const char* file) {
-    for (auto _ : state)
-        state.SetIterationTime(secondsInFreshProcess(file));
+// "over_ms" is what the module takes beyond the empty library, to stay below 2.
+void loadAndStart(benchmark::State& state) {
+    std::vector<double> empty, module;
+    for (auto _ : state) {
+        empty.push_back(secondsInFreshProcess(EMPTY_LIBRARY_FILE));
+        module.push_back(secondsInFreshProcess(MODULE_FILE));
+        state.SetIterationTime(module.back());
+    }
+    const double emptyMs = timing::median(empty) * 1e3, moduleMs = timing::median(module) * 1e3;
+    state.counters["empty_ms"] = emptyMs;
+    state.counters["over_ms"] = moduleMs - emptyMs;
 }
-BENCHMARK_CAPTURE(load, empty_library, EMPTY_LIBRARY_FILE)
-    ->UseManualTime()
-    ->Iterations(40)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(load, module_with_initApp, MODULE_FILE)
-    ->UseManualTime()
-    ->Iterations(40)
-    ->Unit(benchmark::kMillisecond);
+
+BENCHMARK(loadAndStart)->UseManualTime()->Iterations(40)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

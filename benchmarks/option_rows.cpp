@@ -1,6 +1,6 @@
 // Building option rows up to the first paint, beside a plain loop that makes the same widgets with the same
-// style sheets in the order in which one writes them down. "ratio" compares the medians of the two within one
-// run.
+// style sheets in the order in which one writes them down. "ratio" compares the two within one run.
+#include "benchmarks/timing.h"
 #include "options/pages/clickable_label.h"
 #include "options/pages/int_spin_box.h"
 #include "options/pages/line_edit.h"
@@ -14,11 +14,8 @@
 #include <QGridLayout>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <benchmark/benchmark.h>
-#include <ctime>
 #include <malloc.h>
-#include <vector>
 
 namespace {
 
@@ -102,13 +99,6 @@ QWidget* optionRow(Window& window, TreeItem* item, int kind, RowParent rowParent
     return new QPrefWidget(item, kind == 0 ? 2 : kind == 1 ? 0 : 1, editor, false, 1, parent);
 }
 
-// Everything runs on one thread. Its processor time is not disturbed by what else the machine does.
-double cpuSeconds() {
-    timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
-}
-
 struct Cost {
     double seconds;
     double bytes;
@@ -117,35 +107,29 @@ struct Cost {
 // Until the first paint; taking the window down again is not counted.
 template <class MakeRow> Cost open(int rows, MakeRow makeRow) {
     const std::size_t before = mallinfo2().uordblks;
-    const double start = cpuSeconds();
+    const double start = timing::cpuSeconds();
     Window window;
     window.fill(rows, [&](TreeItem* item, int kind) { return makeRow(window, item, kind); });
     window.paintFirst();
-    return {cpuSeconds() - start, static_cast<double>(mallinfo2().uordblks - before)};
-}
-
-double median(std::vector<double> times) {
-    std::nth_element(times.begin(), times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2),
-                     times.end());
-    return times[times.size() / 2];
+    return {timing::cpuSeconds() - start, static_cast<double>(mallinfo2().uordblks - before)};
 }
 
 void optionRows(benchmark::State& state, RowParent rowParent) {
     const int rows = static_cast<int>(state.range(0));
     FixtureHost host;
-    std::vector<double> plain, option;
+    timing::Turns plain, option;
     double bytes = 0;
     for (auto _ : state) {
-        plain.push_back(open(rows, plainRow).seconds);
+        plain.add(open(rows, plainRow).seconds);
         const Cost cost = open(rows, [rowParent](Window& window, TreeItem* item, int kind) {
             return optionRow(window, item, kind, rowParent);
         });
-        option.push_back(cost.seconds);
+        option.add(cost.seconds);
         bytes = cost.bytes;
         state.SetIterationTime(cost.seconds);
     }
-    state.counters["ratio"] = median(option) / median(plain);
-    state.counters["us_per_row"] = median(option) * 1e6 / rows;
+    state.counters["ratio"] = option.fastest() / plain.fastest();
+    state.counters["us_per_row"] = option.fastest() * 1e6 / rows;
     state.counters["KiB_per_row"] = bytes / 1024 / rows;
 }
 

@@ -1,6 +1,7 @@
 // A search from Return to the painted result, beside a peer that matches every label and description once and
 // makes the same calls to show, hide, expand and mark on the same tree. "ratio" compares the two within one
 // run.
+#include "benchmarks/timing.h"
 #include "options/pages/clickable_label.h"
 #include "options/pages/collapse_widget.h"
 #include "options/pages/pref_widget.h"
@@ -17,9 +18,7 @@
 #include <QTextEdit>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <benchmark/benchmark.h>
-#include <ctime>
 #include <vector>
 
 namespace {
@@ -160,25 +159,12 @@ private:
     std::size_t next = 0;
 };
 
-// Everything runs on one thread. Its processor time is not disturbed by what else the machine does.
-double cpuSeconds() {
-    timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
-}
-
 template <class Search> double seconds(Window& window, Search search) {
     window.endSearch();
-    const double before = cpuSeconds();
-    search();
-    window.paint();
-    return cpuSeconds() - before;
-}
-
-double median(std::vector<double> times) {
-    std::nth_element(times.begin(), times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2),
-                     times.end());
-    return times[times.size() / 2];
+    return timing::secondsOf([&] {
+        search();
+        window.paint();
+    });
 }
 
 void searchTree(benchmark::State& state) {
@@ -186,26 +172,37 @@ void searchTree(benchmark::State& state) {
     FixtureHost host;
     Window window(rows, static_cast<int>(state.range(1)), static_cast<int>(state.range(2)));
     seconds(window, [&] { Peer(window).search(); }); // loads fonts and the like
-    std::vector<double> box, peer;
+    timing::Turns box, peer;
     for (auto _ : state) {
-        peer.push_back(seconds(window, [&] { Peer(window).search(); }));
-        box.push_back(seconds(window, [&] { QTest::keyClick(window.searchEdit, Qt::Key_Return); }));
-        state.SetIterationTime(box.back());
+        peer.add(seconds(window, [&] { Peer(window).search(); }));
+        box.add(seconds(window, [&] { QTest::keyClick(window.searchEdit, Qt::Key_Return); }));
+        state.SetIterationTime(box.last());
     }
-    state.counters["ratio"] = median(box) / median(peer);
-    state.counters["us_per_row"] = median(box) * 1e6 / rows;
+    state.counters["ratio"] = box.fastest() / peer.fastest();
+    state.counters["us_per_row"] = box.fastest() * 1e6 / rows;
 }
 
-void sizes(benchmark::internal::Benchmark* subject) {
+void search(benchmark::internal::Benchmark* subject, int turns, std::initializer_list<int> rowCounts) {
     subject->ArgNames({"rows", "hit_every", "depth"})->UseManualTime()->Unit(benchmark::kMillisecond);
-    for (const int rows : {300, 1000, 10000})
+    subject->Iterations(turns);
+    for (const int rows : rowCounts)
         for (const int hitEvery : {100, 2, 0})
             subject->Args({rows, hitEvery, 20});
-    for (const int depth : {50, 200}) // the same rows as chains
+}
+
+void smallTrees(benchmark::internal::Benchmark* subject) { search(subject, 20, {300, 1000}); }
+
+void largeTree(benchmark::internal::Benchmark* subject) { search(subject, 7, {10000}); }
+
+void chains(benchmark::internal::Benchmark* subject) { // the same rows as chains
+    search(subject, 7, {});
+    for (const int depth : {50, 200})
         subject->Args({10000, 0, depth});
 }
 
-BENCHMARK(searchTree)->Apply(sizes);
+BENCHMARK(searchTree)->Apply(smallTrees);
+BENCHMARK(searchTree)->Apply(largeTree);
+BENCHMARK(searchTree)->Apply(chains);
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // Opening the Options dialog up to its first paint, beside a plain loop that makes the same tree, rows and
 // editors with the same style sheets and knows nothing of option data. "ratio" compares the two within one
 // run.
+#include "benchmarks/timing.h"
 #include "options/preferences.h"
 #include "tests/options/option_tree_writer.h"
 #include "tests/support/fixture_host.h"
@@ -9,7 +10,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QElapsedTimer>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -136,16 +136,14 @@ struct Cost {
 // Until the first paint of the tree; taking the window down again is not counted.
 template <class Window, class... Arguments> Cost open(Arguments... arguments) {
     const std::size_t before = mallinfo2().uordblks;
-    QElapsedTimer timer;
-    timer.start();
+    const double start = timing::cpuSeconds();
     Window window(arguments...);
     PaintWatch watch;
     window.tree->viewport()->installEventFilter(&watch);
     window.show();
     while (!watch.painted)
         QCoreApplication::processEvents();
-    return {static_cast<double>(timer.nsecsElapsed()) / 1e9,
-            static_cast<double>(mallinfo2().uordblks - before)};
+    return {timing::cpuSeconds() - start, static_cast<double>(mallinfo2().uordblks - before)};
 }
 
 void openOptions(benchmark::State& state) {
@@ -153,20 +151,43 @@ void openOptions(benchmark::State& state) {
     FixtureHost host;
     writeOptions(host, rows);
     open<PlainWindow>(rows); // fonts and style are loaded for both
-    double plain = 0, options = 0, bytes = 0;
+    timing::Turns plain, options;
+    double bytes = 0;
     for (auto _ : state) {
-        plain += open<PlainWindow>(rows).seconds;
+        plain.add(open<PlainWindow>(rows).seconds);
         const Cost now = open<Preferences>(nullptr);
-        options += now.seconds;
+        options.add(now.seconds);
         bytes = now.bytes;
         state.SetIterationTime(now.seconds);
     }
-    state.counters["ratio"] = options / plain;
-    state.counters["us_per_row"] = options * 1e6 / rows / static_cast<double>(state.iterations());
+    state.counters["ratio"] = options.fastest() / plain.fastest();
+    state.counters["us_per_row"] = options.fastest() * 1e6 / rows;
     state.counters["KiB_per_row"] = bytes / 1024 / rows;
 }
 
-BENCHMARK(openOptions)->Arg(300)->Arg(1000)->Arg(10000)->UseManualTime()->Unit(benchmark::kMillisecond);
+// The same dialog with ten times the rows, in turns with the smaller one; "growth" is to stay at most 11.
+// Beside it stands the growth of the plain loop.
+void growTenfold(benchmark::State& state) {
+    const int rows = static_cast<int>(state.range(0));
+    FixtureHost smallHost;
+    writeOptions(smallHost, rows);
+    timing::Turns small, large, plainSmall, plainLarge;
+    for (auto _ : state) {
+        plainSmall.add(open<PlainWindow>(rows).seconds);
+        small.add(open<Preferences>(nullptr).seconds);
+        FixtureHost largeHost;
+        writeOptions(largeHost, rows * 10);
+        plainLarge.add(open<PlainWindow>(rows * 10).seconds);
+        large.add(open<Preferences>(nullptr).seconds);
+        state.SetIterationTime(large.last());
+    }
+    state.counters["growth"] = large.fastest() / small.fastest();
+    state.counters["plain_growth"] = plainLarge.fastest() / plainSmall.fastest();
+}
+
+BENCHMARK(openOptions)->Arg(300)->Arg(1000)->UseManualTime()->Iterations(15)->Unit(benchmark::kMillisecond);
+BENCHMARK(openOptions)->Arg(10000)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
+BENCHMARK(growTenfold)->Arg(1000)->UseManualTime()->Iterations(7)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -7,9 +7,21 @@
 #include "options/editor_parts.h"
 #include "options/option_values.h"
 
+#include <QEvent>
+
 using host_qt_ui_core::QHostComboBox;
 
 namespace {
+
+// A combo box answers a change of its style by building the list that pops up, which costs as much as several
+// rows. On its way into the row that is wasted: nobody has opened the list, and whoever does gets it in the
+// style of that moment.
+class StyleChangePassedOver : public QObject {
+public:
+    explicit StyleChangePassedOver(QWidget* watched) { watched->installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::StyleChange; }
+};
 
 // A text of the data in the user's language; false, with `out` untouched, when it isn't given.
 bool readTranslated(IParam* node, const char* name, QString* out) {
@@ -109,5 +121,6 @@ void Preferences::buildCombo(TreeItem* item, IParam* node, int id) {
             showDescription(item);
         },
         Qt::DirectConnection);
+    const StyleChangePassedOver passedOver(box);
     makeRow(1, item, box, false, 1);
 }
