@@ -46,6 +46,14 @@ TEST_F(BrowseDialog, FileThatIsThereAlreadyIsTakenOver) {
     EXPECT_EQ(referenceNames(), QStringList({"other", "part"}));
 }
 
+TEST_F(BrowseDialog, StoredPathIsComparedIgnoringCase) {
+    define("other", inFolder("OTHER.DXF"));
+    open(write("part.dxf"));
+    browse(write("other.dxf"));
+    EXPECT_EQ(dialog->name, "other");
+    EXPECT_EQ(referenceNames(), QStringList({"other", "part"}));
+}
+
 TEST_F(BrowseDialog, ReferenceOfThatNameToAnotherFileMakesANumberedName) {
     define("other", "/elsewhere/other.dxf");
     open(write("part.dxf"));

@@ -207,6 +207,16 @@ TEST_F(AttachDialog, NameWithoutABaseShowsTheMessageAndGoesOn) {
     EXPECT_EQ(dialog->name, "part");
 }
 
+TEST_F(AttachDialog, NameIsFoundIgnoringCaseAndTakesTheSpellingOfTheReference) {
+    define("other", write("other.dxf"));
+    define("Part", write("part.dxf"));
+    give("NAME", "PART");
+    open();
+    EXPECT_EQ(dialog->name, "Part");
+    EXPECT_EQ(control<QComboBox>("nameCombo")->currentText(), "Part");
+    EXPECT_EQ(dialog->path, inFolder("part.dxf"));
+}
+
 TEST_F(AttachDialog, NameInAnUnsavedDrawingShowsBothMessages) {
     name(QString());
     give("NAME", "part");

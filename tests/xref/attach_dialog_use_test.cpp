@@ -256,6 +256,20 @@ TEST_F(AttachDialog, OkAttachesWithTheNumbersShown) {
     EXPECT_EQ(referenceNames(), QStringList("part"));
 }
 
+TEST_F(AttachDialog, OkSavesThePathInTheFormThatIsChosen) {
+    provideServices();
+    give("INSERTION_POINT_SPECIFY_ON_SCREEN", 0);
+    for (const char* file : {"relative.dxf", "full.dxf"}) {
+        open(write(file));
+        choose("pathTypeCombo", QString(file) == "relative.dxf" ? 0 : 1);
+        click("okButton");
+        EXPECT_EQ(dialog->result(), QDialog::Accepted);
+        drawing->endTransaction(); // as the command does
+    }
+    EXPECT_EQ(block("relative")->pathName(), OdString(L"relative.dxf"));
+    EXPECT_EQ(block("full")->pathName(), odPath("full.dxf"));
+}
+
 TEST_F(AttachDialog, ScaleOnScreenStartsFromOne) {
     open(write("part.dxf"));
     type("scaleXEdit", "5");
