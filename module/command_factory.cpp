@@ -1,3 +1,4 @@
+// The table of command objects that the host can ask for by name.
 #include "module/command_factory.h"
 
 #include "groups/command_line_create.h"

@@ -1,3 +1,4 @@
+// Reads the arguments of the program and tells of wrong ones.
 #include "workbench/command_line.h"
 
 #include <QCommandLineParser>

@@ -1,3 +1,4 @@
+// The one place that knows which options of the profile the workbench itself follows.
 #include "workbench/settings.h"
 
 #include "host/documents.h"

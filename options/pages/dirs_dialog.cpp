@@ -1,3 +1,4 @@
+// Asks for one directory: typed or browsed for, and confirmed when it does not exist.
 #include "options/pages/dirs_dialog.h"
 
 #include "host/qt_ui_core.h"

@@ -1,3 +1,4 @@
+// Steps that the three pages take alike when they make a row, read its text or take it off the tree.
 #include "options/pages/page_rows.h"
 
 #include "options/pages/clickable_label.h"

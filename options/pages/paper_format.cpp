@@ -1,3 +1,4 @@
+// Reads a paper from its section, fills in what the section leaves out, and writes it back.
 #include "options/pages/paper_format.h"
 
 #include "host/app.h"

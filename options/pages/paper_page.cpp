@@ -1,3 +1,4 @@
+// Loads, reloads, moves, deletes and stores the papers; everything else about a paper is the host's dialog.
 #include "options/pages/paper_page.h"
 
 #include "host/app.h"

@@ -1,3 +1,4 @@
+// Makes the rows of paths and keeps count of the references in their payloads.
 #include "options/pages/path_rows.h"
 
 #include "host/std_dirs.h"

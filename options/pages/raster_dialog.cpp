@@ -1,3 +1,4 @@
+// Edits one raster format, and refuses names and extensions with characters that the store cannot take.
 #include "options/pages/raster_dialog.h"
 
 #include "host/qt_ui_core.h"

@@ -1,3 +1,4 @@
+// Reads a raster format from its section and derives what its row allows.
 #include "options/pages/raster_format.h"
 
 #include "host/typed_reads.h"

@@ -1,3 +1,4 @@
+// Loads the numbered list of raster formats, edits it in memory, and numbers it anew on Apply.
 #include "options/pages/raster_page.h"
 
 #include "host/app.h"

@@ -1,3 +1,4 @@
+// The only place where directories of a list are made.
 #include "options/pages/std_dir_info.h"
 
 #include "host/ref.h"

@@ -1,3 +1,4 @@
+// Carries a list between the host and the dialog inside a variant.
 #include "options/pages/std_dir_item.h"
 
 #include "host/param.h"

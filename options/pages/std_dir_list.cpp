@@ -1,3 +1,4 @@
+// Appends to and removes from a list that may be missing or closed.
 #include "options/pages/std_dir_list.h"
 
 void appendTo(const Ref<StdDirList>& list, const Ref<IStdDirInfo>& info) {

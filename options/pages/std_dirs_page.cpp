@@ -1,3 +1,4 @@
+// Adds, changes, deletes and moves paths, and checks a path before it is taken.
 #include "options/pages/std_dirs_page.h"
 
 #include "host/app.h"

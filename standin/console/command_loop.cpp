@@ -1,3 +1,4 @@
+// Finds the command that a line names, the workbench's own before those on the command stack, and runs it.
 #include "standin/console/command_loop.h"
 
 #include "host/documents.h"

@@ -1,3 +1,4 @@
+// Every place that tells the user of a caught exception takes its words from here.
 #include "standin/console/error_text.h"
 
 #include "host/text.h"

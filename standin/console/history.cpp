@@ -1,3 +1,4 @@
+// Keeps the typed lines and finds the next one that begins with what stands in the input line.
 #include "standin/console/history.h"
 
 namespace standin {

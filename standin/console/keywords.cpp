@@ -1,3 +1,5 @@
+// Reads keyword lists and matches what was typed against them: whole words first, then capitals, then
+// beginnings.
 #include "standin/console/keywords.h"
 
 #include <QRegularExpression>

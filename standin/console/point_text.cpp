@@ -1,3 +1,4 @@
+// Reads cartesian, polar and relative coordinates, and writes points.
 #include "standin/console/point_text.h"
 
 #include "standin/units/unit_text.h"

@@ -1,3 +1,4 @@
+// Builds the colour dialog and answers the host's call for it.
 #include "standin/dialogs/color_dialog.h"
 
 #include "host/modal_runner.h"

@@ -1,3 +1,4 @@
+// Facts about the file of a drawing are read as variables of the drawing, so they are answered here.
 #include "standin/documents/document.h"
 
 #include "host/text.h"

@@ -1,3 +1,4 @@
+// Puts a notice in front of the user, in a box and on the console.
 #include "standin/events/events.h"
 
 #include "host/qt_ui_core.h"

@@ -1,3 +1,4 @@
+// Finds the page of a topic and shows it in a window that stays beside the dialogs.
 #include "standin/help/help_service.h"
 
 #include "standin/help/help_browser.h"

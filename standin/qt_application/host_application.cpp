@@ -1,3 +1,4 @@
+// Runs the application, and catches at its edge what would otherwise end the program.
 #include "standin/qt_application/host_application.h"
 
 #include "standin/console/error_text.h"

@@ -1,3 +1,4 @@
+// Asks for objects until the user is done: by click, window, handle or word.
 #include "standin/selection/editor_selection.h"
 
 #include "host/text.h"

@@ -1,3 +1,4 @@
+// Keeps the order of adding, and each object once.
 #include "standin/selection/selection_set.h"
 
 #include <algorithm>

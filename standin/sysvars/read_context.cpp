@@ -1,3 +1,4 @@
+// Finds the drawing that a context stands for.
 #include "standin/sysvars/read_context.h"
 
 namespace standin {

@@ -1,3 +1,4 @@
+// The colours themselves, and how far two of them stand apart for a reader.
 #include "standin/themes/palettes.h"
 
 #include <algorithm>

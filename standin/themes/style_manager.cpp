@@ -1,3 +1,4 @@
+// Puts palette and style on the application, and on widgets whose style sheets would keep the old colours.
 #include "standin/themes/style_manager.h"
 
 #include "standin/registry.h"

@@ -1,3 +1,4 @@
+// Loads the catalogues, and keeps every translated text for as long as the host runs.
 #include "standin/translation/translation.h"
 
 #include "host/text.h"

@@ -1,3 +1,4 @@
+// Angles as text and back: degrees, gradians, radians and the surveyor's quadrants.
 #include "standin/units/unit_text.h"
 
 #include <QRegularExpression>

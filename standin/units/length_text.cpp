@@ -1,3 +1,4 @@
+// Lengths as text and back: decimal, scientific, feet and inches, fractions.
 #include "standin/units/unit_text.h"
 
 #include <QRegularExpression>

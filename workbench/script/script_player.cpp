@@ -1,3 +1,5 @@
+// Takes the lines of a script whenever the program waits for input, and ends the script on the first that
+// fails.
 #include "workbench/script/script_player.h"
 
 #include "standin/console/command_loop.h"

@@ -1,3 +1,4 @@
+// Finds and clicks buttons, rows, tabs and actions that a user could reach.
 #include "workbench/script/widget_finder.h"
 
 #include <QAbstractButton>

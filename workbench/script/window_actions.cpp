@@ -1,3 +1,4 @@
+// One function for each word that a line with @ may begin with.
 #include "workbench/script/window_actions.h"
 
 #include "workbench/script/widget_finder.h"

@@ -1,3 +1,4 @@
+// Keys of the input line: history, completion, Enter and Escape.
 #include "workbench/window/console_line.h"
 
 #include <QAbstractItemView>

@@ -1,3 +1,4 @@
+// Prints what comes, keeps the view at the end, and hands typed lines on.
 #include "workbench/window/console_panel.h"
 
 #include "standin/console/command_loop.h"

@@ -1,3 +1,4 @@
+// Builds the main window and keeps its title, icons and menu in step with drawing and theme.
 #include "workbench/window/main_window.h"
 
 #include "host/qt_ui_core.h"

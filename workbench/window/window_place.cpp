@@ -1,3 +1,4 @@
+// Writes and reads the place, and leaves a window alone whose place is not known.
 #include "workbench/window/window_place.h"
 
 #include "host/app.h"
