@@ -169,8 +169,8 @@ void hostInsertExternalReferenceDialog::accept() {
     const int row = pathTypeCombo->currentIndex();
     const int pathType = row == 0 ? kRelativePath : row == 1 ? kFullPath : kFileNameOnly;
     saveAttachSettings();
-    hide();
-    bool allAttached = true;
+    hide(); // so that the prompts have the drawing before them; the result follows all the same
+    bool allAttached = true; // a failure keeps none of the files behind it from being tried, on purpose
     for (const QString& file : path.split(QLatin1Char(';')))
         if (!attachReference(hostqt::odString(file), insertionPoint, scale, isOverlay(),
                              scaleOnScreenCheck->isChecked(), insertionOnScreenCheck->isChecked(),

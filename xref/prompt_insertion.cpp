@@ -12,6 +12,7 @@
 
 namespace {
 
+// The %s goes to the console as it stands, here and elsewhere: the console fills in the keywords.
 constexpr const wchar_t* kPrompt = L"Specify insertion point or [%s]";
 constexpr const wchar_t* kKeywords =
     L"Scale X Y Z Rotate PScale PX PY PZ PRotate *S *X *Y *Z *R *PS *PX *PY *PZ *PR _ "
@@ -115,7 +116,7 @@ int promptInsertion(bool& scaleOnScreen, bool& rotationOnScreen, const OdDbBlock
         OdString text;
         const int code =
             io.getPoint(nullptr, &point, prompt.c_str(), keywords.c_str(), kInsertionFlags, &text, &tracker);
-        if (code == kInputPicked || code == kInputTyped) {
+        if (code == kInputPicked || code == kInputTyped) { // typed text takes the same path, on purpose
             reference->setPosition(point);
             return kInputPicked;
         }
