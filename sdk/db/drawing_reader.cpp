@@ -7,6 +7,7 @@
 
 namespace {
 
+constexpr std::size_t kBytesOfRecord = 16; // the shortest record with a handle has about as many
 constexpr std::uint64_t kHighestHandle = std::uint64_t{1} << 60;
 
 } // namespace
@@ -24,6 +25,7 @@ void OdDbDrawingReader::read(std::string bytes) {
     }
     impl.source = std::make_shared<const std::string>(std::move(bytes));
     const std::string_view text = *impl.source;
+    impl.handles.expectHandlesBelow(text.size() / kBytesOfRecord);
     countedTo = text.data();
     const std::size_t firstLine = text.find('\n');
     impl.carriageReturns =

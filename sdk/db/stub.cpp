@@ -11,7 +11,20 @@ std::size_t OdDbHandleMap::slotOf(std::uint64_t handle) const {
     return slot;
 }
 
+bool OdDbHandleMap::insertPlain(OdDbStub* stub) {
+    const auto place = static_cast<std::size_t>(stub->handle);
+    if (place >= plain.size())
+        plain.resize(std::min(static_cast<std::size_t>(plainEnd), std::max(place + 1, plain.size() * 2)));
+    if (plain[place])
+        return false;
+    plain[place] = stub;
+    top = std::max(top, stub->handle);
+    return true;
+}
+
 bool OdDbHandleMap::insert(OdDbStub* stub) {
+    if (stub->handle < plainEnd)
+        return insertPlain(stub);
     if (used * 3 >= slots.size() * 2)
         grow();
     const std::size_t slot = slotOf(stub->handle);
@@ -24,6 +37,8 @@ bool OdDbHandleMap::insert(OdDbStub* stub) {
 }
 
 OdDbStub* OdDbHandleMap::find(std::uint64_t handle) const {
+    if (handle < plainEnd)
+        return handle < plain.size() ? plain[static_cast<std::size_t>(handle)] : nullptr;
     return slots.empty() || handle == 0 ? nullptr : slots[slotOf(handle)];
 }
 

@@ -52,17 +52,22 @@ private:
     std::size_t count = 0;
 };
 
-// From handle to stub.
+// From handle to stub. Handles of real files stand close together: those below the number that the size of
+// the file lets expect are positions in a plain list, the others are hashed.
 class OdDbHandleMap {
 public:
+    void expectHandlesBelow(std::uint64_t number) { plainEnd = number; }
     // False, and nothing changed, when the handle is taken.
     bool insert(OdDbStub* stub);
     OdDbStub* find(std::uint64_t handle) const;
     std::uint64_t highest() const { return top; }
 
 private:
+    bool insertPlain(OdDbStub* stub);
     std::size_t slotOf(std::uint64_t handle) const;
     void grow();
+    std::vector<OdDbStub*> plain;
+    std::uint64_t plainEnd = 0;
     std::vector<OdDbStub*> slots;
     std::size_t used = 0;
     std::uint64_t top = 0;
