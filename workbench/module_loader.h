@@ -1,6 +1,7 @@
 // Loads a plug-in module at run time, as the host does.
 #pragma once
 
+#include "host/cmd_process.h"
 #include "sdk/rx/rx_module.h"
 
 #include <QString>
@@ -16,9 +17,12 @@ public:
     LoadedModule(const LoadedModule&) = delete;
     LoadedModule& operator=(const LoadedModule&) = delete;
     bool isLoaded() const { return module != nullptr; }
+    // A new command object of the module by its class name; null when it has none of that name.
+    Ref<ICmdProcess> command(const char* className) const;
 
 private:
     OdRxModule* module = nullptr;
+    ICmdProcess* (*makeCommand)(const char* className) = nullptr;
 };
 
 } // namespace workbench

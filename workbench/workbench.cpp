@@ -10,6 +10,7 @@
 #include "standin/registry.h"
 #include "workbench/commands/commands.h"
 #include "workbench/commands/history_commands.h"
+#include "workbench/commands/xref_commands.h"
 #include "workbench/history/history_keeper.h"
 #include "workbench/module_loader.h"
 #include "workbench/script/script_player.h"
@@ -90,6 +91,7 @@ void Workbench::addCommands() {
     addHistoryCommands(scope, *history);
     addEditCommands(scope);
     addViewCommands(scope);
+    addXrefCommands(scope, *module);
     addPlugInEntries(*mainWindow);
     addProgramCommands(scope);
     addVariableCommands(scope);

@@ -38,6 +38,12 @@ Document* DocumentManager::adopt(std::unique_ptr<Document> document) {
     return current;
 }
 
+Document* DocumentManager::adoptOpened(std::unique_ptr<Document> document) {
+    Document* opened = adopt(std::move(document));
+    emit documentOpened(opened);
+    return opened;
+}
+
 Document* DocumentManager::openEmpty() {
     const QString title = tr("Drawing%1").arg(++emptyCount);
     return adopt(std::make_unique<Document>(OdDbDatabase::createEmpty(), io, title));
@@ -49,14 +55,14 @@ Document* DocumentManager::openFile(const QString& path) {
     OdDbXRefMan::loadAll(database.get());
     auto document = std::make_unique<Document>(std::move(database), io, QString());
     document->setPath(absolute);
-    return adopt(std::move(document));
+    return adoptOpened(std::move(document));
 }
 
 Document* DocumentManager::openCopy(const QString& path, const QString& title) {
     auto database = OdDbDatabase::readFile(hostqt::odString(QFileInfo(path).absoluteFilePath()));
     OdDbXRefMan::loadAll(database.get()); // while it still knows where it lies
     database->setFilename(OdString());
-    return adopt(std::make_unique<Document>(std::move(database), io, title));
+    return adoptOpened(std::make_unique<Document>(std::move(database), io, title));
 }
 
 void DocumentManager::save(Document* document, const QString& path) {

@@ -36,6 +36,7 @@ public:
 
 signals:
     void currentChanged();
+    void documentOpened(standin::Document* document); // from a file; it is the current one by now
     // The file, if there is one, still is as it was before.
     void beforeSave(standin::Document* document, const QString& path);
     void documentRenamed(); // it was saved under another name
@@ -43,6 +44,7 @@ signals:
 
 private:
     Document* adopt(std::unique_ptr<Document> document);
+    Document* adoptOpened(std::unique_ptr<Document> document);
     DrawingVars* drawingVars(OdRxObject* context) const;
 
     Console& io;
