@@ -34,13 +34,15 @@ QString withSuffix(const QString& path) {
 
 } // namespace
 
-bool FileQuestions::asksOnConsole() const {
+bool FileQuestions::dialogsAreOff() {
     HostDocumentManager* documents = HostDocManager();
     OdResBufPtr value;
     const bool read = documents && documents->varService() &&
                       documents->varService()->getVar(L"FILEDIA", &value, nullptr, 0) != kVarUnavailable;
-    return headless || (read && !value->getBool());
+    return read && !value->getBool();
 }
+
+bool FileQuestions::asksOnConsole() const { return headless || dialogsAreOff(); }
 
 // An empty text when the answer was Enter.
 std::optional<QString> FileQuestions::typedFile(const QString& prompt) const {

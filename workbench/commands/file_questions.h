@@ -23,7 +23,8 @@ public:
     // named `own` may be.
     std::optional<QString> fileToSave(const QString& suggested, const QString& own) const;
     Unsaved whatOfChanges(const QString& drawing) const;
-    bool asksOnConsole() const; // headless, or FILEDIA is 0
+    static bool dialogsAreOff(); // FILEDIA is 0
+    bool asksOnConsole() const;  // that, or headless
 
 private:
     Unsaved whatOfChangesByDialog(const QString& drawing) const;

@@ -63,7 +63,7 @@ void versions(const CommandScope& scope, HistoryKeeper& history) {
     const Document* current = scope.documents.currentOne();
     if (!current)
         scope.console.print(tr("No drawing is open."));
-    else if (scope.files.asksOnConsole())
+    else if (FileQuestions::dialogsAreOff())
         openByConsole(scope, history, *current);
     else
         openByDialog(history, *current);

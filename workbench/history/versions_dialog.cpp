@@ -82,9 +82,10 @@ void VersionsDialog::fill() {
             versionsTable->setItem(row, column, item);
         }
     }
-    versionsTable->setColumnWidth(0, 210);
-    versionsTable->setColumnWidth(1, 90);
+    versionsTable->resizeColumnToContents(0);
+    versionsTable->resizeColumnToContents(1);
     versionsTable->horizontalHeader()->setStretchLastSection(true);
+    versionsTable->horizontalHeader()->setHighlightSections(false);
     versionsTable->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
