@@ -92,7 +92,7 @@ TEST_F(GroupDialog, ClosingTheWindowCountsAsCancel) {
     EXPECT_TRUE(hasGroup(L"TABLE"));
 }
 
-TEST_F(GroupDialog, OneUndoTakesTheWholeRunBack) {
+TEST_F(GroupDialog, OneUndoTakesTheWholeRunBackAndOneRedoBringsItAgain) {
     user.then([](QDialog& dialog) {
             choose(dialog, "TABLE");
             DialogUser::clickIn(dialog, "selectableButton");
@@ -106,8 +106,11 @@ TEST_F(GroupDialog, OneUndoTakesTheWholeRunBack) {
     const std::string before = drawingText();
     EXPECT_EQ(runDialog(), 0);
     EXPECT_FALSE(hasGroup(L"TABLE"));
+    const std::string after = drawingText();
     EXPECT_TRUE(database->undo());
     EXPECT_TRUE(drawingText() == before);
+    EXPECT_TRUE(database->redo());
+    EXPECT_TRUE(drawingText() == after);
 }
 
 TEST_F(GroupDialog, NewWithoutASelectionMakesNoGroupAndTheDialogComesBack) {
