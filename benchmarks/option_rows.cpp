@@ -128,7 +128,7 @@ void optionRows(benchmark::State& state, RowParent rowParent) {
         bytes = cost.bytes;
         state.SetIterationTime(cost.seconds);
     }
-    state.counters["ratio"] = option.fastest() / plain.fastest();
+    state.counters["ratio"] = option.ratioTo(plain);
     state.counters["us_per_row"] = option.fastest() * 1e6 / rows;
     state.counters["KiB_per_row"] = bytes / 1024 / rows;
 }

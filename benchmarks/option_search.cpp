@@ -178,7 +178,7 @@ void searchTree(benchmark::State& state) {
         box.add(seconds(window, [&] { QTest::keyClick(window.searchEdit, Qt::Key_Return); }));
         state.SetIterationTime(box.last());
     }
-    state.counters["ratio"] = box.fastest() / peer.fastest();
+    state.counters["ratio"] = box.ratioTo(peer);
     state.counters["us_per_row"] = box.fastest() * 1e6 / rows;
 }
 
@@ -190,7 +190,7 @@ void search(benchmark::internal::Benchmark* subject, int turns, std::initializer
             subject->Args({rows, hitEvery, 20});
 }
 
-void smallTrees(benchmark::internal::Benchmark* subject) { search(subject, 20, {300, 1000}); }
+void smallTrees(benchmark::internal::Benchmark* subject) { search(subject, 60, {300, 1000}); }
 
 void largeTree(benchmark::internal::Benchmark* subject) { search(subject, 7, {10000}); }
 

@@ -160,7 +160,7 @@ void openOptions(benchmark::State& state) {
         bytes = now.bytes;
         state.SetIterationTime(now.seconds);
     }
-    state.counters["ratio"] = options.fastest() / plain.fastest();
+    state.counters["ratio"] = options.ratioTo(plain);
     state.counters["us_per_row"] = options.fastest() * 1e6 / rows;
     state.counters["KiB_per_row"] = bytes / 1024 / rows;
 }
@@ -181,8 +181,8 @@ void growTenfold(benchmark::State& state) {
         large.add(open<Preferences>(nullptr).seconds);
         state.SetIterationTime(large.last());
     }
-    state.counters["growth"] = large.fastest() / small.fastest();
-    state.counters["plain_growth"] = plainLarge.fastest() / plainSmall.fastest();
+    state.counters["growth"] = large.ratioTo(small);
+    state.counters["plain_growth"] = plainLarge.ratioTo(plainSmall);
 }
 
 BENCHMARK(openOptions)->Arg(300)->Arg(1000)->UseManualTime()->Iterations(15)->Unit(benchmark::kMillisecond);

@@ -21,6 +21,12 @@ template <class Work> double secondsOf(Work work) {
     return cpuSeconds() - before;
 }
 
+inline double median(std::vector<double> times) {
+    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+    std::nth_element(times.begin(), middle, times.end());
+    return *middle;
+}
+
 // Other work on the machine can only make a turn slower, so the fastest one tells most about the code.
 class Turns {
 public:
@@ -28,15 +34,16 @@ public:
     double fastest() const { return *std::min_element(times.begin(), times.end()); }
     double last() const { return times.back(); }
 
+    // How many times as long as the other's turns these took, as the median of the turns side by side.
+    double ratioTo(const Turns& other) const {
+        std::vector<double> ratios;
+        for (std::size_t i = 0; i < times.size(); ++i)
+            ratios.push_back(times[i] / other.times[i]);
+        return median(ratios);
+    }
+
 private:
     std::vector<double> times;
 };
-
-// For work that cannot be repeated in one process.
-inline double median(std::vector<double> times) {
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
-}
 
 } // namespace timing
