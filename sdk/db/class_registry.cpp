@@ -5,8 +5,10 @@
 #include "sdk/db/curves.h"
 #include "sdk/db/dictionary.h"
 #include "sdk/db/group.h"
+#include "sdk/db/hatch.h"
 #include "sdk/db/layer_table.h"
 #include "sdk/db/polyline.h"
+#include "sdk/db/spline.h"
 #include "sdk/db/text.h"
 #include "sdk/db/xrecord.h"
 
@@ -23,6 +25,8 @@ const Classes& entityClasses() {
         {"CIRCLE", OdDbCircle::desc()},
         {"ARC", OdDbArc::desc()},
         {"ELLIPSE", OdDbEllipse::desc()},
+        {"SPLINE", OdDbSpline::desc()},
+        {"HATCH", OdDbHatch::desc()},
         {"LWPOLYLINE", OdDbPolyline::desc()},
         {"POLYLINE", OdDb2dPolyline::desc()},
         {"TEXT", OdDbText::desc()},
