@@ -25,8 +25,10 @@ struct ConsoleInput {
 
 // What a prompt wants, for whoever shows it.
 struct OpenPrompt {
+    enum Kind { Text, Point, Angle, Distance };
+    Kind kind = Text; // of the value; all but a text may be given by a point
     QString text;
-    bool wantsPoint = false;
+    bool wantsPoint() const { return kind != Text; }
     std::optional<OdGePoint3d> base;
     bool rubberBand = false;   // a line from the base to the cursor
     bool rectangle = false;    // a box between them instead

@@ -27,10 +27,10 @@ OpenPrompt promptFor(const wchar_t* prompt, const wchar_t* keywords) {
     return result;
 }
 
-OpenPrompt pointPromptFor(const wchar_t* prompt, const wchar_t* keywords, int flags, const OdGePoint3d* base,
-                          HostEdPointTracker* tracker) {
+OpenPrompt pointPromptFor(OpenPrompt::Kind kind, const wchar_t* prompt, const wchar_t* keywords, int flags,
+                          const OdGePoint3d* base, HostEdPointTracker* tracker) {
     OpenPrompt result = promptFor(prompt, keywords);
-    result.wantsPoint = true;
+    result.kind = kind;
     if (base)
         result.base = *base;
     result.rubberBand = base && (flags & kRubberBand);
@@ -140,7 +140,8 @@ int Console::getPoint(const OdGePoint3d* base, OdGePoint3d* point, const wchar_t
             *point = *typed;
         return true;
     };
-    return askValue(pointPromptFor(prompt, keywords, flags, base, tracker), keywords, flags, text, read,
+    return askValue(pointPromptFor(OpenPrompt::Point, prompt, keywords, flags, base, tracker), keywords,
+                    flags, text, read,
                     tr("A point is needed: click, or type x,y or @dx,dy or distance<angle."));
 }
 
@@ -161,8 +162,8 @@ int Console::getAngle(const OdGePoint3d& base, double* angle, const wchar_t* pro
         *angle = *number;
         return true;
     };
-    return askValue(pointPromptFor(prompt, keywords, flags, &base, tracker), keywords, flags, text, read,
-                    tr("An angle or a point is needed."));
+    return askValue(pointPromptFor(OpenPrompt::Angle, prompt, keywords, flags, &base, tracker), keywords,
+                    flags, text, read, tr("An angle or a point is needed."));
 }
 
 int Console::getDistance(const OdGePoint3d& base, double* distance, const wchar_t* prompt,
@@ -181,8 +182,8 @@ int Console::getDistance(const OdGePoint3d& base, double* distance, const wchar_
         *distance = *number;
         return true;
     };
-    return askValue(pointPromptFor(prompt, keywords, flags, &base, tracker), keywords, flags, text, read,
-                    tr("A distance or a point is needed."));
+    return askValue(pointPromptFor(OpenPrompt::Distance, prompt, keywords, flags, &base, tracker), keywords,
+                    flags, text, read, tr("A distance or a point is needed."));
 }
 
 int Console::getReal(double* value, const wchar_t* prompt, const wchar_t* keywords, int flags, int, int) {

@@ -194,7 +194,7 @@ TEST_F(ConsoleInputTest, PromptTellsWhoeverShowsItWhatItWants) {
     QObject::connect(&console, &standin::Console::promptChanged, &console, [&] {
         if (!console.openPrompt())
             return;
-        seen = console.openPrompt()->wantsPoint && console.openPrompt()->rubberBand &&
+        seen = console.openPrompt()->wantsPoint() && console.openPrompt()->rubberBand &&
                console.openPrompt()->base == base && console.openPrompt()->text == "Second point: ";
     });
     console.getPoint(&base, &point, L"Second point:", nullptr, 14, &text, nullptr);

@@ -4,10 +4,11 @@
 
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
+#include "standin/display/picking.h"
+#include "standin/display/tracker_picture.h"
 #include "standin/documents/document_manager.h"
 #include "standin/registry.h"
 #include "standin/selection/editor_selection.h"
-#include "workbench/canvas/picking.h"
 
 using namespace standin;
 
@@ -55,7 +56,7 @@ void Canvas::connectSignals() {
     registry().zoomObject = [this](const OdDbObjectId& id) { zoomTo(id); };
     connect(&documents, &DocumentManager::currentChanged, this, &Canvas::showCurrent);
     connect(&documents, &DocumentManager::documentClosed, this, &Canvas::forgetClosed);
-    connect(&io, &Console::promptChanged, this, [this] { update(); });
+    connect(&io, &Console::promptChanged, this, &Canvas::promptChanged);
     connect(&loop, &CommandLoop::commandStarted, this, [this] { windowCorner.reset(); });
     connect(&loop, &CommandLoop::commandEnded, this, &Canvas::refresh);
 }
@@ -79,13 +80,14 @@ void Canvas::showCurrent() {
     }
     windowCorner.reset();
     scene.forget();
-    update();
+    refresh();
+    promptChanged();
 }
 
 std::unique_ptr<Sheet> Canvas::makeSheet(Document& document) {
     auto made = std::make_unique<Sheet>(document);
     Sheet* shown = made.get();
-    shown->list.changed = [this] { update(); };
+    shown->list.changed = [this] { refresh(); };
     document.editor().objectsAt = [this, shown](const OdGePoint3d& point) {
         return objectsAt(*shown, point);
     };
@@ -111,11 +113,26 @@ OdDbObjectIdArray Canvas::objectsAt(const Sheet& shown, const OdGePoint3d& point
 
 EditorSelection& Canvas::editor() const { return sheet->document.editor(); }
 
-void Canvas::refresh() { update(); }
+void Canvas::refresh() {
+    marks.forget();
+    update();
+}
 
 void Canvas::referencesChanged() {
     if (sheet)
         sheet->list.forgetAll();
+    update();
+}
+
+// A tracker lasts as long as its prompt.
+void Canvas::promptChanged() {
+    const OpenPrompt* prompt = sheet ? pointPrompt() : nullptr;
+    if (tracked && tracked->prompt() != prompt)
+        tracked.reset();
+    if (prompt && prompt->tracker && !tracked) {
+        tracked = std::make_unique<TrackerPicture>(*prompt, sheet->document.database());
+        tracked->setCursor(sheet->view().toDrawing(cursorAt));
+    }
     update();
 }
 
@@ -174,7 +191,7 @@ void Canvas::escape() {
         windowCorner.reset();
     else if (sheet && !loop.isRunning())
         editor().clearSelection();
-    update();
+    refresh();
 }
 
 } // namespace workbench

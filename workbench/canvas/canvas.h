@@ -1,7 +1,8 @@
 // The drawing area: shows the current drawing and lets the user look around in it, pick objects and points.
 #pragma once
 
-#include "workbench/canvas/scene_image.h"
+#include "standin/display/marks_image.h"
+#include "standin/display/scene_image.h"
 #include "workbench/canvas/sheet.h"
 #include "workbench/settings.h"
 
@@ -16,6 +17,7 @@ class Console;
 class DocumentManager;
 class EditorSelection;
 struct OpenPrompt;
+class TrackerPicture;
 } // namespace standin
 
 namespace workbench {
@@ -38,7 +40,7 @@ public:
     void refresh();           // something was highlighted, selected or changed
     void referencesChanged(); // other drawings are shown in the current one than before
     void escape();            // gives up a window that is being drawn, else the selection
-    const View* view() const { return sheet ? &sheet->view() : nullptr; }
+    const standin::View* view() const { return sheet ? &sheet->view() : nullptr; }
 
 signals:
     void cursorMoved(const QPointF& point); // in the drawing
@@ -60,6 +62,7 @@ private:
     void forgetClosed();
     std::unique_ptr<Sheet> makeSheet(standin::Document& document);
     void viewChanged();
+    void promptChanged();
     const standin::OpenPrompt* pointPrompt() const;
     standin::EditorSelection& editor() const;
     OdDbObjectIdArray objectsAt(const Sheet& shown, const OdGePoint3d& point) const;
@@ -79,7 +82,9 @@ private:
     standin::DocumentManager& documents;
     std::map<const standin::Document*, std::unique_ptr<Sheet>> sheets;
     Sheet* sheet = nullptr; // of the current drawing
-    SceneImage scene;
+    standin::SceneImage scene;
+    standin::MarksImage marks;
+    std::unique_ptr<standin::TrackerPicture> tracked; // of the prompt that is open
     QColor background;
     CursorSettings cursorLook;
     QPoint cursorAt{-1, -1};

@@ -3,6 +3,7 @@
 
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
+#include "standin/display/tracker_picture.h"
 #include "standin/selection/editor_selection.h"
 
 #include <QMouseEvent>
@@ -23,7 +24,7 @@ const int dragDistance = 6; // pixels; a mouse that moved less was clicked
 
 const OpenPrompt* Canvas::pointPrompt() const {
     const OpenPrompt* prompt = io.openPrompt();
-    return prompt && prompt->wantsPoint && io.isWaiting() ? prompt : nullptr;
+    return prompt && prompt->wantsPoint() && io.isWaiting() ? prompt : nullptr;
 }
 
 OdGePoint3d Canvas::drawingPoint(const QPointF& pixel) const {
@@ -93,6 +94,8 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
         sheet->change(true).panBy(event->pos() - panFrom);
         panFrom = event->pos();
     }
+    if (tracked)
+        tracked->setCursor(sheet->view().toDrawing(cursorAt));
     viewChanged();
 }
 

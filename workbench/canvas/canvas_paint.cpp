@@ -3,9 +3,10 @@
 
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
+#include "standin/display/item_painter.h"
+#include "standin/display/tracker_picture.h"
 #include "standin/documents/document_manager.h"
 #include "standin/selection/editor_selection.h"
-#include "workbench/canvas/item_painter.h"
 
 #include <QPainter>
 
@@ -16,6 +17,8 @@ namespace workbench {
 namespace {
 
 const QColor windowColor(0x3b, 0x8e, 0xea), crossingColor(0x3f, 0xb0, 0x5a);
+const QColor markColor(0x4d, 0xa3, 0xff); // of what is selected or highlighted
+const double markWidth = 2;
 const int washOpacity = 48; // of 255
 
 QPointF flat(const OdGePoint3d& point) { return {point.x, point.y}; }
@@ -47,21 +50,22 @@ void Canvas::paintEvent(QPaintEvent*) {
 }
 
 void Canvas::paintMarks(QPainter& painter) {
-    std::unordered_set<OdDbObjectId> marked = sheet->list.highlighted();
     const hostSelectionSetPtr selection = editor().getSelection();
     OdDbObjectIdArray selected;
     if (!selection.isNull())
         selection->objectIds(selected);
-    marked.insert(selected.begin(), selected.end());
-    ItemPainter itemPainter(painter, sheet->view(), contrastOf(background));
-    itemPainter.setPen(QPen(QColor(0x4d, 0xa3, 0xff), 2));
-    for (const OdDbObjectId& id : marked)
-        if (const Item* item = sheet->list.find(id))
-            itemPainter.draw(*item);
+    marks.setPen(QPen(markColor, markWidth, Qt::SolidLine, Qt::RoundCap));
+    const QPixmap& image = marks.of(sheet->list, selected, sheet->view(), devicePixelRatioF());
+    if (!image.isNull())
+        painter.drawPixmap(0, 0, image);
 }
 
 void Canvas::paintPrompt(QPainter& painter, const OpenPrompt& prompt) {
-    if (!prompt.base || !rect().contains(cursorAt))
+    if (!rect().contains(cursorAt))
+        return;
+    if (tracked)
+        tracked->paint(painter, sheet->view(), contrastOf(background));
+    if (!prompt.base)
         return;
     const QPointF base = sheet->view().toPixel(flat(*prompt.base));
     if (prompt.rectangle)

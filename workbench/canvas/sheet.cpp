@@ -2,6 +2,8 @@
 
 #include "standin/documents/document.h"
 
+using namespace standin;
+
 namespace workbench {
 
 namespace {

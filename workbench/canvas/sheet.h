@@ -1,8 +1,8 @@
 // One open drawing on the canvas: what it shows, and the part of it that is in view.
 #pragma once
 
-#include "workbench/canvas/display_list.h"
-#include "workbench/canvas/view.h"
+#include "standin/display/display_list.h"
+#include "standin/display/view.h"
 
 #include <QElapsedTimer>
 
@@ -20,20 +20,20 @@ public:
     Sheet& operator=(const Sheet&) = delete;
 
     standin::Document& document;
-    DisplayList list;
+    standin::DisplayList list;
 
-    const View& view() const { return current; }
+    const standin::View& view() const { return current; }
     // Until the user has chosen a view, all of the drawing is shown, however large the window is.
     void resize(const QSize& pixels);
     void showAll();
     // Keeps the present view for `previous` before it is changed. Changes that follow each other at once, as
     // of a turning wheel, count as one when they are `continuous`.
-    View& change(bool continuous = false);
+    standin::View& change(bool continuous = false);
     bool previous(); // false when there is none
 
 private:
-    View current;
-    std::vector<View> former;
+    standin::View current;
+    std::vector<standin::View> former;
     QElapsedTimer sinceChange; // since the last continuous one
     bool isChosen = false;
 };

@@ -9,7 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace workbench {
+namespace standin {
 
 // Lengths in drawing units: a dash, a gap (negative) or a dot (0), one after the other. Null is a plain line.
 using Dashes = std::shared_ptr<const std::vector<double>>;
@@ -41,4 +41,4 @@ private:
     bool plain = true;
 };
 
-} // namespace workbench
+} // namespace standin

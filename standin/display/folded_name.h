@@ -6,7 +6,7 @@
 #include <cwctype>
 #include <string>
 
-namespace workbench {
+namespace standin {
 
 inline std::wstring foldedName(const OdString& name) {
     std::wstring text = name.c_str();
@@ -15,4 +15,4 @@ inline std::wstring foldedName(const OdString& name) {
     return text;
 }
 
-} // namespace workbench
+} // namespace standin

@@ -2,14 +2,14 @@
 #pragma once
 
 #include "sdk/db/object_id.h"
-#include "workbench/canvas/box.h"
-#include "workbench/canvas/linetypes.h"
+#include "standin/display/box.h"
+#include "standin/display/linetypes.h"
 
 #include <QRgb>
 #include <QString>
 #include <vector>
 
-namespace workbench {
+namespace standin {
 
 // An opaque colour, or the one that stands out from the background.
 using Ink = QRgb;
@@ -47,4 +47,4 @@ Box boxOf(const Shape& shape);
 // Half the size of the mark of a missing reference, in pixels.
 constexpr double kMissingMark = 12;
 
-} // namespace workbench
+} // namespace standin

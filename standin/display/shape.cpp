@@ -1,10 +1,10 @@
-#include "workbench/canvas/shape.h"
+#include "standin/display/shape.h"
 
-#include "workbench/canvas/letters.h"
+#include "standin/display/letters.h"
 
 #include <cmath>
 
-namespace workbench {
+namespace standin {
 
 namespace {
 
@@ -60,4 +60,4 @@ Box boxOf(const Shape& shape) {
     return box;
 }
 
-} // namespace workbench
+} // namespace standin

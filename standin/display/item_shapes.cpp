@@ -4,12 +4,12 @@
 #include "sdk/db/curves.h"
 #include "sdk/db/polyline.h"
 #include "sdk/db/text.h"
-#include "workbench/canvas/item_builder.h"
-#include "workbench/canvas/text_lines.h"
+#include "standin/display/item_builder.h"
+#include "standin/display/text_lines.h"
 
 #include <cmath>
 
-namespace workbench {
+namespace standin {
 
 namespace {
 
@@ -163,4 +163,4 @@ void ItemBuilder::addMText(const OdDbMText& text, const OdGeMatrix3d& toWorld, I
     }
 }
 
-} // namespace workbench
+} // namespace standin

@@ -7,7 +7,7 @@
 #include <QRectF>
 #include <algorithm>
 
-namespace workbench {
+namespace standin {
 
 struct Box {
     double left = 1, bottom = 1, right = 0, top = 0; // empty at first
@@ -51,4 +51,4 @@ inline Box boxOf(const QPointF& a, const QPointF& b) {
     return box;
 }
 
-} // namespace workbench
+} // namespace standin

@@ -1,11 +1,11 @@
-#include "workbench/canvas/linetypes.h"
+#include "standin/display/linetypes.h"
 
 #include "sdk/db/symbol_table.h"
-#include "workbench/canvas/folded_name.h"
+#include "standin/display/folded_name.h"
 
 #include <cmath>
 
-namespace workbench {
+namespace standin {
 
 namespace {
 
@@ -84,4 +84,4 @@ void Dasher::add(const QLineF& shown, double hidden, double length, QVector<QLin
     }
 }
 
-} // namespace workbench
+} // namespace standin

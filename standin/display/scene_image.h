@@ -2,13 +2,13 @@
 // anew.
 #pragma once
 
-#include "workbench/canvas/display_list.h"
-#include "workbench/canvas/view.h"
+#include "standin/display/display_list.h"
+#include "standin/display/view.h"
 
 #include <QColor>
 #include <QPixmap>
 
-namespace workbench {
+namespace standin {
 
 // Black or white, whatever is better seen on the colour.
 QColor contrastOf(const QColor& background);
@@ -31,4 +31,4 @@ private:
     bool isCurrent = false;
 };
 
-} // namespace workbench
+} // namespace standin

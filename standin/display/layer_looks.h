@@ -3,11 +3,11 @@
 
 #include "sdk/db/database.h"
 #include "sdk/db/layer_table.h"
-#include "workbench/canvas/shape.h"
+#include "standin/display/shape.h"
 
 #include <unordered_map>
 
-namespace workbench {
+namespace standin {
 
 struct LayerLook {
     Ink ink = kForeground;
@@ -30,4 +30,4 @@ private:
     std::unordered_map<std::wstring, LayerLook> looks; // by name in small letters
 };
 
-} // namespace workbench
+} // namespace standin

@@ -1,8 +1,8 @@
-#include "workbench/canvas/text_lines.h"
+#include "standin/display/text_lines.h"
 
-#include "workbench/canvas/letters.h"
+#include "standin/display/letters.h"
 
-namespace workbench {
+namespace standin {
 
 QString shownText(QString text) {
     if (!text.contains(QLatin1String("%%")))
@@ -38,4 +38,4 @@ QStringList wrappedLines(const QString& text, double width) {
     return lines;
 }
 
-} // namespace workbench
+} // namespace standin

@@ -1,14 +1,14 @@
 // Paints items with as little work as their size on the screen deserves.
 #pragma once
 
-#include "workbench/canvas/shape.h"
-#include "workbench/canvas/view.h"
+#include "standin/display/shape.h"
+#include "standin/display/view.h"
 
 #include <QLineF>
 #include <QPainter>
 #include <QVector>
 
-namespace workbench {
+namespace standin {
 
 class ItemPainter {
 public:
@@ -43,4 +43,4 @@ private:
     QVector<QPointF> dots;
 };
 
-} // namespace workbench
+} // namespace standin

@@ -1,9 +1,9 @@
-#include "workbench/canvas/display_list.h"
+#include "standin/display/display_list.h"
 
 #include "sdk/db/block_table.h"
 #include "sdk/db/layer_table.h"
 
-namespace workbench {
+namespace standin {
 
 DisplayList::DisplayList(OdDbDatabasePtr database) : drawing(std::move(database)) {
     drawing->addReactor(this);
@@ -126,4 +126,4 @@ Box DisplayList::extents() const {
     return box;
 }
 
-} // namespace workbench
+} // namespace standin

@@ -1,11 +1,11 @@
-#include "workbench/canvas/letters.h"
+#include "standin/display/letters.h"
 
 #include <QCache>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QTransform>
 
-namespace workbench {
+namespace standin {
 
 namespace {
 
@@ -40,4 +40,4 @@ const Letters& lettersOf(const QString& text) {
     return *found;
 }
 
-} // namespace workbench
+} // namespace standin

@@ -1,6 +1,6 @@
-#include "workbench/canvas/spatial_index.h"
+#include "standin/display/spatial_index.h"
 
-namespace workbench {
+namespace standin {
 
 namespace {
 
@@ -76,4 +76,4 @@ void SpatialIndex::visit(const Box& box, const std::function<void(int item)>& vi
     }
 }
 
-} // namespace workbench
+} // namespace standin

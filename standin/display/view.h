@@ -1,14 +1,20 @@
 // What part of a drawing a window shows, and how large.
 #pragma once
 
-#include "workbench/canvas/box.h"
+#include "standin/display/box.h"
 
 #include <QSize>
+#include <QTransform>
 
-namespace workbench {
+namespace standin {
 
 class View {
 public:
+    View() = default;
+    // Just the box, with a border of some pixels.
+    static View of(const Box& box, double scale, int border);
+    QTransform drawingToPixels() const;
+    QTransform pixelsToDrawing() const { return drawingToPixels().inverted(); }
     QPointF toPixel(const QPointF& point) const {
         return {window.width() / 2.0 + (point.x() - middle.x()) * pixelsPerUnit,
                 window.height() / 2.0 - (point.y() - middle.y()) * pixelsPerUnit};
@@ -16,6 +22,10 @@ public:
     QPointF toDrawing(const QPointF& pixel) const {
         return {middle.x() + (pixel.x() - window.width() / 2.0) / pixelsPerUnit,
                 middle.y() - (pixel.y() - window.height() / 2.0) / pixelsPerUnit};
+    }
+    friend bool operator==(const View& a, const View& b) {
+        return a.middle.x() == b.middle.x() && a.middle.y() == b.middle.y() &&
+               a.pixelsPerUnit == b.pixelsPerUnit && a.window == b.window;
     }
     double scale() const { return pixelsPerUnit; }
     QSize size() const { return window; }
@@ -35,4 +45,4 @@ private:
     QSize window{1, 1};
 };
 
-} // namespace workbench
+} // namespace standin

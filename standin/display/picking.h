@@ -1,9 +1,9 @@
 // Which items lie at a point or in a window.
 #pragma once
 
-#include "workbench/canvas/display_list.h"
+#include "standin/display/display_list.h"
 
-namespace workbench {
+namespace standin {
 
 // The one nearest to the point within `reach` drawing units, the topmost of equals; null when there is none.
 // `scale` is the number of pixels for a unit.
@@ -11,4 +11,4 @@ OdDbObjectId itemAt(const DisplayList& list, const QPointF& point, double reach,
 // Those inside of the window, or with `crossing` those that it touches.
 OdDbObjectIdArray itemsIn(const DisplayList& list, const Box& window, bool crossing, double scale);
 
-} // namespace workbench
+} // namespace standin

@@ -1,13 +1,13 @@
-#include "workbench/canvas/item_painter.h"
+#include "standin/display/item_painter.h"
 
-#include "workbench/canvas/letters.h"
+#include "standin/display/letters.h"
 
 #include <QPolygonF>
 #include <QTransform>
 #include <cmath>
 #include <optional>
 
-namespace workbench {
+namespace standin {
 
 namespace {
 
@@ -182,4 +182,4 @@ void ItemPainter::drawMissing(const Shape& mark) {
     target.drawText(box.topRight() + QPointF(5, kMissingMark + 4), mark.text);
 }
 
-} // namespace workbench
+} // namespace standin

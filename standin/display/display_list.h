@@ -3,14 +3,14 @@
 
 #include "sdk/db/database.h"
 #include "sdk/db/reactor.h"
-#include "workbench/canvas/item_builder.h"
-#include "workbench/canvas/spatial_index.h"
+#include "standin/display/item_builder.h"
+#include "standin/display/spatial_index.h"
 
 #include <functional>
 #include <unordered_map>
 #include <unordered_set>
 
-namespace workbench {
+namespace standin {
 
 class DisplayList : public OdDbDatabaseReactor {
 public:
@@ -52,4 +52,4 @@ private:
     bool everything = true;
 };
 
-} // namespace workbench
+} // namespace standin

@@ -2,13 +2,13 @@
 // quarter that, doubled in size about its middle, surely holds it.
 #pragma once
 
-#include "workbench/canvas/box.h"
+#include "standin/display/box.h"
 
 #include <array>
 #include <functional>
 #include <vector>
 
-namespace workbench {
+namespace standin {
 
 class SpatialIndex {
 public:
@@ -33,4 +33,4 @@ private:
     std::vector<int> outside;
 };
 
-} // namespace workbench
+} // namespace standin

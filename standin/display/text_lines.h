@@ -3,11 +3,11 @@
 
 #include <QStringList>
 
-namespace workbench {
+namespace standin {
 
 // %%d, %%p and %%c as the signs that they stand for; the switches of under- and overlining are left out.
 QString shownText(QString text);
 // The lines of a paragraph, parted at blanks where they are wider than `width` letter heights; 0 is no limit.
 QStringList wrappedLines(const QString& text, double width);
 
-} // namespace workbench
+} // namespace standin

@@ -1,9 +1,9 @@
-#include "workbench/canvas/picking.h"
+#include "standin/display/picking.h"
 
 #include <QPolygonF>
 #include <cmath>
 
-namespace workbench {
+namespace standin {
 
 namespace {
 
@@ -112,4 +112,4 @@ OdDbObjectIdArray itemsIn(const DisplayList& list, const Box& window, bool cross
     return found;
 }
 
-} // namespace workbench
+} // namespace standin

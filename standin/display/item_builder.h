@@ -2,7 +2,7 @@
 #pragma once
 
 #include "sdk/db/entity.h"
-#include "workbench/canvas/layer_looks.h"
+#include "standin/display/layer_looks.h"
 
 #include <map>
 #include <memory>
@@ -16,7 +16,7 @@ class OdDbMText;
 class OdDbPolylineBase;
 class OdDbText;
 
-namespace workbench {
+namespace standin {
 
 class ItemBuilder {
 public:
@@ -24,8 +24,9 @@ public:
     Item build(OdDbObjectId id);
     // An object that need not be in a drawing, as trackers show it.
     Item build(const OdDbEntity& entity, const OdDbDatabase& drawing);
-    // Objects of more shapes than this are cut off there: blocks that repeat each other grow without bounds.
-    static constexpr std::size_t kMostShapes = 20000;
+    // Blocks that repeat each other grow without bounds: what would be beyond these numbers isn't shown.
+    static constexpr std::size_t kMostShapes = 1000000; // of one object
+    static constexpr std::size_t kMostParts = 4000000;  // of blocks, in all
 
 private:
     // Where and in which looks the parts of a block are shown; the first one is the drawing itself.
@@ -37,6 +38,7 @@ private:
         LayerLook layer; // of the reference: its parts on layer 0 follow it
         Ink byBlock = kForeground;
         int depth = 0;
+        bool isExternal = false; // the parts are those of another drawing
     };
 
     void add(const OdDbEntity& entity, const Place& place);
@@ -60,11 +62,13 @@ private:
     void addText(const OdDbText& text, const OdString& content, const OdGeMatrix3d& toWorld, Ink ink);
     void addMText(const OdDbMText& text, const OdGeMatrix3d& toWorld, Ink ink);
     void put(Shape shape);
+    bool isFull() const { return item.shapes.size() >= kMostShapes || parts >= kMostParts; }
     const LayerLooks& looksOf(const OdDbDatabase& drawing);
 
     Item item;
-    Dashes dashes; // of the object that is being added
+    std::size_t parts = 0; // of blocks, so far
+    Dashes dashes;         // of the object that is being added
     std::map<const OdDbDatabase*, LayerLooks> looks;
 };
 
-} // namespace workbench
+} // namespace standin

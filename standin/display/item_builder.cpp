@@ -1,5 +1,5 @@
 // Which objects are shown, where, and in what colour.
-#include "workbench/canvas/item_builder.h"
+#include "standin/display/item_builder.h"
 
 #include "sdk/db/block_reference.h"
 #include "sdk/db/block_table.h"
@@ -10,7 +10,7 @@
 #include <cmath>
 #include <utility>
 
-namespace workbench {
+namespace standin {
 
 namespace {
 
@@ -55,7 +55,7 @@ Item ItemBuilder::build(const OdDbEntity& entity, const OdDbDatabase& drawing) {
 }
 
 void ItemBuilder::add(const OdDbEntity& entity, const Place& place) {
-    if (item.shapes.size() >= kMostShapes || !entity.isVisible())
+    if (!entity.isVisible())
         return;
     const LayerLook layer = layerOf(entity, place);
     const bool isReference = entity.isKindOf(OdDbBlockReference::desc());
@@ -94,8 +94,8 @@ void ItemBuilder::addReference(const OdDbBlockReference& reference, const Place&
                                const LayerLook& layer, Ink ink) {
     const OdDbObjectId block = reference.blockTableRecord();
     bool shown = false;
-    for (int row = 0; row < reference.rowCount() && item.shapes.size() < kMostShapes; ++row)
-        for (int column = 0; column < reference.columnCount() && item.shapes.size() < kMostShapes; ++column)
+    for (int row = 0; row < reference.rowCount() && !isFull(); ++row)
+        for (int column = 0; column < reference.columnCount() && !isFull(); ++column)
             shown |=
                 addBlock(block, place, place.toWorld * reference.blockTransform(row, column), layer, ink);
     if (!shown && !layer.off) {
@@ -119,9 +119,12 @@ void ItemBuilder::addAttributes(const OdDbBlockReference& reference, const Place
 // space of its own drawing, in the looks of the layers there.
 bool ItemBuilder::addBlock(OdDbObjectId blockId, const Place& place, const OdGeMatrix3d& toWorld,
                            const LayerLook& layer, Ink ink) {
+    ++parts;
     const auto block = odrxQuery<OdDbBlockTableRecord>(blockId.openObject().get());
     if (block.isNull())
         return false;
+    if (place.isExternal && block->isFromOverlayReference())
+        return true; // overlays are shown in the drawing alone that they were attached to
     OdDbObjectId contents = blockId;
     const OdDbDatabasePtr loaded = block->xrefDatabase();
     if (!loaded.isNull())
@@ -133,10 +136,14 @@ bool ItemBuilder::addBlock(OdDbObjectId blockId, const Place& place, const OdGeM
             return true; // it contains itself: shown once
     if (place.depth >= deepestBlock)
         return true;
-    const Place inner{&place, contents, toWorld,        loaded.isNull() ? place.layers : &looksOf(*loaded),
-                      layer,  ink,      place.depth + 1};
+    Place inner{&place, contents, toWorld, place.layers, layer, ink, place.depth + 1, place.isExternal};
+    if (!loaded.isNull()) {
+        inner.layers = &looksOf(*loaded);
+        inner.isExternal = true;
+    }
     const auto record = odrxCast<OdDbBlockTableRecord>(contents.safeOpenObject());
-    for (auto it = record->newIterator(); !it.done() && item.shapes.size() < kMostShapes; it.step()) {
+    for (auto it = record->newIterator(); !it.done() && !isFull(); it.step()) {
+        ++parts;
         const auto part = odrxQuery<OdDbEntity>(it.objectId().openObject().get());
         if (!part.isNull() && !part->isKindOf(OdDbAttributeDefinition::desc()))
             add(*part, inner);
@@ -166,4 +173,4 @@ void ItemBuilder::put(Shape shape) {
     item.shapes.push_back(std::move(shape));
 }
 
-} // namespace workbench
+} // namespace standin

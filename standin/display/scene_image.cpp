@@ -1,11 +1,11 @@
-#include "workbench/canvas/scene_image.h"
+#include "standin/display/scene_image.h"
 
-#include "workbench/canvas/item_painter.h"
+#include "standin/display/item_painter.h"
 
 #include <QRegion>
 #include <cmath>
 
-namespace workbench {
+namespace standin {
 
 namespace {
 
@@ -77,4 +77,4 @@ void SceneImage::paint(const DisplayList& list, const QRect& part) {
         itemPainter.draw(*item);
 }
 
-} // namespace workbench
+} // namespace standin

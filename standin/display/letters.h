@@ -4,7 +4,7 @@
 #include <QPainterPath>
 #include <QString>
 
-namespace workbench {
+namespace standin {
 
 // At a letter height of 1, from the origin to the right, y upwards.
 struct Letters {
@@ -14,4 +14,4 @@ struct Letters {
 
 const Letters& lettersOf(const QString& text);
 
-} // namespace workbench
+} // namespace standin

@@ -1,8 +1,8 @@
-#include "workbench/canvas/layer_looks.h"
+#include "standin/display/layer_looks.h"
 
-#include "workbench/canvas/folded_name.h"
+#include "standin/display/folded_name.h"
 
-namespace workbench {
+namespace standin {
 
 namespace {
 
@@ -37,4 +37,4 @@ const LayerLook& LayerLooks::of(const OdString& layer) const {
     return found == looks.end() ? plain : found->second;
 }
 
-} // namespace workbench
+} // namespace standin

@@ -1,6 +1,6 @@
-#include "workbench/canvas/view.h"
+#include "standin/display/view.h"
 
-namespace workbench {
+namespace standin {
 
 namespace {
 
@@ -11,6 +11,20 @@ const double smallestScale = 1e-9, largestScale = 1e9;
 
 Box View::visible() const {
     return boxOf(toDrawing({0, 0}), toDrawing({1.0 * window.width(), 1.0 * window.height()}));
+}
+
+View View::of(const Box& box, double scale, int border) {
+    View view;
+    view.middle = box.center();
+    view.pixelsPerUnit = scale;
+    view.window =
+        QSize(int(box.width() * scale) + 1 + 2 * border, int(box.height() * scale) + 1 + 2 * border);
+    return view;
+}
+
+QTransform View::drawingToPixels() const {
+    const QPointF origin = toPixel({0, 0});
+    return {pixelsPerUnit, 0, 0, -pixelsPerUnit, origin.x(), origin.y()};
 }
 
 void View::panBy(const QPointF& pixels) {
@@ -38,4 +52,4 @@ void View::fit(const Box& box) {
         setScale(scale);
 }
 
-} // namespace workbench
+} // namespace standin
