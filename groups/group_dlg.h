@@ -45,7 +45,7 @@ protected:
 private:
     enum Order { kCollated = 0, kSorted = 1 }; // of the three fills of the table
     struct Row {
-        OdString name;
+        QString name;
         bool selectable;
         OdDbObjectId id;
     };

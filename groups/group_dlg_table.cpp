@@ -55,6 +55,7 @@ void CGroupDlg::clearTable() {
     rowIds.clear();
 }
 
+// The key of a group is its name.
 std::vector<CGroupDlg::Row> CGroupDlg::rowsOf(const OdDbDictionaryPtr& dictionary, Order order, bool strict) {
     std::vector<Row> rows;
     namedRows = 0;
@@ -65,8 +66,8 @@ std::vector<CGroupDlg::Row> CGroupDlg::rowsOf(const OdDbDictionaryPtr& dictionar
         const bool anonymous = group->isAnonymous();
         if (anonymous && !data->includeUnnamed)
             continue;
-        rows.push_back({group->name(), group->isSelectable(), group->objectId()});
-        noteRow(rows.back().name, anonymous, static_cast<int>(rows.size()) - 1, strict);
+        rows.push_back({hostqt::qString(entry->name()), group->isSelectable(), group->objectId()});
+        noteRow(entry->name(), anonymous, static_cast<int>(rows.size()) - 1, strict);
     }
     return rows;
 }
@@ -84,10 +85,12 @@ void CGroupDlg::showRows(const std::vector<Row>& rows, bool withIds) {
     // A header that may redraw looks for the position of each row that is resized, which takes as long as
     // there are rows.
     groupTable->verticalHeader()->setUpdatesEnabled(false);
+    const QSignalBlocker blocker(
+        groupTable->model()); // the rows are new: nobody needs to hear of their cells
     const QString yes = group_dialogs::yesOrNo(true), no = group_dialogs::yesOrNo(false);
     int at = 0;
     for (const Row& row : rows) {
-        auto* const nameItem = new QTableWidgetItem(hostqt::qString(row.name));
+        auto* const nameItem = new QTableWidgetItem(row.name);
         if (withIds)
             nameItem->setData(Qt::UserRole, group_dialogs::dataOfId(row.id));
         groupTable->setItem(at, 0, nameItem);
@@ -96,4 +99,5 @@ void CGroupDlg::showRows(const std::vector<Row>& rows, bool withIds) {
         rowIds.push_back(row.id);
     }
     groupTable->verticalHeader()->setUpdatesEnabled(true);
+    groupTable->viewport()->update();
 }

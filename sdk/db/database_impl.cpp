@@ -5,9 +5,17 @@
 
 #include <QString>
 #include <algorithm>
+#include <utility>
 
 std::wstring odDbFoldedName(const OdString& name) {
-    return QString::fromStdWString(name.wide()).toCaseFolded().toStdWString();
+    std::wstring folded = name.wide();
+    for (wchar_t& c : folded) {
+        if (c >= 0x80)
+            return QString::fromStdWString(folded).toCaseFolded().toStdWString();
+        if (c >= L'A' && c <= L'Z')
+            c += L'a' - L'A';
+    }
+    return folded;
 }
 
 // The tags of an object before a change.
@@ -17,14 +25,34 @@ public:
     void swap() override {
         std::swap(stub.object->content, image);
         stub.object->contentReplaced();
-        ++stub.database->impl().changeCount;
-        stub.database->impl().notify(
-            [this](OdDbDatabaseReactor& reactor) { reactor.objectModified(OdDbObjectId(&stub)); });
+        stub.database->impl().tellModified(stub);
     }
 
 private:
     OdDbStub& stub;
     DxfTagList image;
+};
+
+// Some tags of an object in the place of others.
+class OdDbSpliceChange : public OdDbChange {
+public:
+    OdDbSpliceChange(OdDbObject& changed, std::size_t at, std::size_t count, DxfTagList tags)
+        : stub(*changed.ownStub), position(at), present(count), others(std::move(tags)) {}
+    void apply() {
+        const std::size_t inserted = others.size();
+        stub.object->content.exchange(position, present, others);
+        stub.object->contentSpliced(position, std::exchange(present, inserted), inserted);
+    }
+    void swap() override {
+        apply();
+        stub.database->impl().tellModified(stub);
+    }
+
+private:
+    OdDbStub& stub;
+    std::size_t position;
+    std::size_t present; // tags that stand there now
+    DxfTagList others;
 };
 
 namespace {
@@ -185,10 +213,29 @@ void OdDbDatabaseImpl::appendEntity(OdDbStub& block, OdDbObject& entity) {
     list.push_back(&stub);
 }
 
-void OdDbDatabaseImpl::rememberImage(OdDbObject& object) {
+void OdDbDatabaseImpl::tellModified(OdDbStub& stub) {
     ++changeCount;
-    OdDbStub& stub = *object.ownStub;
     notify([&stub](OdDbDatabaseReactor& reactor) { reactor.objectModified(OdDbObjectId(&stub)); });
+}
+
+void OdDbDatabaseImpl::splice(OdDbObject& object, std::size_t position, std::size_t count, DxfTagList tags) {
+    auto change = std::make_unique<OdDbSpliceChange>(object, position, count, std::move(tags));
+    change->apply();
+    rememberChange(object, std::move(change));
+}
+
+void OdDbDatabaseImpl::rememberChange(OdDbObject& object, std::unique_ptr<OdDbChange> change) {
+    OdDbStub& stub = *object.ownStub;
+    tellModified(stub);
+    if (stub.imageEpoch == log.epoch())
+        return;
+    stub.set(OdDbStub::kChanged, true);
+    log.record(std::move(change));
+}
+
+void OdDbDatabaseImpl::rememberImage(OdDbObject& object) {
+    OdDbStub& stub = *object.ownStub;
+    tellModified(stub);
     if (stub.imageEpoch == log.epoch())
         return;
     stub.set(OdDbStub::kChanged, true);

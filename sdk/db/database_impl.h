@@ -110,6 +110,10 @@ public:
                          std::string_view typeTitle);
     void appendEntity(OdDbStub& block, OdDbObject& entity);
     void rememberImage(OdDbObject& object);
+    void splice(OdDbObject& object, std::size_t position, std::size_t count, DxfTagList tags); // recorded
+    // For a change that has just been made in the object's tags and knows its own way back.
+    void rememberChange(OdDbObject& object, std::unique_ptr<OdDbChange> change);
+    void tellModified(OdDbStub& stub);
     void setErased(OdDbStub& stub, bool erased); // recorded
     void applyErased(OdDbStub& stub, bool erased);
     void setXrefDatabase(OdDbStub& block, OdDbDatabasePtr loaded); // recorded

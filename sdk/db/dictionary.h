@@ -4,30 +4,40 @@
 
 #include "sdk/db/object.h"
 
+#include <memory>
 #include <unordered_map>
+
+struct OdDbDictionaryEntry {
+    OdString name;
+    OdDbStub* stub;  // null for a handle that leads nowhere
+    std::size_t tag; // of the name; that of the object follows
+    bool isAlive() const;
+};
+using OdDbDictionaryEntries = std::vector<OdDbDictionaryEntry>;
 
 // A list of the entries at the time it was made.
 class OdDbDictionaryIterator : public OdRxObject {
     ODRX_DECLARE_CLASS(OdDbDictionaryIterator)
 public:
-    struct Entry {
-        OdString name;
-        OdDbObjectId id;
-    };
-    explicit OdDbDictionaryIterator(std::vector<Entry> list) : entries(std::move(list)) {}
-    bool done() const { return position >= entries.size(); }
+    using Order = std::vector<std::uint32_t>;
+    OdDbDictionaryIterator(std::shared_ptr<const OdDbDictionaryEntries> list,
+                           std::shared_ptr<const Order> entryOrder)
+        : entries(std::move(list)), order(std::move(entryOrder)) {}
+    bool done() const { return position >= order->size(); }
     bool next() {
         ++position;
         return !done();
     }
-    OdString name() const { return entries.at(position).name; }
-    OdDbObjectId objectId() const { return entries.at(position).id; }
+    const OdString& name() const { return entry().name; }
+    OdDbObjectId objectId() const { return OdDbObjectId(entry().stub); }
     OdDbObjectPtr getObject(OdDb::OpenMode mode = OdDb::kForRead) const {
         return objectId().openObject(mode);
     }
 
 private:
-    std::vector<Entry> entries;
+    const OdDbDictionaryEntry& entry() const { return (*entries)[order->at(position)]; }
+    std::shared_ptr<const OdDbDictionaryEntries> entries;
+    std::shared_ptr<const Order> order;
     std::size_t position = 0;
 };
 using OdDbDictionaryIteratorPtr = OdSmartPtr<OdDbDictionaryIterator>;
@@ -63,19 +73,27 @@ public:
     bool refersToErased() const override;
 
 private:
-    struct Entry {
-        OdString name;
-        OdDbStub* stub; // null for a handle that leads nowhere
-        bool isAlive() const;
-    };
+    using Order = OdDbDictionaryIterator::Order;
     void contentReplaced() override { cached = false; }
+    bool staysInMemory() const override { return cached; }
+    void contentSpliced(std::size_t position, std::size_t removed, std::size_t inserted) override;
     void fillCache() const;
-    std::size_t tagOfEntry(std::size_t entry) const;
+    void noteEntryAt(std::size_t tag) const;
+    void forgetLastEntry();
+    void renameEntryAt(std::size_t tag);
+    bool areAllAlive() const;
+    OdDbDictionaryEntries& ownEntries() const;
+    std::shared_ptr<const Order> order(OdRx::DictIterType type) const;
     std::size_t findEntry(const OdString& name) const;
-    bool isHardOwner() const;
+    void removeEntry(std::size_t entry);
+    DxfTagList nameTag(const OdString& name) const;
 
     mutable bool cached = false;
-    mutable std::vector<Entry> entries;
+    mutable bool distinct = false; // no name and no object has two entries
+    mutable bool hardOwner = false;
+    mutable std::size_t dangling = 0;                       // entries without an object
+    mutable std::shared_ptr<OdDbDictionaryEntries> entries; // with the iterators, until it changes
+    mutable std::shared_ptr<const Order> orders[2];         // of all entries, by OdRx::DictIterType
     mutable std::unordered_map<std::wstring, std::size_t> byName;
     mutable std::unordered_map<const OdDbStub*, std::size_t> byObject; // the first entry of each
 };

@@ -16,10 +16,43 @@ constexpr int kUnnamed = 70;
 constexpr int kSelectable = 71;
 constexpr int kMember = 340;
 
+DxfTagList memberTagsOf(const DxfTagList& like, const std::vector<OdDbStub*>& joining) {
+    DxfTagList tags = like.part({0, 0});
+    for (const OdDbStub* stub : joining)
+        tags.append(kMember, dxfHandleText(stub->handle));
+    return tags;
+}
+
 OdDbDictionaryPtr ownerOf(const OdDbGroup& group, OdDb::OpenMode mode) {
     return odrxQuery<OdDbDictionary>(group.ownerId().openObject(mode).get());
 }
 } // namespace
+
+// Another order of the members from `first` to `last`, with the way back: the order turned round, or, with a
+// `middle` between them, the members from `middle` on put before the others.
+class OdDbGroupOrderChange : public OdDbChange {
+public:
+    OdDbGroupOrderChange(OdDbGroup& changed, std::size_t from, std::size_t to)
+        : OdDbGroupOrderChange(changed, from, from, to) {}
+    OdDbGroupOrderChange(OdDbGroup& changed, std::size_t from, std::size_t between, std::size_t to)
+        : stub(changed.objectId().getStub()), first(from), middle(between), last(to) {}
+    void apply(OdDbGroup& group) {
+        const auto steps = static_cast<std::ptrdiff_t>(middle - first);
+        group.rearrange(first, last - first, [steps](auto begin, auto end) {
+            steps == 0 ? std::reverse(begin, end) : void(std::rotate(begin, begin + steps, end));
+        });
+        if (steps != 0)
+            middle = first + (last - middle);
+    }
+    void swap() override {
+        apply(static_cast<OdDbGroup&>(*stub->object));
+        stub->database->impl().tellModified(*stub);
+    }
+
+private:
+    OdDbStub* stub;
+    std::size_t first, middle, last;
+};
 
 OdDbGroup::OdDbGroup() {
     startTags("GROUP");
@@ -50,25 +83,42 @@ void OdDbGroup::setName(const OdString& newName) {
     assertWriteEnabled();
     rename(newName);
     if (isAnonymous())
-        edit().set(kMarker, kUnnamed, "0");
+        setTag(kUnnamed, "0");
 }
 
-OdString OdDbGroup::description() const { return textValue(kMarker, kDescription); }
+void OdDbGroup::setTag(int code, std::string_view value) {
+    const std::size_t found = content.find(kMarker, code);
+    DxfTagList tag = content.part({0, 0});
+    tag.append(code, value);
+    if (found == DxfTagList::npos)
+        splice(content.subclass(kMarker).end, 0, std::move(tag));
+    else
+        splice(found, 1, std::move(tag));
+}
 
-void OdDbGroup::setDescription(const OdString& text) { setTextValue(kMarker, kDescription, text); }
+OdString OdDbGroup::description() const {
+    const std::size_t found = content.find(kMarker, kDescription);
+    return found == DxfTagList::npos ? OdString() : codec().decode(content[found].value());
+}
+
+void OdDbGroup::setDescription(const OdString& text) { setTag(kDescription, codec().encode(text)); }
 
 bool OdDbGroup::isSelectable() const {
-    return content.integer(content.subclass(kMarker), kSelectable, 1) != 0;
+    const std::size_t found = content.find(kMarker, kSelectable);
+    return found == DxfTagList::npos || dxfInteger(content[found].value()) != 0;
 }
 
-void OdDbGroup::setSelectable(bool selectable) { edit().set(kMarker, kSelectable, selectable ? "1" : "0"); }
+void OdDbGroup::setSelectable(bool selectable) { setTag(kSelectable, selectable ? "1" : "0"); }
 
-bool OdDbGroup::isAnonymous() const { return content.integer(content.subclass(kMarker), kUnnamed) != 0; }
+bool OdDbGroup::isAnonymous() const {
+    const std::size_t found = content.find(kMarker, kUnnamed);
+    return found != DxfTagList::npos && dxfInteger(content[found].value()) != 0;
+}
 
 void OdDbGroup::setAnonymous() {
     if (isAnonymous())
         return;
-    edit().set(kMarker, kUnnamed, "1");
+    setTag(kUnnamed, "1");
     rename(odDbNewAnonymousName());
 }
 
@@ -83,11 +133,45 @@ void OdDbGroup::fillCache() const {
     for (std::size_t i = range.begin; i < range.end; ++i) {
         if (content[i].code != kMember)
             continue;
-        const OdDbHandle handle(dxfHandle(content[i].value()));
-        members.push_back(database() ? database()->getOdDbObjectId(handle).getStub() : nullptr);
+        members.push_back(memberAt(i));
         memberTags.push_back(i);
     }
     cached = true;
+}
+
+OdDbStub* OdDbGroup::memberAt(std::size_t tag) const {
+    const OdDbHandle handle(dxfHandle(content[tag].value()));
+    return database() ? database()->getOdDbObjectId(handle).getStub() : nullptr;
+}
+
+// Members at the end and another value of a tag before them, there and back, are brought into the cache;
+// anything else has it made anew.
+void OdDbGroup::contentSpliced(std::size_t position, std::size_t removed, std::size_t inserted) {
+    const bool isBeforeMembers =
+        removed == inserted && (memberTags.empty() || position + removed <= memberTags[0]);
+    cached = cached && (isBeforeMembers || (removed == 0 && joinAppended(position, inserted)) ||
+                        (inserted == 0 && dropAppended(position, removed)));
+}
+
+bool OdDbGroup::joinAppended(std::size_t position, std::size_t inserted) {
+    if (!memberTags.empty() && position != memberTags.back() + 1)
+        return false;
+    for (std::size_t tag = position; tag < position + inserted; ++tag) {
+        if (content[tag].code != kMember)
+            return false;
+        members.push_back(memberAt(tag));
+        memberTags.push_back(tag);
+    }
+    return true;
+}
+
+bool OdDbGroup::dropAppended(std::size_t position, std::size_t removed) {
+    if (removed > memberTags.size() || removed == 0 || memberTags[memberTags.size() - removed] != position ||
+        memberTags.back() != position + removed - 1)
+        return false;
+    members.resize(members.size() - removed);
+    memberTags.resize(members.size());
+    return true;
 }
 
 bool OdDbGroup::isVisible(std::size_t member) const {
@@ -103,12 +187,21 @@ std::vector<std::size_t> OdDbGroup::visibleMembers() const {
     return result;
 }
 
-unsigned OdDbGroup::numEntities() const { return static_cast<unsigned>(visibleMembers().size()); }
+unsigned OdDbGroup::numEntities() const {
+    fillCache();
+    unsigned count = 0;
+    for (std::size_t i = 0; i < members.size(); ++i)
+        count += isVisible(i);
+    return count;
+}
 
 unsigned OdDbGroup::allEntityIds(OdDbObjectIdArray& ids) const {
+    fillCache();
     ids.clear();
-    for (const std::size_t member : visibleMembers())
-        ids.emplace_back(members[member]);
+    ids.reserve(members.size());
+    for (std::size_t i = 0; i < members.size(); ++i)
+        if (isVisible(i))
+            ids.emplace_back(members[i]);
     return static_cast<unsigned>(ids.size());
 }
 
@@ -120,9 +213,12 @@ bool OdDbGroup::has(const OdDbEntity* entity) const {
 }
 
 void OdDbGroup::getIndex(OdDbObjectId id, unsigned& index) const {
+    fillCache();
     unsigned position = 0;
-    for (const std::size_t member : visibleMembers()) {
-        if (members[member] == id.getStub()) {
+    for (std::size_t i = 0; i < members.size(); ++i) {
+        if (!isVisible(i))
+            continue;
+        if (members[i] == id.getStub()) {
             index = position;
             return;
         }
@@ -135,16 +231,15 @@ void OdDbGroup::append(const OdDbObjectIdArray& ids) {
     if (std::any_of(ids.begin(), ids.end(), [](OdDbObjectId id) { return id.isNull(); }))
         throw OdError(eNullObjectId);
     fillCache();
-    assertWriteEnabled();
     std::unordered_set<OdDbStub*> present(members.begin(), members.end());
-    std::size_t place = content.subclass(kMarker).end;
-    for (const OdDbObjectId id : ids) {
-        if (!present.insert(id.getStub()).second)
-            continue;
-        content.insert(place, kMember, dxfHandleText(id.getHandle().number()));
-        members.push_back(id.getStub());
-        memberTags.push_back(place++);
-    }
+    std::vector<OdDbStub*> joining;
+    for (const OdDbObjectId id : ids)
+        if (present.insert(id.getStub()).second)
+            joining.push_back(id.getStub());
+    splice(content.subclass(kMarker).end, 0, memberTagsOf(content, joining));
+    if (!database()) // where handles lead nowhere
+        std::copy(joining.begin(), joining.end(),
+                  members.end() - static_cast<std::ptrdiff_t>(joining.size()));
 }
 
 void OdDbGroup::remove(const OdDbObjectIdArray& ids) {
@@ -156,63 +251,86 @@ void OdDbGroup::remove(const OdDbObjectIdArray& ids) {
             throw OdError(eKeyNotFound);
         leaving.insert(id.getStub());
     }
-    std::vector<std::size_t> kept;
+    std::vector<std::ptrdiff_t> kept;
     for (std::size_t i = 0; i < members.size(); ++i)
         if (leaving.count(members[i]) == 0)
-            kept.push_back(i);
-    setMembers(kept);
+            kept.push_back(static_cast<std::ptrdiff_t>(i));
+    assertWriteEnabled();
+    rearrange(0, members.size(), [&kept](auto begin, auto) {
+        for (std::size_t i = 0; i < kept.size(); ++i)
+            begin[static_cast<std::ptrdiff_t>(i)] = begin[kept[i]];
+    });
+    cutOff(kept.size());
 }
 
-void OdDbGroup::clear() { setMembers({}); }
-
-// Member tags are taken out and put back as texts; what lies between them stays.
-void OdDbGroup::setMembers(const std::vector<std::size_t>& order) {
+void OdDbGroup::clear() {
     fillCache();
     assertWriteEnabled();
-    std::vector<std::string> handles;
-    for (const std::size_t member : order)
-        handles.emplace_back(content[memberTags[member]].value());
-    for (std::size_t i = 0; i < handles.size(); ++i)
-        if (content[memberTags[i]].value() != handles[i])
-            content.replace(memberTags[i], handles[i]);
+    cutOff(0);
+}
+
+template <class Move> void OdDbGroup::rearrange(std::size_t first, std::size_t count, Move move) {
+    fillCache();
+    content.rearrange(memberTags.data() + first, count, move);
+    const auto begin = members.begin() + static_cast<std::ptrdiff_t>(first);
+    move(begin, begin + static_cast<std::ptrdiff_t>(count));
+}
+
+// What lies between the tags of the members stays.
+void OdDbGroup::cutOff(std::size_t count) {
     std::size_t last = memberTags.size();
-    while (last > handles.size()) {
+    while (last > count) {
         // Runs of neighbours go in one piece.
         std::size_t first = last - 1;
-        while (first > handles.size() && memberTags[first - 1] + 1 == memberTags[first])
+        while (first > count && memberTags[first - 1] + 1 == memberTags[first])
             --first;
         content.erase(memberTags[first], last - first);
         last = first;
     }
-    cached = false;
+    members.resize(count);
+    memberTags.resize(count);
+}
+
+void OdDbGroup::changeOrder(std::unique_ptr<OdDbGroupOrderChange> change) {
+    change->apply(*this);
+    if (database())
+        database()->impl().rememberChange(*this, std::move(change));
 }
 
 void OdDbGroup::transfer(unsigned from, unsigned to, unsigned count) {
-    assertWriteEnabled();
-    const std::vector<std::size_t> visible = visibleMembers();
-    const std::size_t size = visible.size();
+    if (!isWriteEnabled())
+        throw OdError(eNotOpenForWrite);
+    const std::size_t size = numEntities();
     if (from > size || to > size || count > size - from || count > size - to)
         throw OdError_InvalidIndex();
-    std::vector<std::size_t> moved = visible;
-    const auto at = [&moved](unsigned position) { return moved.begin() + position; };
-    if (to < from)
-        std::rotate(at(to), at(from), at(from + count));
+    if (count == 0 || from == to)
+        return;
+    const unsigned first = std::min(from, to), last = std::max(from, to) + count;
+    const unsigned middle = to < from ? from : from + count;
+    if (size == members.size())
+        changeOrder(std::make_unique<OdDbGroupOrderChange>(*this, first, middle, last));
     else
-        std::rotate(at(from), at(from + count), at(to + count));
-    std::vector<std::size_t> order(members.size());
-    for (std::size_t i = 0; i < order.size(); ++i)
-        order[i] = i;
-    for (std::size_t i = 0; i < size; ++i)
-        order[visible[i]] = moved[i];
-    setMembers(order);
+        transferAmongErased(first, middle, last);
+}
+
+// Erased members keep their places.
+void OdDbGroup::transferAmongErased(unsigned first, unsigned middle, unsigned last) {
+    const std::vector<std::size_t> visible = visibleMembers();
+    std::vector<std::size_t> moved = visible;
+    std::rotate(moved.begin() + first, moved.begin() + middle, moved.begin() + last);
+    assertWriteEnabled();
+    rearrange(0, members.size(), [&](auto begin, auto end) {
+        const std::vector<typename std::iterator_traits<decltype(begin)>::value_type> former(begin, end);
+        for (unsigned i = first; i < last; ++i)
+            begin[static_cast<std::ptrdiff_t>(visible[i])] = former[moved[i]];
+    });
 }
 
 void OdDbGroup::reverse() {
+    if (!isWriteEnabled())
+        throw OdError(eNotOpenForWrite);
     fillCache();
-    std::vector<std::size_t> order(members.size());
-    for (std::size_t i = 0; i < order.size(); ++i)
-        order[i] = order.size() - 1 - i;
-    setMembers(order);
+    changeOrder(std::make_unique<OdDbGroupOrderChange>(*this, 0, members.size()));
 }
 
 bool OdDbGroup::refersToErased() const {

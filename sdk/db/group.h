@@ -4,6 +4,8 @@
 
 #include "sdk/db/entity.h"
 
+class OdDbGroupOrderChange;
+
 class OdDbGroup : public OdDbObject {
     ODRX_DECLARE_CLASS(OdDbGroup)
 public:
@@ -45,12 +47,22 @@ public:
     bool refersToErased() const override;
 
 private:
+    friend class OdDbGroupOrderChange;
     void contentReplaced() override { cached = false; }
+    void contentSpliced(std::size_t position, std::size_t removed, std::size_t inserted) override;
+    bool joinAppended(std::size_t position, std::size_t inserted);
+    bool dropAppended(std::size_t position, std::size_t removed);
     void fillCache() const;
-    void setMembers(const std::vector<std::size_t>& order); // positions in the present list
+    OdDbStub* memberAt(std::size_t tag) const;
+    void setTag(int code, std::string_view value);
     void rename(const OdString& name);
     bool isVisible(std::size_t member) const;
     std::vector<std::size_t> visibleMembers() const;
+    // Has `move` move the members from position `first` on about among themselves, in the tags as well.
+    template <class Move> void rearrange(std::size_t first, std::size_t count, Move move);
+    void changeOrder(std::unique_ptr<OdDbGroupOrderChange> change);
+    void cutOff(std::size_t count); // members from position `count` on
+    void transferAmongErased(unsigned first, unsigned middle, unsigned last);
 
     OdString pendingName; // while it is in no drawing
     mutable bool cached = false;

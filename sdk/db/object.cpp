@@ -22,7 +22,7 @@ void OdDbObject::release() {
     writable = false;
     if (!ownStub) {
         delete this;
-    } else if (!ownStub->has(OdDbStub::kChanged)) {
+    } else if (!ownStub->has(OdDbStub::kChanged) && !staysInMemory()) {
         ownStub->object = nullptr;
         delete this;
     }
@@ -69,6 +69,18 @@ void OdDbObject::assertWriteEnabled() {
         throw OdError(eNotOpenForWrite);
     if (ownStub)
         ownStub->database->impl().rememberImage(*this);
+}
+
+void OdDbObject::splice(std::size_t position, std::size_t count, DxfTagList tags) {
+    if (!isWriteEnabled())
+        throw OdError(eNotOpenForWrite);
+    if (ownStub) {
+        ownStub->database->impl().splice(*this, position, count, std::move(tags));
+        return;
+    }
+    const std::size_t inserted = tags.size();
+    content.exchange(position, count, tags);
+    contentSpliced(position, count, inserted);
 }
 
 const DxfCodec& OdDbObject::codec() const {

@@ -47,11 +47,21 @@ public:
 protected:
     friend class OdDbDatabaseImpl;
     friend class OdDbImageChange;
+    friend class OdDbSpliceChange;
     // Starts the tags of a new object: name, handle, owner and, for an entity, its layer.
     void startTags(std::string_view name) { content.append(0, name); }
     void assertWriteEnabled();
+    // Puts `tags` in the place of `count` tags and remembers no more than these: for a change of little in an
+    // object of many tags.
+    void splice(std::size_t position, std::size_t count, DxfTagList tags);
     // The tags were replaced as a whole: what was derived from them is no longer true.
     virtual void contentReplaced() {}
+    // A few of them were: `inserted` tags stand at `position` now, in the place of `removed` ones.
+    virtual void contentSpliced(std::size_t /*position*/, std::size_t /*removed*/, std::size_t /*inserted*/) {
+        contentReplaced();
+    }
+    // Whether an unchanged object is kept when it is closed, because it is dear to read.
+    virtual bool staysInMemory() const { return false; }
     // The object has just entered a database.
     virtual void enteredDatabase() {}
     const DxfCodec& codec() const;

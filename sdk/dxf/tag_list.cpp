@@ -2,6 +2,8 @@
 
 #include "sdk/dxf/scanner.h"
 
+#include <algorithm>
+
 namespace {
 constexpr int kSubclassMarker = 100;
 constexpr int kGroupBrace = 102;
@@ -55,6 +57,26 @@ std::size_t DxfTagList::find(int code, Range range) const {
     return npos;
 }
 
+std::size_t DxfTagList::find(std::string_view subclassName, int code) const {
+    std::size_t marker = 0;
+    while (marker < tags.size() &&
+           (tags[marker].code != kSubclassMarker || dxfTrimmed(tags[marker].value()) != subclassName))
+        if (tags[marker++].code >= kExtendedData)
+            marker = tags.size();
+    if (marker == tags.size())
+        return find(code, subclass(subclassName));
+    for (std::size_t end = marker + 1; end < tags.size(); ++end) {
+        if (tags[end].code == kSubclassMarker || tags[end].code >= kExtendedData)
+            return npos;
+        if (tags[end].code != code)
+            continue;
+        const std::size_t found = find(code, {marker + 1, end + 1});
+        if (found != npos)
+            return found;
+    }
+    return npos;
+}
+
 void DxfTagList::insert(std::size_t position, int code, std::string_view value) {
     const DxfTag tag = makeTag(code, value);
     tags.insert(tags.begin() + static_cast<std::ptrdiff_t>(position), tag);
@@ -67,6 +89,42 @@ void DxfTagList::replace(std::size_t position, std::string_view value) {
 void DxfTagList::erase(std::size_t position, std::size_t count) {
     const auto first = tags.begin() + static_cast<std::ptrdiff_t>(position);
     tags.erase(first, first + static_cast<std::ptrdiff_t>(count));
+}
+
+DxfTagList DxfTagList::part(Range range) const {
+    DxfTagList result;
+    result.pool = pool;
+    result.source = source;
+    result.withCarriageReturns = withCarriageReturns;
+    result.tags.assign(tags.begin() + static_cast<std::ptrdiff_t>(range.begin),
+                       tags.begin() + static_cast<std::ptrdiff_t>(range.end));
+    return result;
+}
+
+void DxfTagList::exchange(std::size_t position, std::size_t count, DxfTagList& other) {
+    adoptTexts(other);
+    DxfTagList taken = part({position, position + count});
+    const std::size_t common = std::min(count, other.size());
+    const auto place = tags.begin() + static_cast<std::ptrdiff_t>(position);
+    const auto firstNew = other.tags.begin() + static_cast<std::ptrdiff_t>(common);
+    std::copy(other.tags.begin(), firstNew, place);
+    tags.erase(place + static_cast<std::ptrdiff_t>(common), place + static_cast<std::ptrdiff_t>(count));
+    tags.insert(tags.begin() + static_cast<std::ptrdiff_t>(position + common), firstNew, other.tags.end());
+    other = std::move(taken);
+}
+
+// Texts that only `other` holds would go with it.
+void DxfTagList::adoptTexts(DxfTagList& other) {
+    if (!other.pool || other.pool == pool)
+        return;
+    if (!pool) {
+        pool = other.pool;
+        return;
+    }
+    for (DxfTag& tag : other.tags) {
+        pool->texts.emplace_back(tag.bytes());
+        tag.raw = pool->texts.back().data();
+    }
 }
 
 void DxfTagList::set(std::string_view subclassName, int code, std::string_view value) {

@@ -37,11 +37,20 @@ public:
     // The first tag with the code, outside of {...} groups.
     std::size_t find(int code, Range range) const;
     std::size_t find(int code) const { return find(code, whole()); }
+    // The same in a subclass, which is read no further than to the tag.
+    std::size_t find(std::string_view subclassName, int code) const;
 
     void append(int code, std::string_view value) { insert(tags.size(), code, value); }
     void insert(std::size_t position, int code, std::string_view value);
     void replace(std::size_t position, std::string_view value);
     void erase(std::size_t position, std::size_t count = 1);
+    // Some of the tags as a list of the same style; an empty range gives an empty one.
+    DxfTagList part(Range range) const;
+    // Puts the tags of `other` in the place of `count` tags, which `other` holds afterwards.
+    void exchange(std::size_t position, std::size_t count, DxfTagList& other);
+    // Hands the `count` tags at `places` to `move`, as a pair of iterators: it may move them about among
+    // themselves and no more.
+    template <class Move> void rearrange(const std::size_t* places, std::size_t count, Move move);
     // Replaces the first tag with the code in the subclass, or puts a new one at the subclass's end.
     void set(std::string_view subclassName, int code, std::string_view value);
     void remove(std::string_view subclassName, int code);
@@ -56,8 +65,25 @@ public:
 private:
     DxfTag makeTag(int code, std::string_view value);
     DxfTextPool& ownPool();
+    void adoptTexts(DxfTagList& other);
     std::vector<DxfTag> tags;
     std::shared_ptr<DxfTextPool> pool;
     std::shared_ptr<const std::string> source;
     bool withCarriageReturns = false;
 };
+
+template <class Move> void DxfTagList::rearrange(const std::size_t* places, std::size_t count, Move move) {
+    if (count == 0)
+        return;
+    const auto first = tags.begin() + static_cast<std::ptrdiff_t>(places[0]);
+    if (places[count - 1] == places[0] + count - 1) {
+        move(first, first + static_cast<std::ptrdiff_t>(count));
+        return;
+    }
+    std::vector<DxfTag> moved;
+    for (std::size_t i = 0; i < count; ++i)
+        moved.push_back(tags[places[i]]);
+    move(moved.begin(), moved.end());
+    for (std::size_t i = 0; i < count; ++i)
+        tags[places[i]] = moved[i];
+}
