@@ -1,6 +1,9 @@
 #include "sdk/db/layer_table.h"
 
+#include "sdk/db/database_impl.h"
+
 #include <cstdlib>
+#include <utility>
 
 ODRX_DEFINE_CLASS_WITH_MAKER(OdDbLayerTableRecord, OdDbSymbolTableRecord)
 ODRX_DEFINE_CLASS_WITH_MAKER(OdDbLayerTable, OdDbSymbolTable)
@@ -15,6 +18,49 @@ constexpr int kTrueColor = 420;
 constexpr int kFrozen = 1;
 constexpr int kLocked = 4;
 constexpr int kWhite = 7;
+constexpr const wchar_t* kFixedLayer = L"0";
+constexpr const char* kCurrentLayer = "$CLAYER";
+
+// The name of the current layer, which follows its layer back and forth.
+class CurrentLayerChange : public OdDbChange {
+public:
+    CurrentLayerChange(OdDbDatabaseImpl& database, std::string name)
+        : impl(database), other(std::move(name)) {}
+    void swap() override {
+        const std::string present(impl.header.value(kCurrentLayer));
+        impl.header.set(kCurrentLayer, 8, std::exchange(other, present));
+    }
+
+private:
+    OdDbDatabaseImpl& impl;
+    std::string other;
+};
+
+void renameCurrentLayer(OdDbDatabaseImpl& impl, const std::wstring& former, const OdString& name) {
+    const OdString current = impl.codec.decode(impl.header.value(kCurrentLayer));
+    if (impl.header.find(kCurrentLayer) == nullptr || odDbFoldedName(current) != former)
+        return;
+    auto change = std::make_unique<CurrentLayerChange>(impl, impl.codec.encode(name));
+    change->swap();
+    impl.log.record(std::move(change));
+}
+
+// Entities know their layer by its name.
+void moveEntities(OdDbDatabaseImpl& impl, const std::wstring& former, const OdString& name) {
+    for (std::size_t i = 0; i < impl.stubs.size(); ++i) {
+        OdDbStub& stub = impl.stubs[i];
+        if (!stub.has(OdDbStub::kEntity) || stub.has(OdDbStub::kStructure))
+            continue;
+        const auto entity = odrxQuery<OdDbEntity>(impl.load(stub).get());
+        if (entity.isNull() || odDbFoldedName(entity->layer()) != former)
+            continue;
+        const bool wasWritable = entity->isWriteEnabled();
+        entity->upgradeOpen();
+        entity->setLayer(name);
+        if (!wasWritable)
+            entity->downgradeOpen();
+    }
+}
 } // namespace
 
 OdDbLayerTableRecord::OdDbLayerTableRecord() {
@@ -25,6 +71,18 @@ OdDbLayerTableRecord::OdDbLayerTableRecord() {
     content.append(kFlags, "0");
     content.append(kColor, "7");
     content.append(6, "Continuous");
+}
+
+void OdDbLayerTableRecord::setName(const OdString& name) {
+    const OdString former = getName();
+    if (database() && former == OdString(kFixedLayer) && name != former)
+        throw OdError(eInvalidInput, L"Layer 0 can't be renamed");
+    OdDbSymbolTableRecord::setName(name);
+    if (!database() || former == name)
+        return;
+    const std::wstring formerKey = odDbFoldedName(former);
+    moveEntities(database()->impl(), formerKey, name);
+    renameCurrentLayer(database()->impl(), formerKey, name);
 }
 
 bool OdDbLayerTableRecord::flag(int bit) const {

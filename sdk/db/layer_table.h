@@ -8,6 +8,9 @@ class OdDbLayerTableRecord : public OdDbSymbolTableRecord {
     ODRX_DECLARE_CLASS(OdDbLayerTableRecord)
 public:
     OdDbLayerTableRecord();
+    // What lies on the layer goes with it, and so does the drawing's current layer. Throws eInvalidInput for
+    // layer "0", which every drawing has.
+    void setName(const OdString& name) override;
     bool isOff() const;
     void setIsOff(bool off);
     bool isFrozen() const;
