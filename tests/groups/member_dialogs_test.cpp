@@ -67,6 +67,7 @@ TEST_F(ReorderDialog, WithoutAKnownNameTheFirstRowIsTaken) {
     data = GroupData();
     show();
     EXPECT_EQ(data.currentRow, 0);
+    EXPECT_TRUE(in<QTableWidget>(*dialog, "groupTable").selectionModel()->isRowSelected(0, {}));
     EXPECT_EQ(data.name, OdString(L"FIVE"));
 }
 
