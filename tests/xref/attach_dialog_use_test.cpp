@@ -1,6 +1,8 @@
 // The attach dialog in use: its controls, path types, the checks of the numbers, and OK.
 #include "tests/xref/attach_dialog_fixture.h"
 
+#include <QValidator>
+
 TEST_F(AttachDialog, OnScreenBoxesDisableTheirEdits) {
     open(write("part.dxf"));
     click("rotationOnScreenCheck");
@@ -168,6 +170,7 @@ TEST_F(AttachDialog, NumbersAreTypedInEnglishAndWithoutAnExponent) {
     EXPECT_EQ(text("angleEdit"), "-1.5");
     type("angleEdit", "2e3");
     EXPECT_EQ(text("angleEdit"), "23");
+    EXPECT_EQ(edit("angleEdit")->validator()->locale().language(), QLocale::English);
 }
 
 namespace {
