@@ -3,16 +3,15 @@
 // 10,000 entries), and OK after all of them were deleted. Opening on a drawing of many entities beside
 // opening on an empty one ("ratio", limit 1.2).
 #include "dwgprops/dwg_props.h"
+#include "benchmarks/timing.h"
 #include "tests/support/fixture_host.h"
 #include "tests/support/test_application.h"
 
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <functional>
 #include <memory>
@@ -48,13 +47,6 @@ std::string fileOfLines(int count) {
     return bytes + "0\nENDSEC\n0\nEOF\n";
 }
 
-double secondsOf(const std::function<void()>& work) {
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return timer.nsecsElapsed() / 1e9;
-}
-
 void showFully(QDialog& dialog) {
     dialog.show();
     QCoreApplication::processEvents();
@@ -62,7 +54,7 @@ void showFully(QDialog& dialog) {
 
 double openDialog() {
     std::unique_ptr<dwgProps> dialog;
-    return secondsOf([&] {
+    return timing::secondsOf([&] {
         dialog = std::make_unique<dwgProps>(nullptr);
         showFully(*dialog);
     });
@@ -71,7 +63,7 @@ double openDialog() {
 // The peer: nothing but a table, with the texts at hand.
 double openBareTable(const Entries& entries) {
     QDialog dialog;
-    return secondsOf([&] {
+    return timing::secondsOf([&] {
         auto* const table = new QTableWidget(&dialog);
         table->setColumnCount(2);
         table->setRowCount(static_cast<int>(entries.size()));
@@ -85,26 +77,22 @@ double openBareTable(const Entries& entries) {
     });
 }
 
-double median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2),
-                     values.end());
-    return values[values.size() / 2];
-}
-
-// Peer and subject in turn; the medians are compared, so that one run that the machine held up counts little.
+// Peer and subject in turn. Each turn gives one ratio, so that what slows the machine for a while slows both
+// parts of it, and the middle one of all counts.
 void compareRuns(benchmark::State& state, const std::function<double()>& peer,
                  const std::function<double()>& ours) {
     peer();
     ours();
-    std::vector<double> peerTimes, ourTimes;
+    std::vector<double> peerTimes, ourTimes, ratios;
     for (auto _ : state) {
         peerTimes.push_back(peer());
         ourTimes.push_back(ours());
+        ratios.push_back(ourTimes.back() / peerTimes.back());
         state.SetIterationTime(ourTimes.back());
     }
-    state.counters["ratio"] = median(ourTimes) / median(peerTimes);
-    state.counters["peer_ms"] = median(peerTimes) * 1e3;
-    state.counters["ms"] = median(ourTimes) * 1e3;
+    state.counters["ratio"] = timing::median(ratios);
+    state.counters["peer_ms"] = timing::median(peerTimes) * 1e3;
+    state.counters["ms"] = timing::median(ourTimes) * 1e3;
 }
 
 void openWithProperties(benchmark::State& state) {
@@ -140,7 +128,7 @@ void pressOk(benchmark::State& state, bool deleteFirst) {
             auto* const page = dialog.findChild<QWidget*>(QStringLiteral("customTab"));
             page->findChild<QTableWidget*>(QStringLiteral("table"))->clearContents();
         }
-        const double now = secondsOf([&] { dialog.onOK(); });
+        const double now = timing::secondsOf([&] { dialog.onOK(); });
         total += now;
         state.SetIterationTime(now);
     }
@@ -156,8 +144,8 @@ void deleteAllRows(benchmark::State& state) {
         dwgProps dialog(nullptr);
         auto* const page = dialog.findChild<QWidget*>(QStringLiteral("customTab"));
         page->findChild<QTableWidget*>(QStringLiteral("table"))->selectAll();
-        state.SetIterationTime(
-            secondsOf([&] { page->findChild<QPushButton*>(QStringLiteral("deleteButton"))->click(); }));
+        state.SetIterationTime(timing::secondsOf(
+            [&] { page->findChild<QPushButton*>(QStringLiteral("deleteButton"))->click(); }));
     }
     host.closeDocument();
 }

@@ -109,4 +109,23 @@ TEST(TextConversionTest, APointerIsReadToItsEndOrTheGivenLength) {
     EXPECT_EQ(hostqt::qString(static_cast<const wchar_t*>(nullptr)), QString());
 }
 
+TEST(TextConversionTest, EveryCharacterComesBackByItselfAndBesideOneOfTwoUnits) {
+    for (int code = 1; code < 0x30000; ++code) {
+        if (code >= 0xd800 && code <= 0xdfff)
+            continue; // halves of characters
+        const std::wstring alone(1, static_cast<wchar_t>(code));
+        const std::wstring beside = L"a\U0001F3E0" + alone + L"z";
+        ASSERT_EQ(hostqt::qString(alone.c_str()).toStdWString(), alone) << code;
+        ASSERT_EQ(hostqt::qString(OdString(beside)).toStdWString(), beside) << code;
+    }
+}
+
+TEST(TextConversionTest, WhatIsNoCharacterIsHarmless) {
+    for (const unsigned code : {0xd800U, 0xdfffU, 0x110000U, 0x80000000U, 0xffffffffU}) {
+        const std::wstring odd = L"a" + std::wstring(1, static_cast<wchar_t>(code)) + L"z";
+        EXPECT_TRUE(hostqt::qString(OdString(odd)).startsWith('a')) << code;
+        EXPECT_TRUE(hostqt::qString(OdString(odd)).endsWith('z')) << code;
+    }
+}
+
 } // namespace
