@@ -1,3 +1,4 @@
+// Hands out the numbers of anonymous groups, one counter for all drawings of the program.
 #include "sdk/db/anonymous_names.h"
 
 #include <cwchar>

@@ -1,3 +1,4 @@
+// Arcs are measured exactly, not by points along them: boxes of whole drawings are made of these.
 #include "sdk/db/arc_extents.h"
 
 #include <cmath>

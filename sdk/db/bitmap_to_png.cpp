@@ -1,3 +1,4 @@
+// Turns the bitmap of a preview into a PNG, bounds checked: it comes from files of anybody.
 #include "sdk/db/bitmap_to_png.h"
 
 #include <QByteArray>

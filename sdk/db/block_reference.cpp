@@ -1,3 +1,4 @@
+// Placed blocks: where they stand, which block they show, and the box of nested ones.
 #include "sdk/db/block_reference.h"
 
 #include "sdk/db/block_table.h"

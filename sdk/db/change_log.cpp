@@ -1,3 +1,4 @@
+// The one list behind transactions and undo; see the header for what a place in it means.
 #include "sdk/db/change_log.h"
 
 #include "sdk/rx/od_error.h"

@@ -1,3 +1,4 @@
+// Says which class an object of a file gets by its name there; unknown ones get the general classes.
 #include "sdk/db/class_registry.h"
 
 #include "sdk/db/block_reference.h"

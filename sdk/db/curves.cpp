@@ -1,3 +1,4 @@
+// The simple curves, read from and written to their tags.
 #include "sdk/db/curves.h"
 
 #include "sdk/db/arc_extents.h"

@@ -1,3 +1,4 @@
+// A drawing as callers see it: reading, writing, its tables and spaces.
 #include "sdk/db/database.h"
 
 #include "sdk/db/block_table.h"

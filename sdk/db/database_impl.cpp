@@ -1,3 +1,4 @@
+// What changes a database from within: new objects, erasing, and the changes that undo takes back.
 #include "sdk/db/database_impl.h"
 
 #include "sdk/db/class_registry.h"

@@ -1,3 +1,4 @@
+// Calendar and clock of Julian days, by the rules of the system.
 #include "sdk/db/date.h"
 
 #include <QDateTime>

@@ -1,3 +1,4 @@
+// Dictionaries keep names and handles in their tags; an index of both is made when it is first asked for.
 #include "sdk/db/dictionary.h"
 
 #include "sdk/db/anonymous_names.h"

@@ -1,3 +1,4 @@
+// The first half of reading: one pass over the text that finds the records and their places.
 #include "sdk/db/drawing_reader.h"
 
 #include "sdk/db/sub_entities.h"

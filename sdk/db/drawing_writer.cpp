@@ -1,3 +1,4 @@
+// Writes a drawing: what is unchanged goes out as the bytes it was read from.
 #include "sdk/db/drawing_writer.h"
 
 #include "sdk/db/block_table.h"

@@ -1,3 +1,4 @@
+// The text of a new drawing, put together here so that no file has to be shipped with the library.
 #include "sdk/db/empty_drawing.h"
 
 #include "sdk/dxf/tag.h"

@@ -1,3 +1,4 @@
+// What all entities have in common: layer, colour, plane and box.
 #include "sdk/db/entity.h"
 
 #include "sdk/db/class_registry.h"

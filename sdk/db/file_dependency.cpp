@@ -1,3 +1,4 @@
+// The list of files that a drawing depends on, with an index by feature and name.
 #include "sdk/db/file_dependency.h"
 
 unsigned OdFileDependencyManager::createEntry(const OdFileDependencyInfo& info) {

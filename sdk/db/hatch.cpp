@@ -1,3 +1,4 @@
+// Hatches as entities; their borders are read in a file of their own.
 #include "sdk/db/hatch.h"
 
 #include "sdk/db/hatch_loops.h"

@@ -1,3 +1,4 @@
+// Walks the nested lists of a hatch: loops, and in them polylines or edges of four kinds.
 #include "sdk/db/hatch_loops.h"
 
 #include "sdk/db/spline_curve.h"

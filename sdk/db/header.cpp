@@ -1,3 +1,4 @@
+// Header values with the order and the tags of their file.
 #include "sdk/db/header.h"
 
 #include "sdk/dxf/scanner.h"

@@ -1,3 +1,4 @@
+// Layers and viewports. Entities and the header name a layer, so renaming one goes through the whole drawing.
 #include "sdk/db/layer_table.h"
 
 #include "sdk/db/database_impl.h"

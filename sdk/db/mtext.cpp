@@ -1,3 +1,4 @@
+// Paragraph texts: long ones are cut into pieces in the file, and the plain text is without format codes.
 #include "sdk/db/text.h"
 
 #include "sdk/dxf/codec.h"

@@ -1,3 +1,4 @@
+// Opening, closing and changing of one object; every change passes through here.
 #include "sdk/db/object.h"
 
 #include "sdk/db/database.h"

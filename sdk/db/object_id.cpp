@@ -1,3 +1,4 @@
+// Ids are stubs; what they can tell without opening the object is here.
 #include "sdk/db/object_id.h"
 
 #include "sdk/db/database_impl.h"

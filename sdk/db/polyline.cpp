@@ -1,3 +1,4 @@
+// Both kinds of polylines give the same list of vertices, so that the rest need not tell them apart.
 #include "sdk/db/polyline.h"
 
 #include "sdk/db/arc_extents.h"

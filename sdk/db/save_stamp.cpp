@@ -1,3 +1,4 @@
+// Dates, names and revision that a save leaves in the drawing; times are taken from the system here alone.
 #include "sdk/db/save_stamp.h"
 
 #include "sdk/db/database_impl.h"

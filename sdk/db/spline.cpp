@@ -1,3 +1,4 @@
+// Splines as entities: their numbers in the file, given to the curve that knows the points.
 #include "sdk/db/spline.h"
 
 ODRX_DEFINE_CLASS_WITH_MAKER(OdDbSpline, OdDbEntity)

@@ -1,3 +1,4 @@
+// Points of a rational spline by repeated cutting of corners, which is stable for every degree allowed here.
 #include "sdk/db/spline_curve.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Vertices and attributes follow their entity in the file and end with a mark of their own.
 #include "sdk/db/sub_entities.h"
 
 #include "sdk/db/database_impl.h"

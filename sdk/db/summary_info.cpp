@@ -1,3 +1,4 @@
+// The summary record as callers see it; where a version keeps it is told in summary_store.
 #include "sdk/db/summary_info.h"
 
 #include "sdk/db/database_impl.h"

@@ -1,3 +1,4 @@
+// Each version keeps the summary elsewhere: header values, or a record in the root dictionary.
 #include "sdk/db/summary_store.h"
 
 #include "sdk/db/database_impl.h"

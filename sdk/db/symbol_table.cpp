@@ -1,3 +1,4 @@
+// Tables of named records and the index by name that is made when a name is first looked for.
 #include "sdk/db/symbol_table.h"
 
 #include "sdk/db/database_impl.h"

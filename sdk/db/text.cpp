@@ -1,3 +1,4 @@
+// Single lines of text, and attributes, which are such lines too.
 #include "sdk/db/text.h"
 
 #include <cmath>

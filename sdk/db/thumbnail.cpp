@@ -1,3 +1,4 @@
+// Finds the preview in a file without reading the drawing, and writes one into it.
 #include "sdk/db/thumbnail.h"
 
 #include "sdk/db/bitmap_to_png.h"

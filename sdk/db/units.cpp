@@ -1,3 +1,4 @@
+// The list of units with their sizes in metres.
 #include "sdk/db/units.h"
 
 #include <iterator>

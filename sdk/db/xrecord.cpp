@@ -1,3 +1,4 @@
+// Records of free data; the only thing known of them is where their data begin.
 #include "sdk/db/xrecord.h"
 
 ODRX_DEFINE_CLASS_WITH_MAKER(OdDbXrecord, OdDbObject)

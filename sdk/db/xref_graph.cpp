@@ -1,3 +1,4 @@
+// Collects the references of a drawing, with those that they bring along.
 #include "sdk/db/xref_graph.h"
 
 namespace {

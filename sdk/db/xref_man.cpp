@@ -1,3 +1,4 @@
+// Loads referenced drawings, each once, and stops where one contains itself.
 #include "sdk/db/xref_man.h"
 
 #include "sdk/db/database_impl.h"

@@ -1,3 +1,4 @@
+// Binary drawings are read through the text of the same tags, so that there is one reader only.
 #include "sdk/dxf/binary_text.h"
 
 #include "sdk/dxf/scanner.h"

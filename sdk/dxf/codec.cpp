@@ -1,3 +1,4 @@
+// Code pages come from Qt; here is what drawing files add to them.
 #include "sdk/dxf/codec.h"
 
 #include <QTextCodec>

@@ -1,3 +1,4 @@
+// Numbers as text. Locale must play no part in them, hence no stream and no printf.
 #include "sdk/dxf/tag.h"
 
 #include <charconv>

@@ -1,3 +1,4 @@
+// Tags as views of the file's bytes; only those that are set have texts of their own.
 #include "sdk/dxf/tag_list.h"
 
 #include "sdk/dxf/scanner.h"

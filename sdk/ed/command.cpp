@@ -1,3 +1,4 @@
+// The stack of commands of an application, by group and name.
 #include "sdk/ed/command.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Matrices of placed blocks and of the planes that entities lie in.
 #include "sdk/ge/matrix3d.h"
 
 #include "sdk/ge/point3d.h"

@@ -1,3 +1,4 @@
+// Points and the boxes around them.
 #include "sdk/ge/point3d.h"
 
 #include <algorithm>

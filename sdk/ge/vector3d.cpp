@@ -1,3 +1,4 @@
+// Directions, lengths and angles.
 #include "sdk/ge/vector3d.h"
 
 #include "sdk/ge/matrix3d.h"

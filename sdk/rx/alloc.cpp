@@ -1,3 +1,4 @@
+// Memory of the SDK comes from malloc, since callers may free it so.
 #include "sdk/rx/alloc.h"
 
 #include <atomic>

@@ -1,3 +1,4 @@
+// All reading and writing of files goes through here, so that no other code can leave half a file behind.
 #include "sdk/rx/file_bytes.h"
 
 #include <QFile>

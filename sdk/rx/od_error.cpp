@@ -1,3 +1,4 @@
+// Names of the error codes as users read them.
 #include "sdk/rx/od_error.h"
 
 #include "sdk/rx/rx_object.h"

@@ -1,3 +1,4 @@
+// Wide texts and their conversions from and to bytes.
 #include "sdk/rx/od_string.h"
 
 #include <QString>

@@ -1,3 +1,4 @@
+// Values with a type, as system variables and console prompts pass them.
 #include "sdk/rx/res_buf.h"
 
 ODRX_DEFINE_CLASS(OdResBuf, OdRxObject)

@@ -1,3 +1,4 @@
+// Class descriptions and casts that go by them.
 #include "sdk/rx/rx_object.h"
 
 bool OdRxClass::isDerivedFrom(const OdRxClass* ancestor) const {

@@ -1,3 +1,4 @@
+// Files as streams of bytes in memory: only reading of existing files is offered.
 #include "sdk/rx/stream_buf.h"
 
 #include "sdk/rx/file_bytes.h"

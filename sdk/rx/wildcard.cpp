@@ -1,3 +1,4 @@
+// Name patterns with wildcards, as commands take them.
 #include "sdk/rx/wildcard.h"
 
 #include <cwctype>
