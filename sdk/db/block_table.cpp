@@ -1,5 +1,5 @@
-// Blocks and what lies in them. The oldest version has no block records, so that all that a block has is asked
-// from the entity that opens it.
+// Blocks and what lies in them. The oldest version has no block records, so that all that a block has is
+// asked from the entity that opens it.
 #include "sdk/db/block_table.h"
 
 #include "sdk/db/block_reference.h"

@@ -1,4 +1,5 @@
-// Groups keep their members as handles in their tags, in order; a list of them is made when it is first asked for.
+// Groups keep their members as handles in their tags, in order; a list of them is made when it is first asked
+// for.
 #include "sdk/db/group.h"
 
 #include "sdk/db/anonymous_names.h"
