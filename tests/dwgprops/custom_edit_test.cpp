@@ -17,9 +17,10 @@ protected:
         endDeferred();
         QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, place);
     }
+    // What was posted goes before the deletion of editors, which it may be about.
     static void endDeferred() {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     QLineEdit* editor() const {
         endDeferred();
