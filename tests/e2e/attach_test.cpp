@@ -208,6 +208,14 @@ TEST_F(AttachTest, OpenedDrawingShowsItsReferencesUnchanged) {
     EXPECT_FALSE(drawing()->isModified());
 }
 
+TEST_F(AttachTest, SiteSampleShowsTheHouseAndThePart) {
+    enter({"OPEN", SHIPPED_DATA_DIR "/samples/site.dxf", "XREFS"});
+    EXPECT_TRUE(printed("house: attachment, loaded"));
+    EXPECT_TRUE(printed("part: overlay, loaded"));
+    EXPECT_TRUE(printed("    saved path  house.dxf"));
+    EXPECT_FALSE(drawing()->isModified());
+}
+
 TEST_F(AttachTest, WithoutADrawingBothCommandsOnlySaySo) {
     enter({"CLOSE", "XATTACH"});
     EXPECT_EQ(lastLine(), "No drawing is open.");
