@@ -1,19 +1,25 @@
 // Attaching 100 files of 1 MB beside reading them ("ratio", limit 1.2; linear: the time of one file stays the
 // same from 10 to 100 files), and the attach dialog beyond the reading of its file's preview ("beyond_ms",
-// limit 100), also in a drawing that has 2,000 references already.
+// limit 100), also in a drawing that has 2,000 references already. Placing a reference of 200,000 entities:
+// the first picture ("first_ms"), then the slowest one that follows the cursor ("worst_ms", limit 33 for 30
+// pictures a second). All figures are processor time of the one thread that works.
+#include "benchmarks/timing.h"
 #include "sdk/db/xref_man.h"
+#include "standin/console/console.h"
+#include "standin/display/tracker_picture.h"
 #include "tests/support/fixture_host.h"
 #include "tests/support/test_application.h"
 #include "tests/xref/xref_io.h"
 #include "xref/attach_dialog.h"
 #include "xref/attach_reference.h"
+#include "xref/create_xref_reference.h"
 #include "xref/new_definitions.h"
+#include "xref/xref_tracker.h"
 
-#include <QElapsedTimer>
 #include <QFile>
+#include <QPainter>
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <functional>
 
 namespace {
 
@@ -27,12 +33,7 @@ QByteArray drawingOfOneMegabyte() {
     return bytes + "0\nENDSEC\n0\nEOF\n";
 }
 
-double secondsOf(const std::function<void()>& work) {
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return timer.nsecsElapsed() / 1e9;
-}
+using timing::secondsOf;
 
 // A host with an empty drawing, and files to attach.
 class Site {
@@ -112,6 +113,67 @@ void openDialog(benchmark::State& state) {
     state.counters["beyond_ms"] = (opening - preview) * 1e3;
 }
 BENCHMARK(openDialog)->Arg(0)->Arg(2000)->Iterations(5)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+// `count` lines in a square of 5,000 by 5,000.
+QByteArray drawingOfLines(int count) {
+    QByteArray bytes = "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1032\n9\n$LTSCALE\n40\n1."
+                       "0\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n";
+    for (int i = 0; i < count; ++i) {
+        const int x = i % 500 * 10, y = i / 500 * 12;
+        bytes +=
+            QStringLiteral(
+                "0\nLINE\n100\nAcDbEntity\n8\n0\n62\n%1\n100\nAcDbLine\n10\n%2\n20\n%3\n11\n%4\n21\n%5\n")
+                .arg(i % 7 + 1)
+                .arg(x)
+                .arg(y)
+                .arg(x + 8)
+                .arg(y + i % 11)
+                .toLatin1();
+    }
+    return bytes + "0\nENDSEC\n0\nEOF\n";
+}
+
+// The definition and the reference as the attach command has them while its insertion prompt is open.
+void placeReference(benchmark::State& state) {
+    Site site(0);
+    QFile file(site.folder.filePath(QStringLiteral("large.dxf")));
+    if (file.open(QIODevice::WriteOnly))
+        file.write(drawingOfLines(200000));
+    file.close();
+    QString name;
+    OdDbBlockReferencePtr reference;
+    bool hadDefinition = false;
+    OdDbObjectId block;
+    if (!createXRefReference(file.fileName(), name, false, reference, hadDefinition, block))
+        return state.SkipWithError("the file was not attached");
+    XRefTracker tracker(reference, kTrackPosition, nullptr, nullptr, {});
+    standin::OpenPrompt prompt;
+    prompt.kind = standin::OpenPrompt::Point;
+    prompt.tracker = &tracker;
+    standin::View view;
+    view.resize({1600, 1000});
+    view.fit({0, 0, 5000, 5000});
+    QPixmap screen(1600, 1000);
+    QPainter painter(&screen);
+    std::unique_ptr<standin::TrackerPicture> picture;
+    state.counters["first_ms"] = 1e3 * secondsOf([&] {
+                                     picture =
+                                         std::make_unique<standin::TrackerPicture>(prompt, site.drawing);
+                                     picture->paint(painter, view, Qt::white);
+                                 });
+    double worst = 0;
+    int step = 0;
+    for (auto _ : state) {
+        ++step;
+        const double seconds = secondsOf([&] {
+            picture->setCursor(QPointF(2500 + 40 * (step % 20), 1600 + 25 * (step % 13)));
+            picture->paint(painter, view, Qt::white);
+        });
+        worst = std::max(worst, seconds);
+    }
+    state.counters["worst_ms"] = worst * 1e3;
+}
+BENCHMARK(placeReference)->Iterations(100)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
