@@ -121,7 +121,7 @@ void OdDbDrawingWriter::refuseWhatTheVersionLacks() const {
     if (!onlyDictionaries)
         throw OdError(eFileWriteError,
                       impl.filename + OdString(L": a drawing of version R12 can't hold groups "
-                                               L"or other objects"));
+                                               L"or other objects, save it in a newer version"));
 }
 
 void OdDbDrawingWriter::prepareHeader() {

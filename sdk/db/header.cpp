@@ -108,6 +108,14 @@ void OdDbHeader::setPoint(std::string_view name, const OdGePoint3d& value) {
     variable.tags.append(30, dxfText(value.z));
 }
 
+void OdDbHeader::put(std::string_view name, DxfTagList tags) {
+    changed = true;
+    const auto found = locate(name);
+    Variable& variable = found == variables.end() ? add(name) : *found;
+    tags.restyle(withCarriageReturns);
+    variable.tags = std::move(tags);
+}
+
 std::vector<std::pair<std::string, std::string>> OdDbHeader::customProperties() const {
     std::vector<std::pair<std::string, std::string>> result;
     result.reserve(variables.size() / 2);

@@ -18,6 +18,7 @@ public:
     bool isChanged() const { return changed; }
     std::string bytes() const; // everything, as it is to be written
 
+    const std::vector<Variable>& all() const { return variables; }
     const Variable* find(std::string_view name) const; // null when there is none
     std::string_view value(std::string_view name, std::string_view otherwise = {}) const;
     int code(std::string_view name) const; // group code of the value; 0 when there is none
@@ -29,6 +30,8 @@ public:
     void set(std::string_view name, int code, std::string_view value);
     void setReal(std::string_view name, double value) { set(name, 40, dxfText(value)); }
     void setPoint(std::string_view name, const OdGePoint3d& value);
+    // `tags` as they are, the name first.
+    void put(std::string_view name, DxfTagList tags);
 
     // Custom properties: pairs of variables that may repeat, as encoded texts in file order.
     std::vector<std::pair<std::string, std::string>> customProperties() const;

@@ -5,6 +5,7 @@
 #include "sdk/db/dictionary.h"
 #include "sdk/db/group.h"
 #include "sdk/db/layer_table.h"
+#include "sdk/db/newer_version.h"
 #include "sdk/db/summary_info.h"
 #include "sdk/db/text.h"
 #include "sdk/db/xref_man.h"
@@ -200,6 +201,13 @@ int run(int argc, char** argv) {
     const OdDbDatabasePtr database = OdDbDatabase::readFile(OdString(argv[2], CP_UTF8));
     if (command == "report")
         report(*database);
+    if (command == "newer" && argc > 4) {
+        change(*database, argv[4]);
+        std::vector<OdString> leftOut;
+        odDbInNewerVersion(*database, leftOut)->writeFile(OdString(argv[3], CP_UTF8));
+        for (const OdString& what : leftOut)
+            std::puts(what.toUtf8().c_str());
+    }
     if (command == "change" && argc > 4)
         change(*database, argv[4]);
     if ((command == "copy" || command == "change") && argc > 3)

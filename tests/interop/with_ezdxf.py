@@ -156,6 +156,32 @@ class WithEzdxf(unittest.TestCase):
         self.assertIn("R12", done.stderr)
         self.assertFalse(out.exists())
 
+    def test_oldest_version_becomes_a_newer_one_with_its_groups(self):
+        source, out = self.path / "source.dxf", self.path / "newer.dxf"
+        old = build("R12")
+        space = old.modelspace()
+        space.add_blockref("PART", (1, 1)).add_attrib("TAG", "größer", (1, 1))
+        space.add_polyline3d([(0, 0, 1), (5, 0, 2), (6, 6, 6)])
+        space.add_solid([(0, 0), (1, 0), (0, 1), (1, 1)])
+        space.add_3dface([(0, 0, 0), (1, 0, 0), (1, 1, 1)])
+        old.linetypes.add("STRICHE", [1.0, 0.5, -0.5])
+        old.layers.get("Mauern").dxf.linetype = "STRICHE"
+        old.saveas(source)
+        tool("newer", source, out, "layer,entities,group")
+        doc = self.audited(out)
+        self.assertEqual("AC1027", doc.dxfversion)
+        before, after = report(source), report(out)
+        self.assertEqual("Küche größer", doc.modelspace().query("TEXT").first.dxf.text)
+        for kind, count in before["entities"].items():
+            added = 1 if kind in ("LINE", "ARC", "TEXT") else 0
+            self.assertEqual(count + added, len(doc.modelspace().query(kind)), kind)
+        self.assertEqual(len(doc.modelspace()), len(doc.groups.get("Everything")))
+        self.assertEqual("größer", doc.modelspace().query("INSERT").last.attribs[0].dxf.text)
+        self.assertEqual((3, "STRICHE"), (doc.layers.get("Mauern").color, doc.layers.get("Mauern").dxf.linetype))
+        self.assertEqual({"PART", "NESTED"}, {block.name for block in doc.blocks} - {"*Model_Space", "*Paper_Space"})
+        for ours, theirs in zip(before["extmin"], after["extmin"]):
+            self.assertAlmostEqual(ours, theirs)
+
     def test_erased_entities_are_gone_without_a_trace(self):
         for version in VERSIONS[1:]:
             with self.subTest(version):
