@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QRegularExpression>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -54,6 +55,13 @@ void HelpWindow::showTopic(const QString& topic) {
     else
         pageBrowser->setPlainText(tr("There is no help page \"%1\".").arg(topic));
     showTitle();
+}
+
+void HelpWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel))
+        close();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void HelpWindow::showTitle() {

@@ -18,6 +18,9 @@ public:
     ~HelpWindow() override;
     void showTopic(const QString& topic);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override; // Escape closes the window
+
 private:
     void build();
     void layOut();

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTextBrowser>
+#include <QtTest>
 #include <gtest/gtest.h>
 
 using namespace standin;
@@ -55,6 +56,14 @@ TEST_F(HelpTest, WindowBelongsToTheModalDialogSoThatItCanBeUsed) {
     EXPECT_EQ(help->window()->parentWidget(), nullptr);
 }
 
+TEST_F(HelpTest, EscapeClosesTheWindow) {
+    help->showTopic("IDH_GroupCmd[1]");
+    help->window()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(help->window()));
+    QTest::keyClick(help->window()->findChild<QTextBrowser*>(QStringLiteral("pageBrowser")), Qt::Key_Escape);
+    EXPECT_TRUE(!help->window() || !help->window()->isVisible());
+}
+
 struct EventsTest : testing::Test {
     EventsTest() {
         registry().messageBox = [this](MessageKind kind, const QString&, const QString& text,
@@ -69,7 +78,7 @@ struct EventsTest : testing::Test {
     const HostRegistry saved = registry();
     QString printed, box;
     MessageKind boxKind = MessageKind::Critical;
-    EV_MB_RET buttons = EV_MB_NONE, answer = EV_MB_OK;
+    EV_MB_RET buttons{}, answer = EV_MB_OK;
     Ref<Events> events = Ref<Events>::share(new Events([this](const QString& text) { printed = text; }));
 };
 
