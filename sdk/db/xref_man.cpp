@@ -26,10 +26,9 @@ public:
     LoadingFile& operator=(const LoadingFile&) = delete;
 };
 
-bool isOnTheWay(const QString& path, const OdDbDatabase& host) {
+bool isOnTheWay(const QString& path) {
     const auto& files = loadingFiles();
-    return std::find(files.begin(), files.end(), path) != files.end() ||
-           path == QFileInfo(qt(host.getFilename())).canonicalFilePath();
+    return std::find(files.begin(), files.end(), path) != files.end();
 }
 
 void noteDependency(OdDbDatabase& database, const OdString& savedPath, const QFileInfo& found) {
@@ -73,7 +72,8 @@ enum class Loading { IsAChange, OnlyShows };
 OdResult loadFile(OdDbBlockTableRecord& record, const QFileInfo& file, Loading loading) {
     OdDbDatabase& host = *record.database();
     const QString path = file.canonicalFilePath();
-    if (isOnTheWay(path, host))
+    const LoadingFile hostGuard(QFileInfo(qt(host.getFilename())).canonicalFilePath());
+    if (isOnTheWay(path))
         return eSelfReference;
     OdDbDatabasePtr loaded = record.xrefDatabase();
     const bool isThere = isLoadedFrom(record, file);
