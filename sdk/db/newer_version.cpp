@@ -38,8 +38,9 @@ private:
     void fill(OdDbObject& object, const DxfTagList& tags) const {
         DxfTagList& content = object.edit();
         content.erase(0, content.size());
-        for (const DxfTag& tag : tags)
-            content.append(tag.code, recoded(tag.value()));
+        content.append(0, tags[0].value());
+        for (std::size_t i = 1; i < tags.size(); ++i)
+            content.append(tags[i].code, recoded(tags[i].value()));
     }
 
     void copyHeader() {

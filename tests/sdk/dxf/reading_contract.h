@@ -3,6 +3,7 @@
 #pragma once
 
 #include "sdk/db/curves.h"
+#include "sdk/db/newer_version.h"
 #include "sdk/dxf/binary_text.h"
 #include "tests/sdk/dxf/use_drawing.h"
 
@@ -45,6 +46,18 @@ inline std::string faultOfChanged(OdDbDatabase& database) {
     return database.writeBytes() == before ? "" : "an aborted change leaves something behind";
 }
 
+// A drawing of the oldest version becomes a newer one, or an error says why not.
+inline std::string faultOfUpgrade(OdDbDatabase& database) {
+    std::vector<OdString> leftOut;
+    try {
+        const OdDbDatabasePtr newer = odDbInNewerVersion(database, leftOut);
+        useEverything(*newer);
+        return entityCount(*newer) == entityCount(database) ? "" : "a newer drawing has lost entities";
+    } catch (const OdError&) {
+        return "";
+    }
+}
+
 inline std::string faultOfReading(const std::string& bytes) {
     OdDbDatabasePtr database;
     try {
@@ -56,6 +69,8 @@ inline std::string faultOfReading(const std::string& bytes) {
         return known && text.find("test.dxf") != std::string::npos ? ""
                                                                    : "an error that says too little: " + text;
     }
-    const std::string fault = faultOfUnchanged(*database, bytes);
-    return fault.empty() ? faultOfChanged(*database) : fault;
+    std::string fault = faultOfUnchanged(*database, bytes);
+    if (fault.empty())
+        fault = faultOfChanged(*database);
+    return fault.empty() ? faultOfUpgrade(*database) : fault;
 }
