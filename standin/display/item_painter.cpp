@@ -14,6 +14,7 @@ namespace {
 const double smallestItem = 1.2; // pixels; below it an item is one dot
 const double smallestText = 3;   // pixels; below it a text is a line
 const int mostWaiting = 4096;
+const double kNameBorder = 5; // pixels around the name of a missing reference
 
 // The part of the line inside of the area; false when there is none. Far ends would overflow the painter.
 bool clipLine(const QRectF& area, QPointF& a, QPointF& b) {
@@ -169,17 +170,18 @@ void ItemPainter::drawText(const Shape& text) {
     target.restore();
 }
 
-// A box with a cross, and the name beside it.
+// The name in a box.
 void ItemPainter::drawMissing(const Shape& mark) {
     const QPointF at = shownView.toPixel(mark.points[0]);
     if (!clip.contains(at))
         return;
     flush();
-    const QRectF box(at - QPointF(kMissingMark, kMissingMark), at + QPointF(kMissingMark, kMissingMark));
+    QRectF box = QFontMetricsF(target.font()).boundingRect(mark.text);
+    box.setSize(box.size().expandedTo({2 * kMissingMark, 2 * kMissingMark - kNameBorder}) +
+                QSizeF(2 * kNameBorder, kNameBorder));
+    box.moveCenter(at);
     target.drawRect(box);
-    target.drawLine(box.topLeft(), box.bottomRight());
-    target.drawLine(box.bottomLeft(), box.topRight());
-    target.drawText(box.topRight() + QPointF(5, kMissingMark + 4), mark.text);
+    target.drawText(box, Qt::AlignCenter, mark.text);
 }
 
 } // namespace standin
