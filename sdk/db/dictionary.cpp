@@ -200,7 +200,8 @@ void OdDbDictionary::setName(const OdString& oldName, const OdString& newName) {
     const std::size_t former = findEntry(newName);
     if (former != DxfTagList::npos && !(*entries)[former].isAlive())
         removeEntry(former);
-    splice((*entries)[findEntry(oldName)].tag, 1, nameTag(newName));
+    const std::size_t place = findEntry(oldName); // may make the list anew
+    splice((*entries)[place].tag, 1, nameTag(newName));
 }
 
 bool OdDbDictionary::areAllAlive() const {
