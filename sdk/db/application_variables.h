@@ -7,7 +7,7 @@
 class OdDbApplicationVariables {
 public:
     virtual ~OdDbApplicationVariables() = default;
-    virtual OdResBufPtr getVariable(const OdString& name) = 0;                 // null when it has none
+    virtual OdResBufPtr getVariable(const OdString& name) = 0; // null when it has none
     // The value of a variable of drawings, for one that doesn't hold it; null when there is none.
     virtual OdResBufPtr drawingDefault(const OdString& /*name*/) { return {}; }
     virtual bool setVariable(const OdString& name, const OdResBuf* value) = 0; // false when it has none

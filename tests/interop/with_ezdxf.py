@@ -104,6 +104,30 @@ class WithEzdxf(unittest.TestCase):
                                         list(box.extmin)[:2] + list(box.extmax)[:2]):
                     self.assertAlmostEqual(ours, theirs, 2)
 
+    def test_extents_of_splines_and_hatches_agree(self):
+        for version in ("R2000", "R2018"):
+            doc = ezdxf.new(version)
+            space = doc.modelspace()
+            hatch = space.add_hatch()
+            hatch.paths.add_polyline_path([(20, 0), (30, 0, 0.5), (30, 8)], is_closed=True)
+            edges = space.add_hatch().paths.add_edge_path()
+            edges.add_ellipse((40, 5), major_axis=(0, 3), ratio=0.5, start_angle=0, end_angle=360)
+            edges.add_arc((50, 5), radius=2, start_angle=30, end_angle=300, ccw=False)
+            entities = [space.add_open_spline([(0, 0), (1, 9), (6, 9), (8, -3), (12, 4)]), *space.query("HATCH")]
+            path = self.path / "curves.dxf"
+            for entity in entities:
+                others = [other for other in space if other is not entity]
+                for other in others:
+                    space.unlink_entity(other)
+                doc.saveas(path)
+                box, found = ezdxf.bbox.extents(space), report(path)
+                for other in others:
+                    space.add_entity(other)
+                with self.subTest(version + entity.dxftype()):
+                    for ours, theirs in zip(found["extmin"][:2] + found["extmax"][:2],
+                                            list(box.extmin)[:2] + list(box.extmax)[:2]):
+                        self.assertAlmostEqual(ours, theirs, delta=0.05)
+
     def test_changed_drawings_are_read_without_complaint(self):
         for version in VERSIONS[1:]:
             with self.subTest(version):
