@@ -6,7 +6,7 @@
 #include <QPointer>
 #include <QString>
 
-enum EV_MB_RET { EV_MB_NONE = 0, EV_MB_OK = 0x400, EV_MB_YES = 0x4000, EV_MB_NO = 0x10000 };
+enum EV_MB_RET { EV_MB_OK = 0x400, EV_MB_YES = 0x4000, EV_MB_NO = 0x10000 };
 inline EV_MB_RET operator|(EV_MB_RET a, EV_MB_RET b) { return EV_MB_RET(int(a) | int(b)); }
 
 namespace host_qt_ui_core {

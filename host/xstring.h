@@ -51,7 +51,6 @@ public:
     void AssignCopy(const wchar_t* text, unsigned length);
     void ConcatCopy(const wchar_t* text, unsigned length);
     CXStringW& operator+=(const CXStringW& other);
-    friend CXStringW operator+(CXStringW left, const CXStringW& right) { return left += right; }
     int CompareI(const wchar_t* other) const;
     int Find(wchar_t character, int start = 0) const; // -1 if absent
     void Delete(int start, int count);

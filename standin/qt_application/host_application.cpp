@@ -1,6 +1,7 @@
 // Runs the application, and catches at its edge what would otherwise end the program.
 #include "standin/qt_application/host_application.h"
 
+#include "host/documents.h"
 #include "standin/console/error_text.h"
 
 #include <cstdio>
@@ -20,6 +21,15 @@ private:
     int& depth;
 };
 
+// The variable TOOLTIPS. Tips are shown where it cannot be read.
+bool showsToolTips() {
+    HostDocumentManager* const documents = HostDocManager();
+    HostVarService* const variables = documents ? documents->varService() : nullptr;
+    OdResBufPtr value;
+    return !variables || variables->getVar(L"TOOLTIPS", &value, nullptr, 0) == kVarUnavailable ||
+           value->getBool();
+}
+
 } // namespace
 
 HostApplication::HostApplication(int& argc, char** argv) : QApplication(argc, argv), consoleExtension(this) {}
@@ -37,6 +47,8 @@ int HostApplication::run() {
 }
 
 bool HostApplication::notify(QObject* receiver, QEvent* event) {
+    if (event->type() == QEvent::ToolTip && !showsToolTips())
+        return true;
     const DepthGuard guard(depth);
     if (!running || depth > 1)
         return QApplication::notify(receiver, event);

@@ -40,6 +40,7 @@ public:
     // through the loops of modal dialogs and prompts it passes on to whoever runs them.
     int run();
     std::function<void(const QString& problem)> report; // empty: to the standard error stream
+    // Shows no tool tips while the variable TOOLTIPS is off.
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:

@@ -177,6 +177,15 @@ TEST_F(OptionsDialog, ShowsTheConfigurationOfTheCurrentDrawing) {
     EXPECT_EQ(dialog.control<QLabel>("configurationValue")->text(), "Site office");
 }
 
+TEST_F(OptionsDialog, ShowsTheConfigurationThatWasSetInTheDrawing) {
+    const OdDbDatabasePtr drawing = OdDbDatabase::createEmpty();
+    const OdResBufPtr text = OdResBuf::newRb(OdResBuf::kRtString);
+    text->setString(L"Ground floor");
+    drawing->setSysVar(L"CCONFIGURATION", text.get());
+    host.openDocument(drawing);
+    EXPECT_EQ(OpenDialog().control<QLabel>("configurationValue")->text(), "Ground floor");
+}
+
 TEST_F(OptionsDialog, ShowsDefaultForAnEmptyOrUnknownConfiguration) {
     host.openDocument(OdDbDatabase::createEmpty());
     EXPECT_EQ(OpenDialog().control<QLabel>("configurationValue")->text(), "Default") << "no such variable";

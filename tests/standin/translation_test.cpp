@@ -62,6 +62,20 @@ TEST(Translation, FolderWithoutCataloguesLoadsNone) {
     EXPECT_EQ(catalogues.load(folder.path(), "de_DE"), 0);
 }
 
+QString fileFilter() {
+    return QCoreApplication::translate("OdQCmd_hostAttachExternalReferenceCommand", "Drawing (*.dwg;)");
+}
+
+TEST(Translation, ShippedEnglishCatalogueServesEveryLanguageAndGoesWithTheHost) {
+    ASSERT_EQ(fileFilter(), "Drawing (*.dwg;)");
+    for (const QString language : {"en_US", "de_DE", "C"}) {
+        Catalogues catalogues;
+        EXPECT_EQ(catalogues.load(SHIPPED_CATALOGUES, language), 1) << qPrintable(language);
+        EXPECT_EQ(fileFilter(), "Drawings (*.dxf *.dwg)") << qPrintable(language);
+    }
+    EXPECT_EQ(fileFilter(), "Drawing (*.dwg;)");
+}
+
 TEST(Translation, HostFunctionIsFreeAgainAfterwards) {
     { const Catalogues catalogues; }
     EXPECT_FALSE(standin::registry().translate);
