@@ -15,6 +15,7 @@
 #include "workbench/module_loader.h"
 #include "workbench/script/script_player.h"
 #include "workbench/window/main_window.h"
+#include "workbench/window/progress_dialog.h"
 #include "workbench/window/window_place.h"
 
 #include <QApplication>
@@ -62,6 +63,8 @@ Workbench::Workbench(const Launch& launchOptions)
         report(problem);
     history = std::make_unique<HistoryKeeper>(*documents, io, files, launch.rootDir, setup.io);
     mainWindow = std::make_unique<MainWindow>(io, loop, *documents, styles);
+    if (!launch.headless)
+        progressDialog = std::make_unique<ProgressDialog>();
     addCommands();
     applySettings();
 }
@@ -69,6 +72,7 @@ Workbench::Workbench(const Launch& launchOptions)
 // The module goes first: it still finds the host around it.
 Workbench::~Workbench() {
     player.reset();
+    progressDialog.reset();
     mainWindow.reset();
     module.reset();
     registry().help = nullptr;

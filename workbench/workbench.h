@@ -24,6 +24,7 @@ namespace workbench {
 class HistoryKeeper;
 class LoadedModule;
 class MainWindow;
+class ProgressDialog;
 class ScriptPlayer;
 
 // Make it after the application object; it registers itself behind the host's functions until it goes.
@@ -40,6 +41,7 @@ public:
 
     standin::Console& console() { return io; }
     standin::CommandLoop& commands() { return loop; }
+    ProgressDialog* progress() const { return progressDialog.get(); }
     MainWindow* window() const { return mainWindow.get(); }
 
 private:
@@ -66,6 +68,7 @@ private:
     Ref<standin::Events> events;
     std::unique_ptr<LoadedModule> module;
     std::unique_ptr<MainWindow> mainWindow;
+    std::unique_ptr<ProgressDialog> progressDialog; // null when headless
     std::unique_ptr<ScriptPlayer> player;
     QTimer themeCheck;     // runs while a command does
     int appliedTheme = -1; // the one that the profile held last

@@ -1,6 +1,7 @@
 // The first half of reading: one pass over the text that finds the records and their places.
 #include "sdk/db/drawing_reader.h"
 
+#include "sdk/db/progress.h"
 #include "sdk/db/sub_entities.h"
 #include "sdk/dxf/binary_text.h"
 
@@ -8,7 +9,8 @@
 
 namespace {
 
-constexpr std::size_t kBytesOfRecord = 16; // the shortest record with a handle has about as many
+constexpr std::size_t kBytesOfRecord = 16;         // the shortest record with a handle has about as many
+constexpr std::ptrdiff_t kBytesOfReport = 1 << 19; // between reports of progress
 constexpr std::uint64_t kHighestHandle = std::uint64_t{1} << 60;
 
 } // namespace
@@ -42,6 +44,7 @@ void OdDbDrawingReader::read(std::string bytes) {
     addMissingTables();
     linkBlocks();
     linkSpaces();
+    odDbReportProgress(OdDbProgressMeter::kReading, 1);
 }
 
 void OdDbDrawingReader::checkKind(const std::string& bytes) const {
@@ -71,6 +74,7 @@ void OdDbDrawingReader::scan(std::string_view text) {
     DxfScanner scanner(text.substr(mark));
     DxfTag tag;
     bool first = true;
+    const char* reported = text.data();
     while (!ended && scanner.next(tag)) {
         if (tag.code != 0) {
             note(tag);
@@ -81,6 +85,11 @@ void OdDbDrawingReader::scan(std::string_view text) {
             fail(record.start, "a section without an end");
         if (walkingOver && tag.value() != "ENDSEC")
             continue;
+        if (tag.raw - reported >= kBytesOfReport) {
+            reported = tag.raw;
+            odDbReportProgress(OdDbProgressMeter::kReading,
+                               double(reported - text.data()) / double(text.size()));
+        }
         if (!first)
             finish(tag.raw);
         record = Record();

@@ -2,12 +2,15 @@
 #include "sdk/db/drawing_writer.h"
 
 #include "sdk/db/block_table.h"
+#include "sdk/db/progress.h"
 #include "sdk/db/sub_entities.h"
 #include "sdk/db/thumbnail_section.h"
 
 #include <algorithm>
 
 namespace {
+
+constexpr std::size_t kRecordsOfReport = 8192; // between reports of progress
 
 bool isTableRecord(const OdDbDatabaseImpl& impl, const OdDbStub& stub) {
     return stub.owner && impl.typeName(*stub.owner).compare(0, 6, "TABLE:") == 0;
@@ -26,12 +29,15 @@ std::vector<std::string_view> OdDbDrawingWriter::pieces() {
     const OdDbStub* fileEnd = beginOf("EOF");
     for (std::size_t i = 0; i < impl.fileStubCount; ++i) {
         OdDbStub& stub = impl.stubs[i];
+        if (i % kRecordsOfReport == 0)
+            odDbReportProgress(OdDbProgressMeter::kWriting, double(i) / double(impl.fileStubCount));
         if (!before.empty() || !blocksBefore.empty())
             emitAdded(stub);
         if (&stub == fileEnd)
             emitMissingSections();
         emitFileRecord(stub);
     }
+    odDbReportProgress(OdDbProgressMeter::kWriting, 1);
     return std::move(result);
 }
 

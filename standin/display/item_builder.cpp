@@ -98,7 +98,7 @@ void ItemBuilder::addReference(const OdDbBlockReference& reference, const Place&
         for (int column = 0; column < reference.columnCount() && !isFull(); ++column)
             shown |=
                 addBlock(block, place, place.toWorld * reference.blockTransform(row, column), layer, ink);
-    if (!shown && !layer.off) {
+    if (!shown && !layer.off && !isFull()) {
         const OdGePoint3d at = place.toWorld * reference.position();
         put({Shape::Missing, ink, {{at.x, at.y}}, QString::fromStdWString(reference.blockName().c_str())});
     }

@@ -26,7 +26,7 @@ public:
     Item build(const OdDbEntity& entity, const OdDbDatabase& drawing);
     // Blocks that repeat each other grow without bounds: what would be beyond these numbers isn't shown.
     static constexpr std::size_t kMostShapes = 1000000; // of one object
-    static constexpr std::size_t kMostParts = 4000000;  // of blocks, in all
+    static constexpr std::size_t kMostParts = 2000000;  // of blocks, in all
 
 private:
     // Where and in which looks the parts of a block are shown; the first one is the drawing itself.

@@ -57,7 +57,7 @@ void list(const CommandScope& scope) {
 
 void addEditCommands(const CommandScope& scope) {
     scope.menus.addEntry({Menu::Edit, tr("&Undo"), "UNDO", "undo", QKeySequence::Undo});
-    scope.menus.addEntry({Menu::Edit, tr("&Redo"), "REDO", {}, QKeySequence(Qt::CTRL + Qt::Key_Y)});
+    scope.menus.addEntry({Menu::Edit, tr("&Redo"), "REDO", "redo", QKeySequence(Qt::CTRL + Qt::Key_Y)});
     scope.menus.addEntry({Menu::Edit, tr("Select &all"), "SELECT\nAll\n", {}, QKeySequence::SelectAll, true});
     scope.menus.addEntry({Menu::Edit, tr("&List selected objects"), "LIST"});
     scope.loop.add({"UNDO", tr("Takes the last command's changes back."), withDrawing(scope, undo)});

@@ -14,6 +14,8 @@ namespace workbench {
 
 namespace {
 
+const double zoomStep = 2;
+
 QString tr(const char* text) { return QCoreApplication::translate("ViewCommands", text); }
 
 bool getCorner(Console& console, const OdGePoint3d* base, const QString& prompt, OdGePoint3d* point) {
@@ -49,26 +51,50 @@ void zoomScale(const CommandScope& scope, QString text) {
         scope.canvas.zoomToScale(factor);
 }
 
+void zoomPrevious(const CommandScope& scope) {
+    if (!scope.canvas.zoomPrevious())
+        scope.console.print(tr("There is no view before this one."));
+}
+
+void zoomBy(const CommandScope& scope, int keyword) {
+    switch (keyword) {
+    case 0:
+        return scope.canvas.zoomExtents();
+    case 1:
+        return zoomWindow(scope);
+    case 2:
+        return zoomPrevious(scope);
+    case 3:
+        return scope.canvas.zoomBy(zoomStep);
+    default:
+        return scope.canvas.zoomBy(1 / zoomStep);
+    }
+}
+
 void zoom(const CommandScope& scope) {
     const QString prompt = tr("Specify corner of window, enter a scale factor (n or nx), or [%s] <Extents>:");
+    const QString words =
+        tr("Extents Window Previous In Out") + QStringLiteral(" _ Extents Window Previous In Out");
     OdGePoint3d corner;
     OdString text;
     const int answer = scope.console.getPoint(nullptr, &corner, prompt.toStdWString().c_str(),
-                                              L"Extents Window _ Extents Window", kAnyText, &text, nullptr);
+                                              words.toStdWString().c_str(), kAnyText, &text, nullptr);
     if (answer == kInputPicked)
         zoomToSecondCorner(scope, corner);
     else if (answer == kInputTyped)
         zoomScale(scope, hostqt::qString(text));
-    else if (answer == kInputNone || answer == kInputKeyword)
-        scope.canvas.zoomExtents();
-    else if (answer == kInputKeyword + 1)
-        zoomWindow(scope);
+    else if (answer == kInputNone || answer >= kInputKeyword)
+        zoomBy(scope, answer == kInputNone ? 0 : answer - kInputKeyword);
 }
 
 } // namespace
 
 void addViewCommands(const CommandScope& scope) {
-    scope.menus.addEntry({Menu::View, tr("Zoom &extents"), "ZOOM\nExtents"});
+    scope.menus.addEntry({Menu::View, tr("Zoom &extents"), "ZOOM\nExtents", "zoom_extents"});
+    scope.menus.addEntry({Menu::View, tr("Zoom &window"), "ZOOM\nWindow"});
+    scope.menus.addEntry({Menu::View, tr("Zoom &previous"), "ZOOM\nPrevious"});
+    scope.menus.addEntry({Menu::View, tr("Zoom &in"), "ZOOM\nIn", {}, QKeySequence::ZoomIn});
+    scope.menus.addEntry({Menu::View, tr("Zoom &out"), "ZOOM\nOut", {}, QKeySequence::ZoomOut});
     scope.loop.add({"ZOOM", tr("Changes what part of the drawing is shown."), withDrawing(scope, zoom)});
 }
 

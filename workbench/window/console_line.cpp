@@ -68,7 +68,13 @@ void ConsoleLine::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+// An empty line has nothing to undo or to select: those keys are the window's then.
 bool ConsoleLine::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && text().isEmpty() &&
+        static_cast<QKeyEvent*>(event)->modifiers() & Qt::ControlModifier) {
+        event->ignore();
+        return false;
+    }
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Tab) {
         completeFirst();
         return true;

@@ -90,7 +90,7 @@ void ConsolePanel::apply(const Settings& settings) {
     commandLine->history.setLimit(settings.historyLines);
 }
 
-QSize ConsolePanel::sizeHint() const { return {600, 9 * fontMetrics().height()}; }
+QSize ConsolePanel::sizeHint() const { return {600, 7 * fontMetrics().height()}; }
 
 } // namespace workbench
 

@@ -11,6 +11,7 @@
 #include "workbench/canvas/canvas.h"
 #include "workbench/window/console_line.h"
 #include "workbench/window/console_panel.h"
+#include "workbench/window/drawing_tabs.h"
 #include "workbench/window/window_place.h"
 
 #include <QActionGroup>
@@ -19,7 +20,9 @@
 #include <QLabel>
 #include <QMenu>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
+#include <QVBoxLayout>
 #include <algorithm>
 
 using namespace standin;
@@ -37,15 +40,26 @@ MainWindow::MainWindow(Console& console, CommandLoop& commandLoop, DocumentManag
     connectSignals();
     showDrawing();
     showIcons();
-    resize(1000, 680);
+    resize(1160, 800);
     consolePanel->line()->setFocus();
 }
 
 MainWindow::~MainWindow() = default;
 
+QWidget* MainWindow::buildDrawingArea() {
+    auto* area = new QWidget(this);
+    tabs = new DrawingTabs(documents, area);
+    canvas = new Canvas(io, loop, documents, area);
+    auto* column = new QVBoxLayout(area);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(tabs);
+    column->addWidget(canvas, 1);
+    return area;
+}
+
 void MainWindow::build() {
-    canvas = new Canvas(io, loop, documents, this);
-    setCentralWidget(canvas);
+    setCentralWidget(buildDrawingArea());
     consolePanel = new ConsolePanel(io, loop, this);
     canvas->setFocusProxy(consolePanel->line());
     canvas->setFocusPolicy(Qt::ClickFocus);
@@ -66,6 +80,12 @@ void MainWindow::connectSignals() {
     connect(&documents, &DocumentManager::currentChanged, this, &MainWindow::showDrawing);
     connect(&documents, &DocumentManager::documentRenamed, this, &MainWindow::showDrawing);
     connect(&loop, &CommandLoop::commandEnded, this, &MainWindow::showDrawing);
+    connect(tabs, &DrawingTabs::chosen, this, &MainWindow::switchTo);
+    connect(tabs, &DrawingTabs::closeWanted, this, [this](Document* document) {
+        switchTo(document);
+        if (documents.currentOne() == document)
+            runCommand(QStringLiteral("CLOSE"));
+    });
     connect(canvas, &Canvas::cursorMoved, this, &MainWindow::showCursorPlace);
     connect(canvas, &Canvas::cursorLeft, cursorLabel, &QLabel::clear);
     connect(consolePanel->line(), &ConsoleLine::escaped, canvas, &Canvas::escape);
@@ -89,9 +109,8 @@ void MainWindow::showIcons() {
 
 void MainWindow::showDrawing() {
     Document* current = documents.currentOne();
-    QString name = current ? current->displayName() : QString();
-    if (current && current->database()->isModified())
-        name += QLatin1Char('*');
+    const QString name = current ? titleOf(*current) : QString();
+    tabs->showDrawings();
     drawingLabel->setText(name.isEmpty() ? tr("No drawing") : name);
     setWindowTitle(name.isEmpty() ? tr("Workbench") : tr("%1 - Workbench").arg(name));
 }
@@ -99,8 +118,19 @@ void MainWindow::showDrawing() {
 // What a menu starts takes the place of a command that is waiting for an answer.
 void MainWindow::runCommand(const QString& command) {
     io.escape();
-    for (const QString& line : command.split(QLatin1Char('\n')))
+    const QStringList lines = command.split(QLatin1Char('\n'));
+    for (const QString& line : documents.currentOne() ? lines : QStringList(lines.first()))
         io.enterLine(line);
+}
+
+void MainWindow::switchTo(Document* document) {
+    const std::vector<Document*> open = documents.all();
+    if (std::find(open.begin(), open.end(), document) == open.end())
+        return;
+    if (!loop.isRunning())
+        return documents.activate(document);
+    io.escape();
+    QTimer::singleShot(0, this, [this, document] { switchTo(document); });
 }
 
 void MainWindow::showCursorPlace(const QPointF& point) {

@@ -16,6 +16,7 @@ class QToolBar;
 namespace standin {
 class CommandLoop;
 class Console;
+class Document;
 class DocumentManager;
 class StyleManager;
 } // namespace standin
@@ -24,6 +25,7 @@ namespace workbench {
 
 class Canvas;
 class ConsolePanel;
+class DrawingTabs;
 
 class MainWindow : public QMainWindow, public MenuSink {
     Q_OBJECT
@@ -52,6 +54,9 @@ private:
     void runCommand(const QString& command);
     void showIcons();
     void showDrawing();
+    // A prompt that is open is cancelled first.
+    void switchTo(standin::Document* document);
+    QWidget* buildDrawingArea();
     void showCursorPlace(const QPointF& point);
     void fillDrawingsMenu();
     void checkTheme();
@@ -61,6 +66,7 @@ private:
     standin::DocumentManager& documents;
     standin::StyleManager& styles;
     Canvas* canvas = nullptr;
+    DrawingTabs* tabs = nullptr;
     ConsolePanel* consolePanel = nullptr;
     QToolBar* toolBar = nullptr;
     std::map<Menu, QMenu*> menus;

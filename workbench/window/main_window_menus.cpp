@@ -4,6 +4,7 @@
 #include "host/qt_ui_core.h"
 #include "standin/documents/document_manager.h"
 #include "standin/themes/style_manager.h"
+#include "workbench/window/drawing_tabs.h"
 
 #include <QActionGroup>
 #include <QMenuBar>
@@ -83,10 +84,10 @@ void MainWindow::fillDrawingsMenu() {
     QMenu* drawingsMenu = menus[Menu::Drawings];
     drawingsMenu->clear();
     for (Document* document : documents.all()) {
-        QAction* action = drawingsMenu->addAction(document->displayName().replace("&", "&&"));
+        QAction* action = drawingsMenu->addAction(titleOf(*document).replace("&", "&&"));
         action->setCheckable(true);
         action->setChecked(document == documents.currentOne());
-        connect(action, &QAction::triggered, this, [this, document] { documents.activate(document); });
+        connect(action, &QAction::triggered, this, [this, document] { switchTo(document); });
     }
     if (drawingsMenu->isEmpty())
         drawingsMenu->addAction(tr("None open"))->setEnabled(false);

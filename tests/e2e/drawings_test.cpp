@@ -1,0 +1,154 @@
+// Opening, saving and closing drawings, and what is asked before changes are lost.
+#include "tests/e2e/drawing_fixture.h"
+#include "workbench/window/progress_dialog.h"
+
+#include <QAbstractButton>
+#include <QFile>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QTabBar>
+
+namespace {
+
+struct DrawingsTest : DrawingFixture {
+    QString title() { return bench->window()->windowTitle(); }
+    int linesIn(const QString& file) {
+        const OdDbDatabasePtr read = OdDbDatabase::readFile(hostqt::odString(file));
+        return static_cast<int>(
+            odrxCast<OdDbBlockTableRecord>(read->getModelSpaceId().safeOpenObject())->entityIds().size());
+    }
+};
+
+TEST_F(DrawingsTest, ChangesShowAStarUntilTheyAreSaved) {
+    EXPECT_EQ(title(), "lines.dxf - Workbench");
+    eraseFirstLine();
+    enter({"DRAWINGS"});
+    EXPECT_EQ(title(), "lines.dxf* - Workbench");
+    enter({"SAVE"});
+    EXPECT_EQ(title(), "lines.dxf - Workbench");
+    EXPECT_EQ(linesIn(path), 3);
+}
+
+TEST_F(DrawingsTest, SaveAsTakesANameAndAsksBeforeItReplaces) {
+    eraseFirstLine();
+    const QString copy = root.filePath("copy");
+    enter({"SAVEAS", qPrintable(copy)});
+    EXPECT_EQ(title(), "copy.dxf - Workbench");
+    EXPECT_EQ(linesIn(copy + ".dxf"), 3);
+    EXPECT_EQ(linesIn(path), 4);
+    enter({"SAVEAS", qPrintable(path), "No"});
+    EXPECT_EQ(linesIn(path), 4);
+    enter({"SAVEAS", qPrintable(path), "Yes"});
+    EXPECT_EQ(linesIn(path), 3);
+}
+
+TEST_F(DrawingsTest, CloseAsksForUnsavedChangesOnTheConsole) {
+    eraseFirstLine();
+    enter({"CLOSE", "Cancel"});
+    EXPECT_EQ(title(), "lines.dxf* - Workbench");
+    enter({"CLOSE", "No"});
+    EXPECT_EQ(title(), "Drawing1 - Workbench");
+    EXPECT_EQ(linesIn(path), 4);
+    enter({"OPEN", qPrintable(path)});
+    eraseFirstLine();
+    enter({"CLOSE", ""});
+    EXPECT_EQ(linesIn(path), 3);
+}
+
+TEST_F(DrawingsTest, CloseAsksForUnsavedChangesWithABox) {
+    enter({"FILEDIA", "1"});
+    for (const auto button : {QMessageBox::Cancel, QMessageBox::Save, QMessageBox::Discard}) {
+        if (title().startsWith("Drawing1"))
+            enter({"FILEDIA", "0", "OPEN", qPrintable(path), "FILEDIA", "1"});
+        eraseFirstLine();
+        const int before = linesIn(path);
+        play({[this] { submit("CLOSE"); },
+              [button] {
+                  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                  ASSERT_NE(box, nullptr);
+                  box->button(button)->click();
+              }});
+        EXPECT_EQ(title().startsWith("lines.dxf"), button == QMessageBox::Cancel);
+        EXPECT_EQ(linesIn(path), button == QMessageBox::Save ? before - 1 : before);
+        if (button == QMessageBox::Cancel)
+            enter({"UNDO"});
+    }
+}
+
+TEST_F(DrawingsTest, ClosingTheWindowAsksToo) {
+    eraseFirstLine();
+    play({[this] { bench->window()->close(); }, [this] { submit("Cancel"); }});
+    EXPECT_TRUE(bench->window()->isVisible());
+    EXPECT_TRUE(transcript().filter("Save changes to lines.dxf?").size() == 1);
+    EXPECT_EQ(linesIn(path), 4);
+}
+
+TEST_F(DrawingsTest, AnOpenDrawingIsBroughtToTheFront) {
+    enter({"NEW"});
+    enter({"OPEN", qPrintable(path)});
+    EXPECT_EQ(title(), "lines.dxf - Workbench");
+    EXPECT_EQ(part<QTabBar>("drawingTabs")->count(), 3);
+}
+
+TEST_F(DrawingsTest, TabsSwitchDrawings) {
+    auto* tabs = part<QTabBar>("drawingTabs");
+    EXPECT_EQ(tabs->tabText(1), "lines.dxf");
+    QTest::mouseClick(tabs, Qt::LeftButton, Qt::NoModifier, tabs->tabRect(0).center());
+    EXPECT_EQ(title(), "Drawing1 - Workbench");
+    play({[this] { submit("SELECT"); },
+          [tabs] { QTest::mouseClick(tabs, Qt::LeftButton, Qt::NoModifier, tabs->tabRect(1).center()); }});
+    EXPECT_TRUE(waitUntil([this] { return title() == "lines.dxf - Workbench"; }));
+}
+
+TEST_F(DrawingsTest, AFaultNamesFileAndLine) {
+    const QString broken = root.filePath("broken.dxf");
+    QFile file(broken);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("0\nSECTION\n2\nENTITIES\n0\nLINE\nwrong\n0\n");
+    file.close();
+    enter({"OPEN", qPrintable(broken)});
+    EXPECT_TRUE(lastLine().contains("broken.dxf, line 7")) << lastLine().toStdString();
+    EXPECT_EQ(title(), "lines.dxf - Workbench");
+    enter({"OPEN", qPrintable(root.filePath("missing.dxf"))});
+    EXPECT_TRUE(lastLine().contains("missing.dxf")) << lastLine().toStdString();
+}
+
+TEST_F(DrawingsTest, ReadingIsShownAndCanBeCancelled) {
+    const QString large = root.filePath("large.dxf");
+    QFile file(large);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("0\nSECTION\n2\nENTITIES\n");
+    for (int i = 0; i < 100000; ++i)
+        file.write("0\nPOINT\n8\n0\n10\n1.0\n20\n2.0\n30\n0.0\n");
+    file.write("0\nENDSEC\n0\nEOF\n");
+    file.close();
+    bench->progress()->setDelay(0);
+    QTimer canceller;
+    int shown = 0;
+    QObject::connect(&canceller, &QTimer::timeout, bench.get(), [&shown] {
+        if (auto* dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget())) {
+            ++shown;
+            dialog->cancel();
+        }
+    });
+    canceller.start(0);
+    enter({"OPEN", qPrintable(large)});
+    EXPECT_GT(shown, 0);
+    EXPECT_EQ(title(), "lines.dxf - Workbench");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    canceller.stop();
+    enter({"OPEN", qPrintable(large)});
+    EXPECT_EQ(title(), "large.dxf - Workbench");
+}
+
+TEST_F(DrawingsTest, ADrawingGivenAtTheStartIsShown) {
+    bench.reset();
+    workbench::Launch launch = launchIn(root.path());
+    launch.drawing = path;
+    bench = std::make_unique<workbench::Workbench>(launch);
+    bench->start();
+    EXPECT_EQ(title(), "lines.dxf - Workbench");
+    EXPECT_TRUE(waitUntil([this] { return canvas().rect().contains(pixel(210, 20)); }));
+}
+
+} // namespace

@@ -1,0 +1,61 @@
+#include "workbench/window/drawing_tabs.h"
+
+#include "sdk/db/database.h"
+#include "standin/documents/document_manager.h"
+
+#include <QSignalBlocker>
+
+using namespace standin;
+
+namespace workbench {
+
+QString titleOf(Document& document) {
+    return document.database()->isModified() ? document.displayName() + QLatin1Char('*')
+                                             : document.displayName();
+}
+
+DrawingTabs::DrawingTabs(DocumentManager& documentManager, QWidget* parent)
+    : QTabBar(parent), documents(documentManager) {
+    setObjectName(QStringLiteral("drawingTabs"));
+    setAutoHide(true);
+    setDocumentMode(true);
+    setExpanding(false);
+    setTabsClosable(true);
+    setFocusPolicy(Qt::NoFocus);
+    connect(this, &QTabBar::tabBarClicked, this, [this](int index) {
+        if (Document* document = documentAt(index))
+            emit chosen(document);
+    });
+    connect(this, &QTabBar::tabCloseRequested, this, [this](int index) {
+        if (Document* document = documentAt(index))
+            emit closeWanted(document);
+    });
+}
+
+DrawingTabs::~DrawingTabs() = default;
+
+Document* DrawingTabs::documentAt(int index) const {
+    const std::vector<Document*> open = documents.all();
+    return index >= 0 && index < int(open.size()) ? open[std::size_t(index)] : nullptr;
+}
+
+void DrawingTabs::showDrawings() {
+    const QSignalBlocker blocker(this);
+    const std::vector<Document*> open = documents.all();
+    while (count() > int(open.size()))
+        removeTab(count() - 1);
+    for (int i = 0; i < int(open.size()); ++i) {
+        Document& document = *open[std::size_t(i)];
+        const QString title = titleOf(document).replace(QLatin1Char('&'), QLatin1String("&&"));
+        if (i == count())
+            addTab(title);
+        setTabText(i, title);
+        setTabToolTip(i, document.path());
+        if (&document == documents.currentOne())
+            setCurrentIndex(i);
+    }
+}
+
+} // namespace workbench
+
+#include "moc_drawing_tabs.cpp"
