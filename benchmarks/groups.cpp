@@ -1,11 +1,14 @@
 // The group commands over drawings of many groups and groups of many members. The dialog stands beside a bare
 // table of the same rows; "ratio" compares the two within one run.
+// The bare table is filled by plain calls; the dialog keeps its model from telling of each cell.
+#include "benchmarks/timing.h"
 #include "groups/command_line_from_selection.h"
 #include "groups/dialog_parts.h"
 #include "groups/group_dlg.h"
 #include "groups/group_listing.h"
 #include "groups/group_names.h"
 #include "groups/highlight.h"
+#include "groups/local_undo.h"
 #include "host/text.h"
 #include "sdk/db/block_table.h"
 #include "sdk/db/curves.h"
@@ -17,7 +20,6 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 #include <benchmark/benchmark.h>
-#include <chrono>
 
 namespace {
 
@@ -44,12 +46,6 @@ OdDbDatabasePtr drawingOfGroups(int count, const std::wstring& prefix = L"Group"
         group->append(lines);
     }
     return database;
-}
-
-double seconds(const std::function<void()>& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 // The same rows in the same table, from names that are at hand, filled in the same way.
@@ -79,22 +75,56 @@ void showDialog(const OdDbDatabasePtr& database) {
     QCoreApplication::processEvents();
 }
 
-void openDialog(benchmark::State& state) {
-    const FixtureHost host;
-    const OdDbDatabasePtr database = drawingOfGroups(static_cast<int>(state.range(0)));
+void openDialogOf(benchmark::State& state, const OdDbDatabasePtr& database) {
     std::vector<OdString> names;
     for (const auto entry = groupsOf(database)->newIterator(1); !entry->done(); entry->next())
         names.push_back(entry->name());
-    double bare = 0, full = 0;
+    timing::Turns bare, full;
     for (auto _ : state) {
-        full += seconds([&] { showDialog(database); });
+        full.add(timing::secondsOf([&] { showDialog(database); }));
         state.PauseTiming();
-        bare += seconds([&] { showBareTable(names); });
+        bare.add(timing::secondsOf([&] { showBareTable(names); }));
         state.ResumeTiming();
     }
-    state.counters["ratio"] = full / bare;
+    state.counters["ratio"] = full.ratioTo(bare);
+}
+
+void openDialog(benchmark::State& state) {
+    const FixtureHost host;
+    openDialogOf(state, drawingOfGroups(static_cast<int>(state.range(0))));
 }
 BENCHMARK(openDialog)->Arg(1000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+// The groups are read from the file's tags each time, as nobody has changed them.
+void openDialogOverAFile(benchmark::State& state) {
+    const FixtureHost host;
+    openDialogOf(state,
+                 OdDbDatabase::readBytes(drawingOfGroups(static_cast<int>(state.range(0)))->writeBytes()));
+}
+BENCHMARK(openDialogOverAFile)->Arg(1000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+// What Cancel takes back: ten new groups, ten new names, ten descriptions, ten exploded groups.
+void cancelDialogRun(benchmark::State& state) {
+    const FixtureHost host;
+    const OdDbDatabasePtr database = drawingOfGroups(static_cast<int>(state.range(0)));
+    const OdDbDictionaryPtr dictionary = groupsOf(database);
+    const auto groupOf = [&](const wchar_t* prefix, int number) {
+        return odrxCast<OdDbGroup>(dictionary->getAt(prefix + std::to_wstring(number), OdDb::kForWrite));
+    };
+    for (auto _ : state) {
+        state.PauseTiming();
+        HostLocalUndo undo(database);
+        for (int i = 1; i <= 10; ++i) {
+            dictionary->setAt(L"New" + std::to_wstring(i), OdDbGroupPtr(new OdDbGroup).get());
+            groupOf(L"Group", i)->setName(L"Renamed" + std::to_wstring(i));
+            groupOf(L"Group", i + 20)->setDescription(L"Described");
+            groupOf(L"Group", i + 40)->erase(true);
+        }
+        state.ResumeTiming();
+        undo.takeBack();
+    }
+}
+BENCHMARK(cancelDialogRun)->Arg(1000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 
 void nextName(benchmark::State& state) {
     const FixtureHost host;
@@ -150,15 +180,19 @@ struct BigGroup {
 
 void reverseMembers(benchmark::State& state) {
     BigGroup big(static_cast<int>(state.range(0)));
-    for (auto _ : state)
+    for (auto _ : state) {
+        big.database->startUndoRecord();
         big.group->reverse();
+    }
 }
 BENCHMARK(reverseMembers)->Arg(1000000)->Unit(benchmark::kMillisecond);
 
 void transferMembers(benchmark::State& state) {
     BigGroup big(static_cast<int>(state.range(0)));
-    for (auto _ : state)
+    for (auto _ : state) {
+        big.database->startUndoRecord();
         big.group->transfer(0, static_cast<unsigned>(state.range(0)) - 10, 10);
+    }
 }
 BENCHMARK(transferMembers)->Arg(1000000)->Unit(benchmark::kMillisecond);
 

@@ -97,6 +97,12 @@ protected:
         EXPECT_EQ(io.unanswered, 0);
         io.note(L"result " + std::to_wstring(result) + L", status " + std::to_wstring(status) + L"\n");
     }
+    // For the judges of tests/interop, which name the folder.
+    void leaveDrawing() const {
+        const QString folder = qEnvironmentVariable("GROUP_DRAWINGS");
+        if (!folder.isEmpty())
+            database->writeFile(wide(folder.toStdString() + "/" + GetParam() + ".dxf"));
+    }
     void compare(const char* file, const std::wstring& actual) const {
         const std::string text = OdString(actual).toUtf8();
         QFile::remove(QString::fromStdString(path(file) + ".actual"));
@@ -113,6 +119,22 @@ TEST_P(Transcript, AsksPrintsAndChangesWhatTheReferenceSays) {
     play(script);
     compare("transcript.txt", io.transcript);
     compare("drawing.txt", summary());
+    leaveDrawing();
+}
+
+TEST_P(Transcript, UndoAndRedoRestoreTheDrawingTagForTag) {
+    const YAML::Node script = YAML::LoadFile(path("script.yaml"));
+    buildDrawing(script);
+    const std::string before = drawingText();
+    database->startUndoRecord();
+    play(script);
+    const std::string after = drawingText();
+    if (after == before)
+        return;
+    EXPECT_TRUE(database->undo());
+    EXPECT_TRUE(drawingText() == before);
+    EXPECT_TRUE(database->redo());
+    EXPECT_TRUE(drawingText() == after);
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, Transcript, testing::ValuesIn(caseNames()),
