@@ -67,7 +67,11 @@ void OdDbDatabase::setSysVar(const OdString& name, const OdResBuf* value) {
         parts->sessionVariables[name.makeUpper().wide()] = value->clone();
         return;
     }
-    parts->header.set(inHeader, code, textOf(*value, code, parts->codec));
+    const OdResBufPtr present = valueOf(parts->header, parts->codec, inHeader);
+    const std::string text = textOf(*value, code, parts->codec);
+    if (text == textOf(*present, code, parts->codec))
+        return; // no change: the drawing isn't modified by it
+    parts->header.set(inHeader, code, text);
     parts->headerModified = true;
     parts->notify([](OdDbDatabaseReactor& reactor) { reactor.headerChanged(); });
 }

@@ -100,6 +100,14 @@ TEST_F(DrawingsTest, TabsSwitchDrawings) {
     EXPECT_TRUE(waitUntil([this] { return title() == "lines.dxf - Workbench"; }));
 }
 
+TEST_F(DrawingsTest, TheCrossOfATabClosesItsDrawing) {
+    auto* tabs = part<QTabBar>("drawingTabs");
+    qobject_cast<QAbstractButton*>(tabs->tabButton(0, QTabBar::RightSide))->click();
+    EXPECT_TRUE(waitUntil([tabs] { return tabs->count() == 1; }));
+    EXPECT_EQ(title(), "lines.dxf - Workbench");
+    EXPECT_FALSE(tabs->isVisible());
+}
+
 TEST_F(DrawingsTest, AFaultNamesFileAndLine) {
     const QString broken = root.filePath("broken.dxf");
     QFile file(broken);

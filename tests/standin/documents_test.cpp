@@ -143,4 +143,21 @@ TEST_F(DocumentsTest, DatabaseSeesTheLineTypeScale) {
     EXPECT_EQ(database->getSysVar(L"LTSCALE")->getDouble(), 4);
 }
 
+TEST_F(DocumentsTest, DrawingVariablesComeFromEachDrawingsOwnHeader) {
+    const OdDbDatabasePtr first = documents.openEmpty()->database();
+    set(L"LTSCALE", 7);
+    const OdDbDatabasePtr second = documents.openEmpty()->database();
+    EXPECT_EQ(first->getSysVar(L"LTSCALE")->getDouble(), 7);
+    EXPECT_EQ(second->getSysVar(L"LTSCALE")->getDouble(), 1);
+    EXPECT_NE(first->writeBytes().find("$LTSCALE\n 40\n7"), std::string::npos);
+}
+
+TEST_F(DocumentsTest, AVariableThatIsSetToItsOwnValueLeavesTheDrawingUnmodified) {
+    const OdDbDatabasePtr database = documents.openEmpty()->database();
+    EXPECT_EQ(set(L"LTSCALE", 1), kVarOk);
+    EXPECT_FALSE(database->isModified());
+    EXPECT_EQ(set(L"LTSCALE", 2), kVarOk);
+    EXPECT_TRUE(database->isModified());
+}
+
 } // namespace

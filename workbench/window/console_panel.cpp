@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 using standin::CommandLoop;
@@ -60,7 +61,10 @@ void ConsolePanel::layOut() {
 }
 
 void ConsolePanel::connectSignals() {
-    connect(&io, &Console::lineWritten, transcriptView, &QPlainTextEdit::appendPlainText);
+    connect(&io, &Console::lineWritten, transcriptView, [this](const QString& line) {
+        transcriptView->appendPlainText(line);
+        showEnd();
+    });
     connect(&io, &Console::promptChanged, this, &ConsolePanel::showPrompt);
     connect(&loop, &CommandLoop::commandStarted, this, &ConsolePanel::showPrompt);
     connect(&loop, &CommandLoop::commandEnded, this, &ConsolePanel::showPrompt);
@@ -69,6 +73,12 @@ void ConsolePanel::connectSignals() {
 }
 
 void ConsolePanel::enter(const QString& typed) { io.enterLine(typed); }
+
+// The view follows its end by itself only while it is there, which a change of the font may end.
+void ConsolePanel::showEnd() {
+    QScrollBar* bar = transcriptView->verticalScrollBar();
+    bar->setValue(bar->maximum());
+}
 
 void ConsolePanel::showPrompt() { promptLabel->setText(loop.prompt()); }
 
@@ -86,6 +96,7 @@ void ConsolePanel::apply(const Settings& settings) {
         part->setPalette(colors);
     }
     transcriptView->setMaximumBlockCount(settings.consoleLines);
+    showEnd();
     commandLine->setCompletes(settings.completeCommands);
     commandLine->history.setLimit(settings.historyLines);
 }

@@ -31,6 +31,7 @@ private:
     void layOut();
     void connectSignals();
     void showPrompt();
+    void showEnd();
     void enter(const QString& typed);
 
     standin::Console& io;

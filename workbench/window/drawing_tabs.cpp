@@ -4,6 +4,7 @@
 #include "standin/documents/document_manager.h"
 
 #include <QSignalBlocker>
+#include <QToolButton>
 
 using namespace standin;
 
@@ -20,15 +21,10 @@ DrawingTabs::DrawingTabs(DocumentManager& documentManager, QWidget* parent)
     setAutoHide(true);
     setDocumentMode(true);
     setExpanding(false);
-    setTabsClosable(true);
     setFocusPolicy(Qt::NoFocus);
     connect(this, &QTabBar::tabBarClicked, this, [this](int index) {
         if (Document* document = documentAt(index))
             emit chosen(document);
-    });
-    connect(this, &QTabBar::tabCloseRequested, this, [this](int index) {
-        if (Document* document = documentAt(index))
-            emit closeWanted(document);
     });
 }
 
@@ -37,6 +33,21 @@ DrawingTabs::~DrawingTabs() = default;
 Document* DrawingTabs::documentAt(int index) const {
     const std::vector<Document*> open = documents.all();
     return index >= 0 && index < int(open.size()) ? open[std::size_t(index)] : nullptr;
+}
+
+// A cross in the colour of the text; the one of the style is hard to see in dark colours.
+void DrawingTabs::addCloseButton(int index) {
+    auto* button = new QToolButton(this);
+    button->setText(QString(QChar(0x00d7)));
+    button->setToolTip(tr("Close drawing"));
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::NoFocus);
+    setTabButton(index, QTabBar::RightSide, button);
+    connect(button, &QToolButton::clicked, this, [this, button] {
+        for (int i = 0; i < count(); ++i)
+            if (tabButton(i, QTabBar::RightSide) == button)
+                return emit closeWanted(documentAt(i));
+    });
 }
 
 void DrawingTabs::showDrawings() {
@@ -48,7 +59,7 @@ void DrawingTabs::showDrawings() {
         Document& document = *open[std::size_t(i)];
         const QString title = titleOf(document).replace(QLatin1Char('&'), QLatin1String("&&"));
         if (i == count())
-            addTab(title);
+            addCloseButton(addTab(title));
         setTabText(i, title);
         setTabToolTip(i, document.path());
         if (&document == documents.currentOne())

@@ -26,6 +26,7 @@ signals:
 
 private:
     standin::Document* documentAt(int index) const;
+    void addCloseButton(int index);
     standin::DocumentManager& documents;
 };
 
