@@ -50,6 +50,12 @@ void showHelp() {
         help->showTopic("IDH_GroupCmd[1]");
 }
 
+void tighten(QLayout& layout) {
+    constexpr int margin = 6, spacing = 4;
+    layout.setContentsMargins(margin, margin, margin, margin);
+    layout.setSpacing(spacing);
+}
+
 QHBoxLayout* centredRow(std::initializer_list<QPushButton*> buttons) {
     auto* const row = new QHBoxLayout;
     row->addStretch();

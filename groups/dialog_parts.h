@@ -7,6 +7,7 @@
 
 class QDialog;
 class QHBoxLayout;
+class QLayout;
 class QPushButton;
 class QTableWidget;
 class QWidget;
@@ -26,6 +27,8 @@ int firstSelectedRow(const QTableWidget& table); // -1 without a selection
 void scrollToRow(QTableWidget& table, int row);
 QString yesOrNo(bool yes);
 void showHelp(); // the topic of the group dialogs
+// Little room around and between parts: the windows are of a fixed size.
+void tighten(QLayout& layout);
 QHBoxLayout* centredRow(std::initializer_list<QPushButton*> buttons);
 
 // An id as the user data of a table item, and back; the null id for anything that is no id.

@@ -57,6 +57,7 @@ void CGroupDlg::buildButtons() {
 
 void CGroupDlg::layOut() {
     auto* const column = new QVBoxLayout(this);
+    group_dialogs::tighten(*column);
     column->addWidget(groupTable);
     column->addWidget(identificationBox());
     column->addWidget(createBox());
@@ -71,6 +72,7 @@ void CGroupDlg::layOut() {
 QGroupBox* CGroupDlg::identificationBox() {
     auto* const box = new QGroupBox(QDialog::tr("Group Identification"), this);
     auto* const grid = new QGridLayout(box);
+    group_dialogs::tighten(*grid);
     grid->addWidget(new QLabel(QDialog::tr("Group name") + QLatin1Char(':'), box), 0, 0);
     grid->addWidget(nameEdit, 0, 1, 1, 2);
     grid->addWidget(new QLabel(QDialog::tr("Description") + QLatin1Char(':'), box), 1, 0);
@@ -86,6 +88,7 @@ QGroupBox* CGroupDlg::identificationBox() {
 QGroupBox* CGroupDlg::createBox() {
     auto* const box = new QGroupBox(QDialog::tr("Create Group"), this);
     auto* const row = new QHBoxLayout(box);
+    group_dialogs::tighten(*row);
     row->addWidget(newButton);
     row->addWidget(selectableCheck);
     row->addWidget(unnamedCheck);
@@ -95,6 +98,7 @@ QGroupBox* CGroupDlg::createBox() {
 QGroupBox* CGroupDlg::changeBox() {
     auto* const box = new QGroupBox(QDialog::tr("Change Group"), this);
     auto* const rows = new QVBoxLayout(box);
+    group_dialogs::tighten(*rows);
     auto* const first = new QHBoxLayout;
     for (QPushButton* const button : {removeButton, addButton, renameButton, reorderButton})
         first->addWidget(button);

@@ -39,7 +39,10 @@ QPixmap faded(const QPixmap& source) {
 namespace host_qt_ui_core {
 
 ParentWrapper parentForDialog() {
-    return ParentWrapper(registry().dialogParent ? registry().dialogParent : QApplication::activeWindow());
+    for (QWidget* const parent : {registry().dialogParent, QApplication::activeWindow()})
+        if (parent)
+            return ParentWrapper(parent);
+    return ParentWrapper(registry().mainWindow);
 }
 
 EV_MB_RET QHostMessageBox::critical(const QString& title, const QString& text, EV_MB_RET buttons) {

@@ -22,7 +22,8 @@ struct HostRegistry {
     HostQtStyleManager* styles = nullptr;     // null: a built-in one with theme 0
     IHelpService* help = nullptr;
     IEvents* events = nullptr;
-    QWidget* dialogParent = nullptr;                         // null: the active window
+    QWidget* dialogParent = nullptr; // null: the active window
+    QWidget* mainWindow = nullptr;   // the parent while no window is active, as between two dialogs
     std::function<const wchar_t*(const wchar_t*)> translate; // empty: a text is its own translation
     // Asked before a box or a colour dialog is shown; when set, nothing is shown.
     std::function<EV_MB_RET(MessageKind, const QString& title, const QString& text, EV_MB_RET buttons)>

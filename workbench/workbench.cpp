@@ -9,6 +9,7 @@
 #include "standin/qt_application/host_application.h"
 #include "standin/registry.h"
 #include "workbench/commands/commands.h"
+#include "workbench/commands/group_commands.h"
 #include "workbench/commands/history_commands.h"
 #include "workbench/commands/xref_commands.h"
 #include "workbench/history/history_keeper.h"
@@ -63,6 +64,7 @@ Workbench::Workbench(const Launch& launchOptions)
         report(problem);
     history = std::make_unique<HistoryKeeper>(*documents, io, files, launch.rootDir, setup.io);
     mainWindow = std::make_unique<MainWindow>(io, loop, *documents, styles);
+    registry().mainWindow = mainWindow.get();
     if (!launch.headless)
         progressDialog = std::make_unique<ProgressDialog>();
     addCommands();
@@ -78,6 +80,7 @@ Workbench::~Workbench() {
     registry().help = nullptr;
     registry().events = nullptr;
     registry().dialogParent = nullptr;
+    registry().mainWindow = nullptr;
 }
 
 void Workbench::provideServices() {
@@ -96,6 +99,7 @@ void Workbench::addCommands() {
     addEditCommands(scope);
     addViewCommands(scope);
     addXrefCommands(scope, *module);
+    addGroupCommands(scope, *module);
     addPlugInEntries(*mainWindow);
     addProgramCommands(scope);
     addVariableCommands(scope);

@@ -6,6 +6,7 @@
 #include "standin/params/std_dirs.h"
 #include "standin/params/yaml_tree.h"
 #include "standin/references/attach_services.h"
+#include "standin/selection/group_selection_step.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -85,6 +86,7 @@ Application::Application(const ApplicationSetup& setup)
     if (profile)
         hub->add(profile);
     hub->add(made(new AttachServices));
+    hub->add(made(new GroupSelectionStep));
     theOnlyIApp = hub.get();
     OdDbXRefMan::setSearchFolders(foldersOfReferences);
 }

@@ -116,7 +116,7 @@ OdDbObjectIdArray EditorSelection::pickedIn(const OdGePoint3d& first, const OdGe
 }
 
 int EditorSelection::selectObjects(hostSelectionSetPtr* result, int, const wchar_t* prompt,
-                                   const wchar_t* keywords, int, int, int, int, int) {
+                                   const wchar_t* keywords, int flags, int, int, int, int) {
     Collection collection;
     picksRemove = false;
     for (;;) {
@@ -126,12 +126,17 @@ int EditorSelection::selectObjects(hostSelectionSetPtr* result, int, const wchar
             io.getPoint(nullptr, &point, prompt, keywords, kAnyText | kPicksObjects, &text, nullptr);
         if (answer == kInputNone)
             break;
-        if (answer != kInputPicked && answer != kInputTyped)
+        if (answer != kInputPicked && answer != kInputTyped) {
+            if (answer != kInputCancelled && (flags & kKeywordKeeps))
+                *result = setOf(drawing.get(), collection.ids);
             return answer;
+        }
         const bool goesOn =
             answer == kInputPicked ? takeClick(collection, point) : take(collection, hostqt::qString(text));
         if (!goesOn)
             return kInputCancelled;
+        if ((flags & kOnePickEnds) && !collection.ids.empty())
+            break;
     }
     if (collection.ids.empty())
         return kInputNone;

@@ -11,6 +11,12 @@ namespace standin {
 
 class Console;
 
+// Bits of the flags of selectObjects; the group commands of the plug-in pass the first one, too.
+enum SelectionFlags {
+    kOnePickEnds = 0x1000000, // the first objects that are picked are enough
+    kKeywordKeeps = 1 << 28   // a keyword hands out what was collected before it
+};
+
 class EditorSelection : public HostEditorSelection {
 public:
     EditorSelection(OdDbDatabasePtr database, Console& console);

@@ -127,6 +127,26 @@ TEST_F(GroupWorkbench, DialogListsTheGroupsAndCancelTakesChangesBack) {
     EXPECT_EQ(lastLine(), QStringLiteral("Nothing was changed."));
 }
 
+TEST_F(GroupWorkbench, OrderDialogOpensBehindTheDialogThatMakesWayForIt) {
+    const auto press = [](const char* button) {
+        auto* dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        dialog->findChild<QPushButton*>(button)->click();
+    };
+    play({[this] { submit("GROUP"); },
+          [&] {
+              auto* table = QApplication::activeModalWidget()->findChild<QTableWidget*>("groupTable");
+              table->selectRow(table->findItems("STUDY", Qt::MatchExactly).front()->row());
+              press("reorderButton");
+          },
+          [&] {
+              ASSERT_EQ(QApplication::activeModalWidget()->objectName(), QStringLiteral("CGroupReorderDlg"));
+              press("reverseButton");
+          },
+          [&] { press("okButton"); }, [&] { press("okButton"); }});
+    EXPECT_EQ(membersOf(L"STUDY"), "15C 15A");
+}
+
 TEST_F(GroupWorkbench, EveryCommandSaysThatItNeedsADrawing) {
     while (documents().currentOne())
         enter({"CLOSE"});

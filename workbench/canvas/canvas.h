@@ -45,6 +45,7 @@ public:
 signals:
     void cursorMoved(const QPointF& point); // in the drawing
     void cursorLeft();
+    void menuWanted(const QPoint& place); // on the screen: a right click while no command runs
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -51,6 +51,8 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
         press(event->pos(), event->modifiers());
     } else if (event->button() == Qt::RightButton && io.isWaiting()) {
         io.enterLine({}); // as Enter
+    } else if (event->button() == Qt::RightButton && !loop.isRunning()) {
+        emit menuWanted(event->globalPos());
     }
 }
 

@@ -13,7 +13,6 @@ QString tr(const char* text) { return QCoreApplication::translate("PlugInEntries
 
 void addPlugInEntries(MenuSink& menus) {
     menus.addEntry({Menu::File, tr("Drawing &properties..."), "DWGPROPS", "show_msg", {}, true});
-    menus.addEntry({Menu::Groups, tr("&Groups..."), "GROUP", "grip"});
     menus.addEntry({Menu::Tools, tr("&Options..."), "QPREF", "pref"});
     menus.addEntry({Menu::Tools, tr("System &variable"), "SETVAR"});
 }

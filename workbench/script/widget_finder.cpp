@@ -10,6 +10,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTabBar>
+#include <QTableWidget>
 #include <QTextDocument>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
@@ -111,6 +112,17 @@ Click clickOnRow(QWidget* window, const QString& text) {
     return button && isReachable(button, window) ? clickOnWidget(button) : nullptr;
 }
 
+Click clickOnTableRow(QWidget* window, const QString& text) {
+    for (QTableWidget* table : window->findChildren<QTableWidget*>())
+        for (int row = 0; isReachable(table, window) && row < table->rowCount(); ++row)
+            if (table->item(row, 0) && plain(table->item(row, 0)->text()) == text)
+                return [table = QPointer<QTableWidget>(table), row] {
+                    if (table)
+                        table->setCurrentCell(row, 0);
+                };
+    return nullptr;
+}
+
 } // namespace
 
 QWidget* widgetNamed(QWidget* window, const QString& name) {
@@ -129,7 +141,7 @@ QWidget* widgetNamed(QWidget* window, const QString& name) {
 std::function<void()> clickOn(QWidget* window, const QString& nameOrText) {
     if (QWidget* part = widgetNamed(window, nameOrText))
         return clickOnWidget(part);
-    for (const auto& find : {clickOnButtonText, clickOnAction, clickOnTab, clickOnRow})
+    for (const auto& find : {clickOnButtonText, clickOnAction, clickOnTab, clickOnRow, clickOnTableRow})
         if (const Click click = find(window, nameOrText))
             return click;
     return nullptr;
