@@ -47,6 +47,7 @@ void CGroupReorderDlg::buildButtons() {
 
 void CGroupReorderDlg::layOut() {
     auto* const column = new QVBoxLayout(this);
+    group_dialogs::tighten(*column);
     column->addWidget(groupTable);
     column->addWidget(descriptionBox());
     column->addWidget(editsBox());
@@ -71,6 +72,7 @@ QGroupBox* CGroupReorderDlg::descriptionBox() {
 QGroupBox* CGroupReorderDlg::editsBox() {
     auto* const box = new QGroupBox(this);
     auto* const column = new QVBoxLayout(box);
+    group_dialogs::tighten(*column);
     column->addLayout(editRow(removeFromLabel, removeFromEdit));
     column->addLayout(editRow(newPositionLabel, newPositionEdit));
     column->addLayout(editRow(countLabel, countEdit));
@@ -79,7 +81,8 @@ QGroupBox* CGroupReorderDlg::editsBox() {
 
 QHBoxLayout* CGroupReorderDlg::editRow(QLabel* label, QLineEdit* edit) {
     auto* const row = new QHBoxLayout;
-    row->addWidget(label);
+    label->setWordWrap(true); // the longest text is wider than the window has room for
+    row->addWidget(label, 1);
     row->addStretch();
     row->addWidget(edit);
     return row;
