@@ -18,8 +18,8 @@ struct SelectionTest : testing::Test, ConsoleDriver {
         for (int i = 0; i < 3; ++i)
             lines.push_back(space->appendOdDbEntity(OdSmartPtr<OdDbLine>(new OdDbLine).get()));
     }
-    int select(const wchar_t* keywords = nullptr) {
-        return selection.selectObjects(&result, 0, L"Select objects", keywords, 0x1052000, 0, 0, 0, 0);
+    int select(const wchar_t* keywords = nullptr, int flags = 0) {
+        return selection.selectObjects(&result, 0, L"Select objects", keywords, flags, 0, 0, 0, 0);
     }
     OdDbObjectIdArray selected() const {
         OdDbObjectIdArray ids;
@@ -39,6 +39,12 @@ TEST_F(SelectionTest, AllAndLastAreWords) {
     EXPECT_EQ(selected(), lines);
     type({"L", ""});
     EXPECT_EQ(select(), kInputPicked);
+    EXPECT_EQ(selected(), OdDbObjectIdArray({lines[2]}));
+}
+
+TEST_F(SelectionTest, OnePickIsEnoughWhereTheCallerSaysSo) {
+    type({"L"});
+    EXPECT_EQ(select(nullptr, 0x1052000), kInputPicked);
     EXPECT_EQ(selected(), OdDbObjectIdArray({lines[2]}));
 }
 
