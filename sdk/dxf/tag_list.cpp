@@ -16,6 +16,8 @@ DxfTagList DxfTagList::parse(std::string_view bytes, std::shared_ptr<const std::
     DxfTagList list;
     list.source = std::move(source);
     list.withCarriageReturns = carriageReturns;
+    constexpr std::size_t usualTagSize = 10, usualCount = 32;
+    list.tags.reserve(std::min(bytes.size() / usualTagSize, usualCount)); // most objects are small
     DxfScanner scanner(bytes);
     DxfTag tag;
     while (scanner.next(tag))
