@@ -3,9 +3,12 @@
 #include "workbench/window/progress_dialog.h"
 
 #include <QAbstractButton>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QTabBar>
 
 namespace {
@@ -16,6 +19,14 @@ struct DrawingsTest : DrawingFixture {
         const OdDbDatabasePtr read = OdDbDatabase::readFile(hostqt::odString(file));
         return static_cast<int>(
             odrxCast<OdDbBlockTableRecord>(read->getModelSpaceId().safeOpenObject())->entityIds().size());
+    }
+    // Leaves two objects in the file.
+    void changeByAnotherProgram() {
+        const OdDbDatabasePtr theirs = OdDbDatabase::readFile(hostqt::odString(path));
+        const auto space = odrxCast<OdDbBlockTableRecord>(theirs->getModelSpaceId().safeOpenObject());
+        for (const std::size_t number : {std::size_t(1), std::size_t(2)})
+            space->entityIds()[number].safeOpenObject(OdDb::kForWrite)->erase();
+        theirs->writeFile(hostqt::odString(path));
     }
 };
 
@@ -29,6 +40,21 @@ TEST_F(DrawingsTest, ChangesShowAStarUntilTheyAreSaved) {
     EXPECT_EQ(linesIn(path), 3);
 }
 
+TEST_F(DrawingsTest, OpenFindsAFileBesideTheCurrentDrawingByItsName) {
+    QFile::copy(path, root.filePath("beside.dxf"));
+    enter({"OPEN", "beside.dxf"});
+    EXPECT_EQ(title(), "beside.dxf - Workbench");
+    EXPECT_EQ(QFileInfo(document().path()), QFileInfo(root.filePath("beside.dxf")));
+    enter({"OPEN", "\"lines.dxf\""});
+    EXPECT_EQ(title(), "lines.dxf - Workbench");
+}
+
+TEST_F(DrawingsTest, OpenTellsWhereItLookedForAFileThatIsNowhere) {
+    enter({"OPEN", "nowhere.dxf"});
+    EXPECT_EQ(transcript().filter("OPEN: " + QDir::current().filePath("nowhere.dxf")).size(), 1);
+    EXPECT_EQ(title(), "lines.dxf - Workbench");
+}
+
 TEST_F(DrawingsTest, SaveAsTakesANameAndAsksBeforeItReplaces) {
     eraseFirstLine();
     const QString copy = root.filePath("copy");
@@ -40,6 +66,59 @@ TEST_F(DrawingsTest, SaveAsTakesANameAndAsksBeforeItReplaces) {
     EXPECT_EQ(linesIn(path), 4);
     enter({"SAVEAS", qPrintable(path), "Yes"});
     EXPECT_EQ(linesIn(path), 3);
+}
+
+TEST_F(DrawingsTest, SaveAsksOnTheConsoleBeforeItOverwritesTheWorkOfAnotherProgram) {
+    eraseFirstLine();
+    changeByAnotherProgram();
+    enter({"SAVE", "No"});
+    EXPECT_TRUE(transcript().filter("lines.dxf was changed by another program").size() == 1);
+    EXPECT_EQ(linesIn(path), 2);
+    EXPECT_EQ(title(), "lines.dxf* - Workbench");
+    enter({"SAVE", ""});
+    EXPECT_EQ(linesIn(path), 2);
+    enter({"SAVE", "Yes"});
+    EXPECT_EQ(linesIn(path), 3);
+    EXPECT_EQ(title(), "lines.dxf - Workbench");
+    eraseFirstLine();
+    enter({"SAVE"}); // its own work is not another program's
+    EXPECT_EQ(linesIn(path), 2);
+}
+
+TEST_F(DrawingsTest, SaveAsksWithABoxBeforeItOverwritesTheWorkOfAnotherProgram) {
+    enter({"FILEDIA", "1"});
+    eraseFirstLine();
+    changeByAnotherProgram();
+    for (const auto button : {QMessageBox::No, QMessageBox::Yes}) {
+        play({[this] { submit("SAVE"); },
+              [button] {
+                  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                  ASSERT_NE(box, nullptr);
+                  EXPECT_EQ(box->objectName(), "overwriteBox");
+                  EXPECT_EQ(box->standardButton(box->defaultButton()), QMessageBox::No);
+                  box->button(button)->click();
+              }});
+        EXPECT_EQ(linesIn(path), button == QMessageBox::Yes ? 3 : 2);
+        EXPECT_EQ(title(), button == QMessageBox::Yes ? "lines.dxf - Workbench" : "lines.dxf* - Workbench");
+    }
+}
+
+TEST_F(DrawingsTest, SaveAsUnderTheSameNameAsksTooAndAnotherNameDoesNot) {
+    eraseFirstLine();
+    changeByAnotherProgram();
+    enter({"SAVEAS", "", "No"});
+    EXPECT_EQ(linesIn(path), 2);
+    enter({"SAVEAS", qPrintable(root.filePath("mine"))});
+    EXPECT_EQ(linesIn(root.filePath("mine.dxf")), 3);
+    EXPECT_EQ(linesIn(path), 2);
+}
+
+TEST_F(DrawingsTest, CloseKeepsADrawingOpenThatWasNotSavedOverTheWorkOfAnotherProgram) {
+    eraseFirstLine();
+    changeByAnotherProgram();
+    enter({"CLOSE", "Yes", "No"});
+    EXPECT_EQ(title(), "lines.dxf* - Workbench");
+    EXPECT_EQ(linesIn(path), 2);
 }
 
 TEST_F(DrawingsTest, CloseAsksForUnsavedChangesOnTheConsole) {

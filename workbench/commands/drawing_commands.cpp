@@ -11,6 +11,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 
 using namespace standin;
 
@@ -20,9 +21,14 @@ namespace {
 
 QString tr(const char* text) { return QCoreApplication::translate("DrawingCommands", text); }
 
+QString folderOfCurrent(const DocumentManager& documents) {
+    const Document* current = documents.currentOne();
+    return current && !current->path().isEmpty() ? QFileInfo(current->path()).absolutePath() : QString();
+}
+
 // A drawing that is open already is brought to the front.
 void openDrawing(const CommandScope& scope) {
-    const auto path = scope.files.fileToOpen();
+    const auto path = scope.files.fileToOpen(folderOfCurrent(scope.documents));
     if (!path)
         return;
     if (Document* open = scope.documents.documentOfFile(*path))
@@ -56,6 +62,18 @@ void listDrawings(Console& console, const DocumentManager& documents) {
         console.print(tr("No drawing is open."));
 }
 
+bool mayWrite(Document& document, const QString& path, const FileQuestions& files) {
+    const bool isOwn = QFileInfo(path) == QFileInfo(document.path());
+    return !isOwn || !document.database()->isFileChangedByOthers() || files.mayOverwriteChanged(path);
+}
+
+bool write(DocumentManager& documents, Document& document, const QString& path, const FileQuestions& files) {
+    if (!mayWrite(document, path, files))
+        return false;
+    documents.save(&document, path);
+    return true;
+}
+
 } // namespace
 
 void printReadWarnings(Console& console, Document& document) {
@@ -66,8 +84,7 @@ void printReadWarnings(Console& console, Document& document) {
 bool saveDrawing(DocumentManager& documents, Document& document, const FileQuestions& files) {
     if (document.path().isEmpty())
         return saveDrawingAs(documents, document, files);
-    documents.save(&document, document.path());
-    return true;
+    return write(documents, document, document.path(), files);
 }
 
 bool saveDrawingAs(DocumentManager& documents, Document& document, const FileQuestions& files) {
@@ -75,9 +92,7 @@ bool saveDrawingAs(DocumentManager& documents, Document& document, const FileQue
                                   ? QDir::current().filePath(document.displayName() + QStringLiteral(".dxf"))
                                   : document.path();
     const auto path = files.fileToSave(suggested, document.path());
-    if (path)
-        documents.save(&document, *path);
-    return path.has_value();
+    return path && write(documents, document, *path, files);
 }
 
 bool settleChanges(DocumentManager& documents, Document& document, const FileQuestions& files) {

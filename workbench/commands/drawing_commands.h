@@ -10,7 +10,8 @@ namespace workbench {
 
 class FileQuestions;
 
-// Whether it was saved; false when the user cancels. Throws OdError.
+// Whether it was saved; false when the user cancels, or keeps what another program wrote into the file.
+// Throws OdError.
 bool saveDrawing(standin::DocumentManager& documents, standin::Document& document,
                  const FileQuestions& files);
 bool saveDrawingAs(standin::DocumentManager& documents, standin::Document& document,

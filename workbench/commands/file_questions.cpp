@@ -6,6 +6,7 @@
 #include "standin/console/console.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -21,11 +22,20 @@ QString tr(const char* text) { return QCoreApplication::translate("FileQuestions
 QString filter() { return tr("Drawings (*.dxf *.dwg);;All files (*)"); }
 
 // A name that was copied with its quotes is the name without them.
-QString absolutePath(QString name) {
+QString withoutQuotes(QString name) {
     name = name.trimmed();
     if (name.size() > 1 && name.startsWith(QLatin1Char('"')) && name.endsWith(QLatin1Char('"')))
         name = name.mid(1, name.size() - 2);
-    return QFileInfo(name).absoluteFilePath();
+    return name;
+}
+
+QString absolutePath(const QString& name) { return QFileInfo(withoutQuotes(name)).absoluteFilePath(); }
+
+// A file that isn't where the program was started may lie in `folder`.
+QString existingPath(const QString& name, const QString& folder) {
+    const QFileInfo there(QDir(folder), withoutQuotes(name));
+    const QString here = absolutePath(name);
+    return !folder.isEmpty() && !QFileInfo::exists(here) && there.isFile() ? there.absoluteFilePath() : here;
 }
 
 QString withSuffix(const QString& path) {
@@ -45,22 +55,22 @@ bool FileQuestions::dialogsAreOff() {
 bool FileQuestions::asksOnConsole() const { return headless || dialogsAreOff(); }
 
 // An empty text when the answer was Enter.
-std::optional<QString> FileQuestions::typedFile(const QString& prompt) const {
+std::optional<QString> FileQuestions::typedName(const QString& prompt) const {
     OdString answer;
     const int result = io.getInput(prompt.toStdWString().c_str(), nullptr, kAnyText, &answer, 0);
     if (result == kInputNone)
         return QString();
-    return result == kInputTyped ? std::optional<QString>(absolutePath(hostqt::qString(answer)))
-                                 : std::nullopt;
+    return result == kInputTyped ? std::optional<QString>(hostqt::qString(answer)) : std::nullopt;
 }
 
-std::optional<QString> FileQuestions::fileToOpen() const {
+std::optional<QString> FileQuestions::fileToOpen(const QString& folder) const {
     if (asksOnConsole()) {
-        const auto typed = typedFile(tr("Enter name of drawing to open:"));
-        return typed && !typed->isEmpty() ? typed : std::nullopt;
+        const auto typed = typedName(tr("Enter name of drawing to open:"));
+        return typed && !typed->isEmpty() ? std::optional<QString>(existingPath(*typed, folder))
+                                          : std::nullopt;
     }
     const QString chosen = QFileDialog::getOpenFileName(host_qt_ui_core::parentForDialog(),
-                                                        tr("Open drawing"), QString(), filter());
+                                                        tr("Open drawing"), folder, filter());
     return chosen.isEmpty() ? std::nullopt : std::optional<QString>(absolutePath(chosen));
 }
 
@@ -70,17 +80,33 @@ std::optional<QString> FileQuestions::fileToSave(const QString& suggested, const
                                                             tr("Save drawing as"), suggested, filter());
         return chosen.isEmpty() ? std::nullopt : std::optional<QString>(withSuffix(absolutePath(chosen)));
     }
-    const auto typed = typedFile(tr("Enter file name to save as <%1>:").arg(suggested));
+    const auto typed = typedName(tr("Enter file name to save as <%1>:").arg(suggested));
     if (!typed)
         return std::nullopt;
-    const QString path = withSuffix(typed->isEmpty() ? absolutePath(suggested) : *typed);
+    const QString path = withSuffix(absolutePath(typed->isEmpty() ? suggested : *typed));
     const bool free = path == own || !QFileInfo::exists(path);
     return free || mayReplace(path) ? std::optional<QString>(path) : std::nullopt;
 }
 
 bool FileQuestions::mayReplace(const QString& path) const {
-    const QString prompt = tr("%1 exists already. Replace it? [%2] <No>:").arg(path, QStringLiteral("%s"));
+    return isYesOnConsole(tr("%1 exists already. Replace it? [%2] <No>:").arg(path, QStringLiteral("%s")));
+}
+
+bool FileQuestions::isYesOnConsole(const QString& prompt) const {
     return io.getInput(prompt.toStdWString().c_str(), L"Yes No _ Yes No", 0, nullptr, 0) == kInputKeyword;
+}
+
+bool FileQuestions::mayOverwriteChanged(const QString& path) const {
+    if (asksOnConsole())
+        return isYesOnConsole(tr("%1 was changed by another program since it was read. Overwrite? [%2] <No>:")
+                                  .arg(path, QStringLiteral("%s")));
+    QMessageBox box(QMessageBox::Warning, tr("File changed by another program"),
+                    tr("%1 was changed by another program since it was read. Overwrite?").arg(path),
+                    QMessageBox::Yes | QMessageBox::No, host_qt_ui_core::parentForDialog());
+    box.setObjectName(QStringLiteral("overwriteBox"));
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 Unsaved FileQuestions::whatOfChanges(const QString& drawing) const {

@@ -17,19 +17,23 @@ public:
     // `consoleOnly`: nobody is there to answer a dialog.
     FileQuestions(standin::Console& console, bool consoleOnly) : io(console), headless(consoleOnly) {}
 
-    // Absolute paths; nothing when the user cancels.
-    std::optional<QString> fileToOpen() const;
+    // Absolute paths; nothing when the user cancels. A dialog starts in `folder`, and a typed name is looked
+    // for there as well.
+    std::optional<QString> fileToOpen(const QString& folder) const;
     // `suggested` is what Enter takes. A file that exists is only given back when it may be replaced; the one
     // named `own` may be.
     std::optional<QString> fileToSave(const QString& suggested, const QString& own) const;
     Unsaved whatOfChanges(const QString& drawing) const;
+    // Asks before the work of another program is written over.
+    bool mayOverwriteChanged(const QString& path) const;
     static bool dialogsAreOff(); // FILEDIA is 0
     bool asksOnConsole() const;  // that, or headless
 
 private:
     Unsaved whatOfChangesByDialog(const QString& drawing) const;
-    std::optional<QString> typedFile(const QString& prompt) const;
+    std::optional<QString> typedName(const QString& prompt) const;
     bool mayReplace(const QString& path) const;
+    bool isYesOnConsole(const QString& prompt) const;
 
     standin::Console& io;
     const bool headless;
