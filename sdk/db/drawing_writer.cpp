@@ -20,7 +20,10 @@ bool isTableRecord(const OdDbDatabaseImpl& impl, const OdDbStub& stub) {
 
 std::vector<std::string_view> OdDbDrawingWriter::pieces() {
     placeNewRecords();
-    refuseWhatTheVersionLacks();
+    if (versionLacksPlace())
+        throw OdError(eFileWriteError,
+                      impl.filename + OdString(L": a drawing of version R12 can't hold groups "
+                                               L"or other objects, save it in a newer version"));
     prepareHeader();
     if (header.isChanged() && impl.sections.count("HEADER") == 0)
         emitHeaderSection();
@@ -117,17 +120,17 @@ void OdDbDrawingWriter::placeNewRecord(OdDbStub& stub) {
 
 // The oldest version has no place for dictionaries, groups and property records: better no file than one that
 // has lost them.
-void OdDbDrawingWriter::refuseWhatTheVersionLacks() const {
+bool OdDbDrawingWriter::versionLacksPlace() const {
     const auto found = missing.find("OBJECTS");
     if (impl.version >= kVersionR13 || found == missing.end())
-        return;
-    const bool onlyDictionaries =
-        std::all_of(found->second.begin(), found->second.end(),
-                    [this](const OdDbStub* stub) { return impl.typeName(*stub) == "DICTIONARY"; });
-    if (!onlyDictionaries)
-        throw OdError(eFileWriteError,
-                      impl.filename + OdString(L": a drawing of version R12 can't hold groups "
-                                               L"or other objects, save it in a newer version"));
+        return false;
+    return !std::all_of(found->second.begin(), found->second.end(),
+                        [this](const OdDbStub* stub) { return impl.typeName(*stub) == "DICTIONARY"; });
+}
+
+bool OdDbDrawingWriter::hasPlaceForAll() {
+    placeNewRecords();
+    return !versionLacksPlace();
 }
 
 void OdDbDrawingWriter::prepareHeader() {

@@ -11,13 +11,16 @@ public:
     explicit OdDbDrawingWriter(OdDbDatabaseImpl& database) : impl(database) {}
     // The whole file in pieces, which live as long as the writer and the unchanged database.
     std::vector<std::string_view> pieces();
+    // Whether the version of the drawing has a place for all that is in it; pieces() throws otherwise. For a
+    // writer that writes nothing.
+    bool hasPlaceForAll();
 
 private:
     using Stubs = std::vector<OdDbStub*>;
     void prepareHeader();
     void placeNewRecords();
     void placeNewRecord(OdDbStub& stub);
-    void refuseWhatTheVersionLacks() const;
+    bool versionLacksPlace() const;
     void emit(std::string_view bytes);
     void emitOwned(std::string text);
     void emitTag(int code, std::string_view value);

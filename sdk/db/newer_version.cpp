@@ -6,6 +6,7 @@
 #include "sdk/db/class_registry.h"
 #include "sdk/db/database_impl.h"
 #include "sdk/db/dictionary.h"
+#include "sdk/db/drawing_writer.h"
 #include "sdk/db/group.h"
 #include "sdk/db/upgraded_tags.h"
 
@@ -169,6 +170,10 @@ private:
 };
 
 } // namespace
+
+bool odDbNeedsNewerVersion(OdDbDatabase& database) {
+    return database.impl().version < kVersionR13 && !OdDbDrawingWriter(database.impl()).hasPlaceForAll();
+}
 
 OdDbDatabasePtr odDbInNewerVersion(OdDbDatabase& database, std::vector<OdString>& leftOut) {
     if (database.impl().version >= kVersionR13)

@@ -3,6 +3,9 @@
 
 #include "sdk/db/database.h"
 
+// Whether writing the drawing would be refused, since its version has no place for all that it holds.
+bool odDbNeedsNewerVersion(OdDbDatabase& database);
+
 // A new drawing, in the version of new drawings, with everything of `database`; it has no file name yet.
 // `leftOut` takes what could not be brought along, in words. Throws eInvalidInput for a drawing of a later
 // version.

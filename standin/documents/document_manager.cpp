@@ -74,6 +74,15 @@ void DocumentManager::save(Document* document, const QString& path) {
     emit documentRenamed();
 }
 
+Document* DocumentManager::saveInstead(Document* document, const OdDbDatabasePtr& drawing,
+                                       const QString& path) {
+    emit beforeSave(document, path);
+    drawing->writeFile(hostqt::odString(path));
+    Document* opened = openFile(path);
+    close(document);
+    return opened;
+}
+
 void DocumentManager::activate(Document* document) {
     if (document == current)
         return;

@@ -29,6 +29,9 @@ public:
     Document* openCopy(const QString& path, const QString& title); // throws OdError
     // Writes the drawing, which has the file's name from then on. Throws OdError.
     void save(Document* document, const QString& path);
+    // Writes `drawing` instead and opens the file in place of the document, which is closed. Throws OdError,
+    // and the document stays open.
+    Document* saveInstead(Document* document, const OdSmartPtr<OdDbDatabase>& drawing, const QString& path);
     void activate(Document* document);
     void close(Document* document);                         // the one opened before it becomes current
     Document* documentOf(const OdRxObject* database) const; // null when it is none of the open ones'

@@ -2,7 +2,7 @@
 #include "workbench/commands/drawing_commands.h"
 
 #include "host/text.h"
-#include "sdk/db/database.h"
+#include "sdk/db/newer_version.h"
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
 #include "standin/documents/document_manager.h"
@@ -37,21 +37,18 @@ void openDrawing(const CommandScope& scope) {
 }
 
 void closeCurrent(const CommandScope& scope) {
-    Document& current = *scope.documents.currentOne();
-    if (settleChanges(scope.documents, current, scope.files))
-        scope.documents.close(&current);
+    if (settleChanges(scope.documents, *scope.documents.currentOne(), scope.files))
+        scope.documents.close(scope.documents.currentOne());
 }
 
 void save(const CommandScope& scope) {
-    Document& current = *scope.documents.currentOne();
-    if (saveDrawing(scope.documents, current, scope.files))
-        scope.console.print(tr("Saved as %1.").arg(current.path()));
+    if (saveDrawing(scope.documents, *scope.documents.currentOne(), scope.files))
+        scope.console.print(tr("Saved as %1.").arg(scope.documents.currentOne()->path()));
 }
 
 void saveAs(const CommandScope& scope) {
-    Document& current = *scope.documents.currentOne();
-    if (saveDrawingAs(scope.documents, current, scope.files))
-        scope.console.print(tr("Saved as %1.").arg(current.path()));
+    if (saveDrawingAs(scope.documents, *scope.documents.currentOne(), scope.files))
+        scope.console.print(tr("Saved as %1.").arg(scope.documents.currentOne()->path()));
 }
 
 void listDrawings(Console& console, const DocumentManager& documents) {
@@ -67,9 +64,24 @@ bool mayWrite(Document& document, const QString& path, const FileQuestions& file
     return !isOwn || !document.database()->isFileChangedByOthers() || files.mayOverwriteChanged(path);
 }
 
+bool writeNewer(DocumentManager& documents, Document& document, const QString& path,
+                const FileQuestions& files) {
+    std::vector<OdString> missed;
+    const OdDbDatabasePtr newer = odDbInNewerVersion(*document.database(), missed);
+    QStringList leftOut;
+    for (const OdString& what : missed)
+        leftOut << hostqt::qString(what);
+    if (!files.mayMakeNewer(document.displayName(), leftOut))
+        return false;
+    documents.saveInstead(&document, newer, path);
+    return true;
+}
+
 bool write(DocumentManager& documents, Document& document, const QString& path, const FileQuestions& files) {
     if (!mayWrite(document, path, files))
         return false;
+    if (odDbNeedsNewerVersion(*document.database()))
+        return writeNewer(documents, document, path, files);
     documents.save(&document, path);
     return true;
 }

@@ -11,7 +11,7 @@ namespace workbench {
 class FileQuestions;
 
 // Whether it was saved; false when the user cancels, or keeps what another program wrote into the file.
-// Throws OdError.
+// A drawing that is made newer becomes another document, which is the current one. Throws OdError.
 bool saveDrawing(standin::DocumentManager& documents, standin::Document& document,
                  const FileQuestions& files);
 bool saveDrawingAs(standin::DocumentManager& documents, standin::Document& document,

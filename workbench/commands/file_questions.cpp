@@ -109,6 +109,27 @@ bool FileQuestions::mayOverwriteChanged(const QString& path) const {
     return box.exec() == QMessageBox::Yes;
 }
 
+bool FileQuestions::mayMakeNewer(const QString& drawing, const QStringList& leftOut) const {
+    const QString reason =
+        tr("%1 is a drawing of version R12, which can't hold groups or other objects.").arg(drawing);
+    const QString loss =
+        leftOut.isEmpty() ? QString() : tr("A newer drawing leaves out: %1.").arg(leftOut.join(", "));
+    if (!loss.isEmpty())
+        io.print(loss);
+    if (asksOnConsole()) {
+        io.print(reason);
+        return isYesOnConsole(tr("Save as a newer drawing? [%s] <No>:"));
+    }
+    QMessageBox box(QMessageBox::Question, tr("Newer drawing"),
+                    reason + QLatin1Char('\n') + tr("Save as a newer drawing?"),
+                    QMessageBox::Yes | QMessageBox::No, host_qt_ui_core::parentForDialog());
+    box.setObjectName(QStringLiteral("newerBox"));
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(loss);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
 Unsaved FileQuestions::whatOfChanges(const QString& drawing) const {
     if (!asksOnConsole())
         return whatOfChangesByDialog(drawing);

@@ -1,7 +1,7 @@
 // What the commands about drawings ask the user: files and unsaved changes, by dialogs or on the console.
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <optional>
 
 namespace standin {
@@ -26,6 +26,9 @@ public:
     Unsaved whatOfChanges(const QString& drawing) const;
     // Asks before the work of another program is written over.
     bool mayOverwriteChanged(const QString& path) const;
+    // Asks for a newer version of a drawing whose version has no place for what it holds. Says on the
+    // console, too, what would be left out.
+    bool mayMakeNewer(const QString& drawing, const QStringList& leftOut) const;
     static bool dialogsAreOff(); // FILEDIA is 0
     bool asksOnConsole() const;  // that, or headless
 

@@ -40,6 +40,19 @@ TEST(NewerVersion, SavingGroupsInTheOldestOneNamesTheWayOut) {
     }
 }
 
+TEST(NewerVersion, IsNeededByGroupsInTheOldestOneAlone) {
+    const OdDbDatabasePtr old = OdDbDatabase::readBytes(oldDrawing());
+    EXPECT_FALSE(odDbNeedsNewerVersion(*old));
+    addGroup(*old, L"G");
+    EXPECT_TRUE(odDbNeedsNewerVersion(*old));
+    EXPECT_FALSE(odDbNeedsNewerVersion(*newer(*old)));
+    const auto group = groupOf(*old, L"G");
+    group->upgradeOpen();
+    group->erase();
+    EXPECT_FALSE(odDbNeedsNewerVersion(*old));
+    EXPECT_NO_THROW(old->writeBytes());
+}
+
 TEST(NewerVersion, GroupsComeAlongWithTheirMembers) {
     const OdDbDatabasePtr database = OdDbDatabase::readBytes(oldDrawing());
     addGroup(*database, L"G");
