@@ -18,6 +18,14 @@ constexpr int kUnnamed = 70;
 constexpr int kSelectable = 71;
 constexpr int kMember = 340;
 
+// A group is made for each reading of one too, in which its first tags are soon replaced: they are views of a
+// fixed text.
+const DxfTagList& tagsOfNewGroup() {
+    static const DxfTagList tags =
+        DxfTagList::parse("  0\nGROUP\n100\nAcDbGroup\n300\n\n 70\n0\n 71\n1\n", nullptr, false);
+    return tags;
+}
+
 DxfTagList memberTagsOf(const DxfTagList& like, const std::vector<OdDbStub*>& joining) {
     DxfTagList tags = like.part({0, 0});
     for (const OdDbStub* stub : joining)
@@ -56,13 +64,7 @@ private:
     std::size_t first, middle, last;
 };
 
-OdDbGroup::OdDbGroup() {
-    startTags("GROUP");
-    content.append(100, kMarker);
-    content.append(kDescription, "");
-    content.append(kUnnamed, "0");
-    content.append(kSelectable, "1");
-}
+OdDbGroup::OdDbGroup() { content = tagsOfNewGroup(); }
 
 OdString OdDbGroup::name() const {
     if (!database())

@@ -19,6 +19,26 @@ protected:
     OdDbObjectId id;
 };
 
+TEST_F(Groups, NewGroupIsNamedSelectableAndWithoutDescription) {
+    const OdDbGroupPtr fresh(new OdDbGroup);
+    EXPECT_EQ(fresh->tags().bytes(), "  0\nGROUP\n100\nAcDbGroup\n300\n\n 70\n0\n 71\n1\n");
+    EXPECT_EQ(fresh->description(), OdString());
+    EXPECT_TRUE(fresh->isSelectable());
+    EXPECT_FALSE(fresh->isAnonymous());
+}
+
+TEST_F(Groups, ChangingANewGroupLeavesOtherNewGroupsAsTheyAre) {
+    const OdDbGroupPtr former(new OdDbGroup), changed(new OdDbGroup);
+    const std::string bytes = former->tags().bytes();
+    changed->setDescription(L"North wing");
+    changed->setSelectable(false);
+    changed->append(lines);
+    const OdDbGroupPtr later(new OdDbGroup);
+    EXPECT_EQ(former->tags().bytes(), bytes);
+    EXPECT_EQ(later->tags().bytes(), bytes);
+    EXPECT_EQ(changed->description(), OdString(L"North wing"));
+}
+
 TEST_F(Groups, NameIsTheKeyInTheDictionary) {
     EXPECT_EQ(openGroup(id)->name(), OdString(L"Walls"));
     groupsOf(*database, OdDb::kForWrite)->setName(L"walls", L"Doors");
