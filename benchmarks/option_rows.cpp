@@ -1,5 +1,6 @@
 // Building option rows up to the first paint, beside a plain loop that makes the same widgets with the same
 // style sheets in the order in which one writes them down. "ratio" compares the two within one run.
+#include "benchmarks/plain_row.h"
 #include "benchmarks/timing.h"
 #include "options/pages/clickable_label.h"
 #include "options/pages/int_spin_box.h"
@@ -11,7 +12,6 @@
 
 #include <QCheckBox>
 #include <QDialog>
-#include <QGridLayout>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <benchmark/benchmark.h>
@@ -55,8 +55,7 @@ public:
     QTreeWidget* tree;
 };
 
-QWidget* plainRow(Window& window, TreeItem* item, int kind) {
-    const QString text = item->text(0).trimmed();
+QWidget* plainOption(Window& window, TreeItem* item, int kind) {
     QWidget* editor = nullptr;
     if (kind == 1)
         editor = new QCheckBox(&window);
@@ -64,25 +63,7 @@ QWidget* plainRow(Window& window, TreeItem* item, int kind) {
         editor = new QLineEdit("text", &window);
     else if (kind == 3)
         editor = new QSpinBox(&window);
-    auto* row = new QWidget(&window);
-    row->setObjectName("QPrefWidget");
-    row->setStyleSheet("QWidget#QPrefWidget { background-color: transparent; }QWidget#QPrefWidget QLabel { "
-                       "background-color: "
-                       "transparent; } QWidget#QPrefWidget QCheckBox,QWidget#QPrefWidget QRadioButton {    "
-                       "background-color: "
-                       "transparent;    padding: 0px;    margin: 0px;    spacing: 5px;}");
-    auto* grid = new QGridLayout;
-    grid->setSpacing(5);
-    grid->setContentsMargins(0, 2, 0, 2);
-    auto* label = new QLabel(text, row);
-    label->setToolTip(text);
-    label->setStyleSheet("QToolTip { background-color: #ffffff;}");
-    label->setContextMenuPolicy(Qt::CustomContextMenu);
-    label->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
-    if (editor)
-        grid->addWidget(editor, 0, kind == 1 ? 0 : 1);
-    grid->addWidget(label, 0, kind == 1 ? 1 : 0);
-    row->setLayout(grid);
+    QWidget* const row = plainRow(item->text(0).trimmed(), editor, kind == 1, &window);
     item->setText(0, QString());
     return row;
 }
@@ -120,7 +101,7 @@ void optionRows(benchmark::State& state, RowParent rowParent) {
     timing::Turns plain, option;
     double bytes = 0;
     for (auto _ : state) {
-        plain.add(open(rows, plainRow).seconds);
+        plain.add(open(rows, plainOption).seconds);
         const Cost cost = open(rows, [rowParent](Window& window, TreeItem* item, int kind) {
             return optionRow(window, item, kind, rowParent);
         });

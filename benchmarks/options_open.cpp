@@ -1,6 +1,7 @@
 // Opening the Options dialog up to its first paint, beside a plain loop that makes the same tree, rows and
 // editors with the same style sheets and knows nothing of option data. "ratio" compares the two within one
 // run.
+#include "benchmarks/plain_row.h"
 #include "benchmarks/timing.h"
 #include "options/preferences.h"
 #include "tests/options/option_tree_writer.h"
@@ -10,13 +11,12 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <benchmark/benchmark.h>
+#include <limits>
 #include <malloc.h>
 
 namespace {
@@ -73,26 +73,8 @@ QWidget* plainEditor(int kind, QWidget* parent) {
     }
 }
 
-QWidget* plainRow(const QString& text, int kind, QWidget* parent) {
-    auto* row = new QWidget(parent);
-    row->setObjectName("QPrefWidget");
-    row->setStyleSheet("QWidget#QPrefWidget { background-color: transparent; }QWidget#QPrefWidget QLabel { "
-                       "background-color: transparent; } QWidget#QPrefWidget "
-                       "QCheckBox,QWidget#QPrefWidget QRadioButton {    background-color: transparent;    "
-                       "padding: 0px;    margin: 0px;    spacing: 5px;}");
-    auto* grid = new QGridLayout;
-    grid->setSpacing(5);
-    grid->setContentsMargins(0, 2, 0, 2);
-    auto* label = new QLabel(text, row);
-    label->setToolTip(text);
-    label->setStyleSheet("QToolTip { background-color: #ffffff;}");
-    label->setContextMenuPolicy(Qt::CustomContextMenu);
-    label->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
-    if (kind >= 0)
-        grid->addWidget(plainEditor(kind, parent), 0, kind == 0 || kind == 5 ? 0 : 1);
-    grid->addWidget(label, 0, kind == 0 || kind == 5 ? 1 : 0);
-    row->setLayout(grid);
-    return row;
+QWidget* plainOption(const QString& text, int kind, QWidget* parent) {
+    return plainRow(text, kind < 0 ? nullptr : plainEditor(kind, parent), kind == 0 || kind == 5, parent);
 }
 
 // What anyone would write who wants such a window.
@@ -103,7 +85,7 @@ public:
         tree->setHeaderHidden(true);
         setMinimumSize(700, 650);
         auto* root = new QTreeWidgetItem(tree);
-        tree->setItemWidget(root, 0, plainRow("Application preferences", -1, this));
+        tree->setItemWidget(root, 0, plainOption("Application preferences", -1, this));
         root->setExpanded(true);
         QTreeWidgetItem* group = root;
         for (int i = 0; i < rows; ++i) {
@@ -113,7 +95,7 @@ public:
                 group = item;
             tree->setItemWidget(
                 item, 0,
-                plainRow(QString("Option row number %1").arg(i), startsGroup ? -1 : i % kKindCount, this));
+                plainOption(QString("Option row number %1").arg(i), startsGroup ? -1 : i % kKindCount, this));
         }
     }
     QTreeWidget* tree;
@@ -169,6 +151,9 @@ void openOptions(benchmark::State& state) {
 // Beside it stands the growth of the plain loop.
 void growTenfold(benchmark::State& state) {
     const int rows = static_cast<int>(state.range(0));
+    // Memory that was fetched from the system once stays with the process: the small tree would find it
+    // there, and only the large one would pay for fetching it again.
+    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
     FixtureHost smallHost;
     writeOptions(smallHost, rows);
     timing::Turns small, large, plainSmall, plainLarge;
