@@ -1,5 +1,8 @@
-# Drawings made by ezdxf, and our tool that reads and changes them, for the judges of this folder.
+# Drawings made by ezdxf, our tool that reads and changes them, and ways to look at what it wrote, for the judges of this
+# folder.
+import re
 import subprocess
+import zlib
 
 import ezdxf
 
@@ -46,3 +49,23 @@ def build(version):
         doc.add_xref_def("grund/plan.dxf", "Plan")
         space.add_blockref("Plan", (1, 2))
     return doc
+
+
+def raw_tags(path, encoding):
+    with open(path, encoding=encoding) as stream:
+        lines = stream.read().split("\n")
+    return [(int(lines[i]), lines[i + 1]) for i in range(0, len(lines) - 1, 2)]
+
+
+def picture(path):
+    """The drawing operators of LibreCAD's page."""
+    out = path.with_suffix(".pdf")
+    subprocess.run(["librecad", "dxf2pdf", "-a", "-o", str(out), str(path)], timeout=60, capture_output=True,
+                   check=True)
+    operators = b""
+    for stream in re.findall(rb"stream\r?\n(.*?)endstream", out.read_bytes(), re.S):
+        try:
+            operators += zlib.decompress(stream)
+        except zlib.error:
+            pass
+    return re.findall(rb" [lc]\n", operators)

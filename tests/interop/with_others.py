@@ -1,15 +1,13 @@
 # Drawings that we wrote or changed, before dxflib (what it finds in them) and LibreCAD (the picture it draws of them).
 import pathlib
-import re
 import subprocess
 import sys
 import tempfile
 import unittest
-import zlib
 
 import ezdxf
 
-from drawings import VERSIONS, build, tool_of
+from drawings import VERSIONS, build, picture, tool_of
 
 DXFLIB = sys.argv.pop()
 tool = tool_of(sys.argv.pop())
@@ -50,20 +48,6 @@ def comparable(found):
     """Model and paper space go by different names in the oldest version; ezdxf adds a layer for points by itself."""
     return {what: count for what, count in found.items()
             if "_space" not in what.lower() and what != "layer Defpoints"}
-
-
-def picture(path):
-    """The drawing operators of LibreCAD's page."""
-    out = path.with_suffix(".pdf")
-    subprocess.run(["librecad", "dxf2pdf", "-a", "-o", str(out), str(path)], timeout=60, capture_output=True,
-                   check=True)
-    operators = b""
-    for stream in re.findall(rb"stream\r?\n(.*?)endstream", out.read_bytes(), re.S):
-        try:
-            operators += zlib.decompress(stream)
-        except zlib.error:
-            pass
-    return re.findall(rb" [lc]\n", operators)
 
 
 class WithOthers(unittest.TestCase):
