@@ -82,6 +82,29 @@ class WithEzdxf(unittest.TestCase):
                 if version >= "R2004":
                     self.assertEqual([["Projekt", "Haus am See"], ["Projekt", "zweimal"]], found["custom"])
 
+    def test_code_pages_of_old_files_are_read_and_written(self):
+        # Some of these characters end in the byte of a backslash.
+        texts = {"cp1250": "Žluťoučký", "cp1251": "Кухня", "cp1253": "Κουζίνα", "cp932": "台所の表", "gbk": "厨房",
+                 "cp949": "부엌", "cp950": "廚房功能"}
+        for encoding, text in texts.items():
+            for version in ("R12", "R2000", "R2004"):
+                with self.subTest(encoding + version):
+                    doc = ezdxf.new(version)
+                    doc.encoding = encoding
+                    doc.layers.add(text)
+                    doc.modelspace().add_text(text, dxfattribs={"layer": text})
+                    path, out = self.path / "old.dxf", self.path / "changed.dxf"
+                    doc.saveas(path)
+                    self.assertIn(text.encode(encoding), path.read_bytes())
+                    self.assertEqual([text], report(path)["texts"])
+                    self.assertIn(text, report(path)["layers"])
+                    tool("change", path, out, "layer,entities")
+                    changed = self.audited(out)
+                    self.assertEqual(encoding, changed.encoding)
+                    self.assertIn(text, changed.layers)
+                    self.assertEqual(text, changed.modelspace().query("TEXT").first.dxf.text)
+                    self.assertEqual("ÄÖÜ 世", decoded(changed.modelspace().query("TEXT").last.dxf.text))
+
     def test_extents_agree(self):
         for version in VERSIONS:
             with self.subTest(version):
