@@ -73,6 +73,7 @@ Settings readSettings(IParam* profile) {
     result.completeCommands = flag(node, "ConsoleComplete", result.completeCommands);
     result.historyLines = number(node, "ConsoleHistory", result.historyLines, 0, 1000);
     result.canvasBack = color(node, "CanvasBackColor", result.canvasBack);
+    result.rubberBand = color(node, "RubberBandColor", result.rubberBand);
     result.showToolBar = flag(node, "ShowToolBar", result.showToolBar);
     result.showStatusBar = flag(node, "ShowStatusBar", result.showStatusBar);
     result.restoreWindow = flag(node, "RestoreWindow", result.restoreWindow);

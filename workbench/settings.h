@@ -25,6 +25,7 @@ struct Settings {
     bool completeCommands = true;
     int historyLines = 100;
     QColor canvasBack = QColor(0x21, 0x28, 0x30);
+    QColor rubberBand = QColor(0xff, 0xc8, 0x00);
     bool showToolBar = true, showStatusBar = true;
     bool restoreWindow = true;
     CursorSettings cursor;

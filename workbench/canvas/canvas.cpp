@@ -64,6 +64,7 @@ void Canvas::connectSignals() {
 void Canvas::apply(const Settings& settings) {
     background = settings.canvasBack;
     scene.setBackground(background);
+    rubberBand = settings.rubberBand;
     cursorLook = settings.cursor;
     update();
 }

@@ -86,7 +86,7 @@ private:
     standin::SceneImage scene;
     standin::MarksImage marks;
     std::unique_ptr<standin::TrackerPicture> tracked; // of the prompt that is open
-    QColor background;
+    QColor background, rubberBand;
     CursorSettings cursorLook;
     QPoint cursorAt{-1, -1};
     QPoint pressedAt, panFrom;

@@ -70,7 +70,9 @@ void Canvas::paintPrompt(QPainter& painter, const OpenPrompt& prompt) {
     const QPointF base = sheet->view().toPixel(flat(*prompt.base));
     if (prompt.rectangle)
         return paintWindow(painter, base, cursorAt);
-    painter.setPen(QPen(contrastOf(background), 0, Qt::DashLine));
+    if (!prompt.rubberBand)
+        return;
+    painter.setPen(QPen(rubberBand, 0, Qt::DashLine));
     painter.drawLine(base, cursorAt);
 }
 
