@@ -13,12 +13,29 @@
 
 namespace {
 
+const int largeCount = 100000;
+
 struct DrawingsTest : DrawingFixture {
     QString title() { return bench->window()->windowTitle(); }
     int linesIn(const QString& file) {
         const OdDbDatabasePtr read = OdDbDatabase::readFile(hostqt::odString(file));
         return static_cast<int>(
             odrxCast<OdDbBlockTableRecord>(read->getModelSpaceId().safeOpenObject())->entityIds().size());
+    }
+    QString largeDrawing() {
+        const QString large = root.filePath("large.dxf");
+        QFile file(large);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("0\nSECTION\n2\nENTITIES\n");
+        for (int i = 0; i < largeCount; ++i)
+            file.write("0\nPOINT\n8\n0\n10\n1.0\n20\n2.0\n30\n0.0\n");
+        file.write("0\nENDSEC\n0\nEOF\n");
+        return large;
+    }
+    static QByteArray bytesOf(const QString& file) {
+        QFile stream(file);
+        EXPECT_TRUE(stream.open(QIODevice::ReadOnly));
+        return stream.readAll();
     }
     // Leaves two objects in the file.
     void changeByAnotherProgram() {
@@ -200,32 +217,52 @@ TEST_F(DrawingsTest, AFaultNamesFileAndLine) {
     EXPECT_TRUE(lastLine().contains("missing.dxf")) << lastLine().toStdString();
 }
 
+// Cancels whatever progress is shown as long as it lives.
+struct ProgressCanceller {
+    ProgressCanceller() {
+        QObject::connect(&timer, &QTimer::timeout, &timer, [this] {
+            if (auto* dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget())) {
+                label = dialog->labelText();
+                dialog->cancel();
+            }
+        });
+        timer.start(0);
+    }
+    QString label; // of what was cancelled
+    QTimer timer;
+};
+
 TEST_F(DrawingsTest, ReadingIsShownAndCanBeCancelled) {
-    const QString large = root.filePath("large.dxf");
-    QFile file(large);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("0\nSECTION\n2\nENTITIES\n");
-    for (int i = 0; i < 100000; ++i)
-        file.write("0\nPOINT\n8\n0\n10\n1.0\n20\n2.0\n30\n0.0\n");
-    file.write("0\nENDSEC\n0\nEOF\n");
-    file.close();
+    const QString large = largeDrawing();
     bench->progress()->setDelay(0);
-    QTimer canceller;
-    int shown = 0;
-    QObject::connect(&canceller, &QTimer::timeout, bench.get(), [&shown] {
-        if (auto* dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget())) {
-            ++shown;
-            dialog->cancel();
-        }
-    });
-    canceller.start(0);
-    enter({"OPEN", qPrintable(large)});
-    EXPECT_GT(shown, 0);
+    {
+        const ProgressCanceller canceller;
+        enter({"OPEN", qPrintable(large)});
+        EXPECT_EQ(canceller.label, "Reading the drawing...");
+    }
     EXPECT_EQ(title(), "lines.dxf - Workbench");
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    canceller.stop();
     enter({"OPEN", qPrintable(large)});
     EXPECT_EQ(title(), "large.dxf - Workbench");
+}
+
+TEST_F(DrawingsTest, SavingIsShownAndCanBeCancelled) {
+    const QString large = largeDrawing();
+    enter({"OPEN", qPrintable(large)});
+    eraseFirstLine();
+    const QByteArray before = bytesOf(large);
+    bench->progress()->setDelay(0);
+    {
+        const ProgressCanceller canceller;
+        enter({"SAVE"});
+        EXPECT_EQ(canceller.label, "Saving the drawing...");
+    }
+    EXPECT_EQ(title(), "large.dxf* - Workbench");
+    EXPECT_TRUE(bytesOf(large) == before);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    enter({"SAVE"});
+    EXPECT_EQ(title(), "large.dxf - Workbench");
+    EXPECT_EQ(linesIn(large), largeCount - 1);
 }
 
 TEST_F(DrawingsTest, ADrawingGivenAtTheStartIsShown) {
