@@ -58,6 +58,19 @@ TEST(IconTable, TheTwoThemesShowDifferentPictures) {
             << name.toStdString();
 }
 
+TEST(IconTable, NoTwoNamesShareAPictureEvenAtTheSmallestSize) {
+    for (const QString theme : {"dark", "light"}) {
+        QMap<QByteArray, QString> nameOfPicture;
+        for (const QString& name : iconTable()) {
+            const QImage picture = pictureOf(QIcon(":/res/" + theme + "/" + name + ".ico"), 16);
+            const auto* bytes = reinterpret_cast<const char*>(picture.constBits());
+            QString& taken = nameOfPicture[QByteArray(bytes, int(picture.sizeInBytes()))];
+            EXPECT_TRUE(taken.isEmpty()) << name.toStdString() << " looks like " << taken.toStdString();
+            taken = name;
+        }
+    }
+}
+
 TEST(TreeIcon, UnknownNumberGivesThePictureOfRow33) {
     const ThemeOf dark(0);
     EXPECT_EQ(pictureOf(treeIcon(19)), pictureOf(treeIcon(33)));
