@@ -11,7 +11,8 @@ void* odrxRealloc(void* block, std::size_t newSize, std::size_t oldSize);
 void odrxFree(void* block);
 }
 
-// Number of odrxAlloc calls since the start of the process, and a switch for tests: while set, odrxAlloc
-// yields null.
+// Numbers of odrxAlloc and odrxFree calls since the start of the process, and a switch for tests: while set,
+// odrxAlloc yields null.
 std::uint64_t odrxAllocCount();
+std::uint64_t odrxFreeCount();
 void odrxFailAllocations(bool fail);

@@ -120,14 +120,16 @@ TEST_F(ModuleAllocation, SizeZeroThatYieldsNullIsReturnedAsItIs) {
     EXPECT_EQ(loaded.symbol<NewFunction>("_Znwm")(0), nullptr);
 }
 
-TEST_F(ModuleAllocation, EveryFormOfDeleteTakesABlockAndNull) {
+TEST_F(ModuleAllocation, EveryFormOfDeleteGivesTheBlockToTheDrawingAllocatorAndPassesOverNull) {
     for (const std::size_t size : {std::size_t{0}, std::size_t{16}}) {
         const auto block = [size] { return size ? odrxAlloc(size) : nullptr; };
+        const std::uint64_t before = odrxFreeCount();
         for (const char* name : {"_ZdlPv", "_ZdaPv"})
             loaded.symbol<DeleteFunction>(name)(block());
         for (const char* name : {"_ZdlPvm", "_ZdaPvm"})
             loaded.symbol<SizedDeleteFunction>(name)(block(), 1); // the size doesn't matter
         for (const char* name : {"_ZdlPvRKSt9nothrow_t", "_ZdaPvRKSt9nothrow_t"})
             loaded.symbol<NothrowDeleteFunction>(name)(block(), std::nothrow);
+        EXPECT_EQ(odrxFreeCount() - before, size ? 6u : 0u);
     }
 }
