@@ -3,7 +3,7 @@
 #include "options/pages/paper_page.h"
 #include "tests/options/pages/paper_fixture.h"
 
-#include <QElapsedTimer>
+#include <ctime>
 
 namespace {
 
@@ -278,13 +278,12 @@ TEST_F(PaperEdits, AReloadLeavesNoTraceOfTheRowsThatWent) {
 TEST_F(PaperEdits, AThousandPapersOnTheScreenAreReloadedInTheTimeOfAThousandRows) {
     for (int i = 0; i < 1000; ++i)
         addPaper(("P" + std::to_string(i)).c_str(), L"Sheet", i, 1);
-    QElapsedTimer timer;
-    timer.start();
+    const std::clock_t start = std::clock(); // processor time, so that other programs don't matter
     open();
-    const qint64 opened = timer.restart();
+    const std::clock_t opened = std::clock();
     reloadPaperRows(*preferences);
     EXPECT_EQ(page()->childCount(), 1000);
-    EXPECT_LT(timer.elapsed(), 10 * opened) << "one layout for each row takes far longer";
+    EXPECT_LT(std::clock() - opened, 10 * (opened - start)) << "one layout for each row takes far longer";
 }
 
 TEST_F(PaperEdits, AStoreThatRefusesInTheMiddleOfApplyDoesNotStopTheDialog) {
