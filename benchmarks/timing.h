@@ -1,6 +1,6 @@
 // How the benchmarks of the Options dialog compare two pieces of work, so that a busy machine disturbs
-// little: both take turns within one run, only the processor time of their own thread counts, and of all
-// turns the fastest one of each is compared.
+// little: both take turns within one run, and only the processor time of their own thread counts. A ratio is
+// the median over the turns side by side; a figure by the row is that of the fastest turn.
 #pragma once
 #include <algorithm>
 #include <ctime>
