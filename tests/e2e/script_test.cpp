@@ -20,7 +20,7 @@ struct ScriptTest : testing::Test {
         process.start(QStringLiteral(WORKBENCH_FILE), arguments);
         process.write(input);
         process.closeWriteChannel();
-        EXPECT_TRUE(process.waitForFinished(60000));
+        EXPECT_TRUE(process.waitForFinished(240000));
         return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
                 QString::fromLocal8Bit(process.readAllStandardOutput()),
                 QString::fromLocal8Bit(process.readAllStandardError())};
@@ -110,6 +110,42 @@ TEST_F(ScriptTest, UnknownOptionIsTold) {
 TEST_F(ScriptTest, ThemeOutsideTheListIsTold) {
     EXPECT_EQ(run({"--theme", "7"}).status, 2);
     EXPECT_EQ(run({"--theme", "dark"}).status, 2);
+}
+
+TEST_F(ScriptTest, ThemeOfTheCommandLineIsShown) {
+    const Result result =
+        run({"--headless", "--root", folder.filePath("root"), "--theme", "1"}, "@screenshot light\n");
+    EXPECT_EQ(result.status, 0) << result.err.toStdString();
+    EXPECT_GT(QImage(folder.filePath("light.png")).pixelColor(300, 12).lightness(), 200);
+}
+
+TEST_F(ScriptTest, ShippedDataComesFromTheFolderOfTheCommandLine) {
+    QDir(folder.path()).mkdir("data");
+    QFile variables(folder.filePath("data/sysvars.yaml"));
+    ASSERT_TRUE(variables.open(QIODevice::WriteOnly));
+    variables.write(
+        "variables:\n  MINE: {type: int16, scope: application, default: 7, description: \"Mine.\"}\n");
+    variables.close();
+    const Result result =
+        run({"--headless", "--root", folder.filePath("root"), "--data", folder.filePath("data")}, "MINE\n\n");
+    EXPECT_TRUE(result.out.contains("Enter new value for MINE <7>: ")) << result.out.toStdString();
+    EXPECT_TRUE(result.err.contains("preftree.yaml")) << "what the folder lacks is told";
+}
+
+TEST_F(ScriptTest, DemoRunsThroughAndLeavesItsScreenshots) {
+    const QString data = QStringLiteral(SHIPPED_DATA_DIR "/");
+    const Result result = run({"--headless", "--root", folder.filePath("root"), "--script",
+                               data + "demo.script", data + "samples/house.dxf"});
+    EXPECT_EQ(result.status, 0) << result.err.toStdString();
+    QFile script(data + "demo.script");
+    ASSERT_TRUE(script.open(QIODevice::ReadOnly));
+    int pictures = 0;
+    for (const QByteArray& line : script.readAll().split('\n'))
+        if (line.startsWith("@screenshot ")) {
+            ++pictures;
+            EXPECT_FALSE(QImage(folder.filePath(line.mid(12) + ".png")).isNull()) << line.constData();
+        }
+    EXPECT_GT(pictures, 10);
 }
 
 TEST_F(ScriptTest, HelpIsPrinted) {
