@@ -14,9 +14,19 @@
 namespace {
 
 struct WindowTest : WorkbenchFixture {
-    void setOption(const char* key, const CKWVariant& value) {
-        openChild(appService<IProfile>().get(), "Workbench", 1)->setValue(key, &value);
+    void setOption(const char* key, const CKWVariant& value, const char* section = "Workbench") {
+        openChild(appService<IProfile>().get(), section, 1)->setValue(key, &value);
         enter({"DRAWINGS"}); // what was set takes effect when a command ends
+    }
+    // The colours of the crosshair on the canvas, along and across.
+    std::pair<QColor, QColor> crosshair() {
+        auto* canvas = part<QWidget>("canvas");
+        const QPoint at(100, 80);
+        QMouseEvent move(QEvent::MouseMove, at, canvas->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(canvas, &move);
+        const QImage image = canvas->grab().toImage();
+        return {image.pixelColor(at + QPoint(6, 0)), image.pixelColor(at + QPoint(0, 6))};
     }
     static CKWVariant number(int value) { return CKWVariant(value, kVtInt); }
 };
@@ -76,6 +86,35 @@ TEST_F(WindowTest, ConsoleFollowsItsFontAndColours) {
 TEST_F(WindowTest, CanvasFollowsItsColour) {
     setOption("CanvasBackColor", number(0x0000ff));
     EXPECT_EQ(part<QWidget>("canvas")->grab().toImage().pixelColor(2, 2), QColor(Qt::red));
+}
+
+TEST_F(WindowTest, CrosshairFollowsTheChoiceOfItsColour) {
+    setOption("CursorColor", number(int(0xff000000u)), "Cursor");
+    const auto contrast = crosshair();
+    EXPECT_EQ(contrast.first, contrast.second);
+    EXPECT_NE(contrast.first, part<QWidget>("canvas")->grab().toImage().pixelColor(2, 2));
+    setOption("CursorColor", number(0x0000ff), "Cursor"); // blue, green, red
+    EXPECT_EQ(crosshair(), std::make_pair(QColor(Qt::red), QColor(Qt::red)));
+    setOption("Color3D", number(1), "Cursor");
+    EXPECT_NE(crosshair().first, crosshair().second) << "each axis has its own";
+}
+
+TEST_F(WindowTest, ABrokenProfileIsToldOnceAndKeptBesideWhenItIsReplaced) {
+    bench.reset();
+    QFile profile(root.filePath("profile.yaml"));
+    ASSERT_TRUE(profile.open(QFile::WriteOnly | QFile::Truncate));
+    profile.write("Workbench:\n  Theme: [1\nSysVars: {}\n");
+    profile.close();
+    start();
+    const QStringList told = transcript().filter("profile.yaml:");
+    ASSERT_EQ(told.size(), 1) << transcript().join('\n').toStdString();
+    EXPECT_TRUE(part<QPlainTextEdit>("transcriptView")->toPlainText().contains(told.first()));
+    EXPECT_EQ(hostGetQtStyleManager()->themeNumber(), 0) << "the shipped settings serve";
+    action("Light")->trigger();
+    bench.reset();
+    QFile kept(root.filePath("profile.yaml.broken-1"));
+    ASSERT_TRUE(kept.open(QFile::ReadOnly));
+    EXPECT_EQ(kept.readAll(), "Workbench:\n  Theme: [1\nSysVars: {}\n");
 }
 
 TEST_F(WindowTest, ToolBarCanBeHidden) {
