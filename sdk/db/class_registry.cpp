@@ -8,6 +8,7 @@
 #include "sdk/db/group.h"
 #include "sdk/db/hatch.h"
 #include "sdk/db/layer_table.h"
+#include "sdk/db/leader.h"
 #include "sdk/db/polyline.h"
 #include "sdk/db/spline.h"
 #include "sdk/db/text.h"
@@ -28,6 +29,7 @@ const Classes& entityClasses() {
         {"ELLIPSE", OdDbEllipse::desc()},
         {"SPLINE", OdDbSpline::desc()},
         {"HATCH", OdDbHatch::desc()},
+        {"LEADER", OdDbLeader::desc()},
         {"LWPOLYLINE", OdDbPolyline::desc()},
         {"POLYLINE", OdDb2dPolyline::desc()},
         {"TEXT", OdDbText::desc()},

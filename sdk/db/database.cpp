@@ -113,6 +113,7 @@ OdDbObjectId OdDbDatabase::getBlockTableId() const { return tableId(*parts, "BLO
 OdDbObjectId OdDbDatabase::getLayerTableId() const { return tableId(*parts, "LAYER"); }
 OdDbObjectId OdDbDatabase::getLinetypeTableId() const { return tableId(*parts, "LTYPE"); }
 OdDbObjectId OdDbDatabase::getTextStyleTableId() const { return tableId(*parts, "STYLE"); }
+OdDbObjectId OdDbDatabase::getDimStyleTableId() const { return tableId(*parts, "DIMSTYLE"); }
 OdDbObjectId OdDbDatabase::getViewportTableId() const { return tableId(*parts, "VPORT"); }
 OdDbObjectId OdDbDatabase::getModelSpaceId() const { return OdDbObjectId(parts->modelSpace); }
 OdDbObjectId OdDbDatabase::getPaperSpaceId() const { return OdDbObjectId(parts->paperSpace); }

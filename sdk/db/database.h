@@ -52,6 +52,7 @@ public:
     OdDbObjectId getLayerTableId() const;
     OdDbObjectId getLinetypeTableId() const;
     OdDbObjectId getTextStyleTableId() const;
+    OdDbObjectId getDimStyleTableId() const;
     OdDbObjectId getViewportTableId() const;
     OdDbObjectId getNamedObjectsDictionaryId() const;
     OdDbObjectId getGroupDictionaryId(bool createIfNotFound = false);

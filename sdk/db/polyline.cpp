@@ -4,6 +4,9 @@
 #include "sdk/db/arc_extents.h"
 #include "sdk/db/sub_entities.h"
 
+#include <algorithm>
+#include <functional>
+
 ODRX_DEFINE_CLASS(OdDbPolylineBase, OdDbEntity)
 ODRX_DEFINE_CLASS_WITH_MAKER(OdDbPolyline, OdDbPolylineBase)
 ODRX_DEFINE_CLASS_WITH_MAKER(OdDb2dPolyline, OdDbPolylineBase)
@@ -15,6 +18,15 @@ constexpr int kClosed = 1;
 constexpr int kSpaceCurve = 8;
 constexpr int kMeshes = 16 | 64;
 constexpr int kFramePoint = 16;
+constexpr int kStartWidth = 40;
+constexpr int kEndWidth = 41;
+constexpr int kWidth = 43;
+
+double commonOf(const std::vector<double>& widths) {
+    const bool differs =
+        std::adjacent_find(widths.begin(), widths.end(), std::not_equal_to<>()) != widths.end();
+    return widths.empty() || differs ? 0 : widths.front();
+}
 } // namespace
 
 void OdDbPolylineBase::addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const {
@@ -52,6 +64,21 @@ std::vector<OdDbPolylineVertex> OdDbPolyline::vertices() const {
 }
 
 bool OdDbPolyline::isClosed() const { return content.integer(content.subclass(kLight), kFlags) & kClosed; }
+
+double OdDbPolyline::constantWidth() const {
+    const DxfTagList::Range range = content.subclass(kLight);
+    std::vector<double> widths;
+    std::size_t corners = 0;
+    for (std::size_t i = range.begin; i < range.end; ++i) {
+        const int code = content[i].code;
+        if (code == kWidth)
+            return dxfReal(content[i].value());
+        corners += code == 10;
+        if (code == kStartWidth || code == kEndWidth)
+            widths.push_back(dxfReal(content[i].value()));
+    }
+    return widths.size() == 2 * corners ? commonOf(widths) : 0;
+}
 
 void OdDbPolyline::setClosed(bool closed) {
     const std::int64_t flags = content.integer(content.subclass(kLight), kFlags);
@@ -91,6 +118,19 @@ std::vector<OdDbPolylineVertex> OdDb2dPolyline::vertices() const {
 }
 
 bool OdDb2dPolyline::isClosed() const { return content.integer(content.whole(), kFlags) & kClosed; }
+
+// Vertices that say nothing have the widths of the polyline.
+double OdDb2dPolyline::constantWidth() const {
+    const double start = content.real(content.whole(), kStartWidth);
+    const double end = content.real(content.whole(), kEndWidth);
+    std::vector<double> widths;
+    for (const OdDbObjectId id : odDbSubEntities(objectId())) {
+        const OdDbObjectPtr vertex = id.openObject();
+        widths.push_back(vertex->tags().real(vertex->tags().whole(), kStartWidth, start));
+        widths.push_back(vertex->tags().real(vertex->tags().whole(), kEndWidth, end));
+    }
+    return commonOf(widths);
+}
 
 OdGeMatrix3d OdDb2dPolyline::vertexToWorld() const {
     const bool inSpace = content.integer(content.whole(), kFlags) & (kSpaceCurve | kMeshes);

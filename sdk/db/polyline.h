@@ -14,6 +14,8 @@ class OdDbPolylineBase : public OdDbEntity {
 public:
     virtual std::vector<OdDbPolylineVertex> vertices() const { return {}; }
     virtual bool isClosed() const { return false; }
+    // 0 when the width differs from place to place, too.
+    virtual double constantWidth() const { return 0; }
     // From the coordinates of the vertices to world coordinates.
     virtual OdGeMatrix3d vertexToWorld() const { return planeToWorld(); }
     void addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const override;
@@ -25,6 +27,7 @@ public:
     OdDbPolyline();
     std::vector<OdDbPolylineVertex> vertices() const override;
     bool isClosed() const override;
+    double constantWidth() const override;
     void setClosed(bool closed);
     void setVertices(const std::vector<OdDbPolylineVertex>& list);
 };
@@ -35,6 +38,7 @@ class OdDb2dPolyline : public OdDbPolylineBase {
 public:
     std::vector<OdDbPolylineVertex> vertices() const override; // without spline frame points
     bool isClosed() const override;
+    double constantWidth() const override;
     OdGeMatrix3d vertexToWorld() const override;
     bool isMesh() const; // polygon and polyface meshes: vertices are no path then
 };

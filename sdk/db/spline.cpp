@@ -47,8 +47,8 @@ OdDbSplineCurve OdDbSpline::curve() const {
 
 std::vector<OdGePoint3d> OdDbSpline::fitPoints() const { return points(kFit); }
 
-std::vector<OdGePoint3d> OdDbSpline::path() const {
-    std::vector<OdGePoint3d> list = curve().path();
+std::vector<OdGePoint3d> OdDbSpline::path(int piecesOfSpan) const {
+    std::vector<OdGePoint3d> list = curve().path(piecesOfSpan);
     if (list.empty())
         list = fitPoints();
     if (isClosed() && !list.empty() && list.front() != list.back())

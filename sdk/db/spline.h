@@ -12,7 +12,7 @@ public:
     std::vector<OdGePoint3d> fitPoints() const;
     // World coordinates, from the first point to the last; a closed spline comes back to its start. A spline
     // that has fit points alone goes straight from one to the next.
-    std::vector<OdGePoint3d> path() const;
+    std::vector<OdGePoint3d> path(int piecesOfSpan = 12) const;
     void addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const override;
 
 private:

@@ -12,6 +12,8 @@ class OdDbBlockReference;
 class OdDbBlockTableRecord;
 class OdDbCircle;
 class OdDbEllipse;
+class OdDbHatch;
+class OdDbLeader;
 class OdDbMText;
 class OdDbPolylineBase;
 class OdDbText;
@@ -27,6 +29,9 @@ public:
     // Blocks that repeat each other grow without bounds: what would be beyond these numbers isn't shown.
     static constexpr std::size_t kMostShapes = 1000000; // of one object
     static constexpr std::size_t kMostParts = 2000000;  // of blocks, in all
+    // What would take more lines of hatch patterns than these is shown as a shade.
+    static constexpr std::size_t kMostLinesOfHatch = 20000;
+    static constexpr std::size_t kMostHatchLines = 1000000; // in all
 
 private:
     // Where and in which looks the parts of a block are shown; the first one is the drawing itself.
@@ -57,7 +62,13 @@ private:
                   Ink ink);
     void addArc(const OdGePoint3d& center, const OdGeVector3d& zero, const OdGeVector3d& quarter,
                 double start, double sweep, const OdGeMatrix3d& matrix, Ink ink);
+    bool addWide(const OdDbPolylineBase& polyline, const OdGeMatrix3d& toWorld, Ink ink);
+    void addPath(const std::vector<OdGePoint3d>& points, const OdGeMatrix3d& toWorld, Ink ink);
     void addOther(const OdDbEntity& entity, const Place& place, const LayerLook& layer, Ink ink);
+    void addHatch(const OdDbHatch& hatch, const OdGeMatrix3d& toWorld, Ink ink);
+    void addHatching(Area& area, const OdDbHatch& hatch, const std::vector<std::vector<OdGePoint3d>>& loops,
+                     const OdGeMatrix3d& toWorld);
+    void addLeader(const OdDbLeader& leader, const OdGeMatrix3d& toWorld, Ink ink);
     void addArea(const OdDbEntity& entity, const OdGeMatrix3d& toWorld, Ink ink);
     void addText(const OdDbText& text, const OdString& content, const OdGeMatrix3d& toWorld, Ink ink);
     void addMText(const OdDbMText& text, const OdGeMatrix3d& toWorld, Ink ink);
@@ -66,8 +77,9 @@ private:
     const LayerLooks& looksOf(const OdDbDatabase& drawing);
 
     Item item;
-    std::size_t parts = 0; // of blocks, so far
-    Dashes dashes;         // of the object that is being added
+    std::size_t parts = 0;         // of blocks, so far
+    std::size_t hatchingLines = 0; // so far
+    Dashes dashes;                 // of the object that is being added
     std::map<const OdDbDatabase*, LayerLooks> looks;
 };
 

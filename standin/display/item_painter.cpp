@@ -1,8 +1,9 @@
 #include "standin/display/item_painter.h"
 
+#include "standin/display/clipping.h"
 #include "standin/display/letters.h"
 
-#include <QPolygonF>
+#include <QPainterPath>
 #include <QTransform>
 #include <cmath>
 #include <optional>
@@ -14,29 +15,9 @@ namespace {
 const double smallestItem = 1.2; // pixels; below it an item is one dot
 const double smallestText = 3;   // pixels; below it a text is a line
 const int mostWaiting = 4096;
-const double kNameBorder = 5; // pixels around the name of a missing reference
-
-// The part of the line inside of the area; false when there is none. Far ends would overflow the painter.
-bool clipLine(const QRectF& area, QPointF& a, QPointF& b) {
-    double from = 0, to = 1;
-    const QPointF along = b - a;
-    const double steps[] = {-along.x(), along.x(), -along.y(), along.y()};
-    const double rooms[] = {a.x() - area.left(), area.right() - a.x(), a.y() - area.top(),
-                            area.bottom() - a.y()};
-    for (int side = 0; side < 4; ++side) {
-        if (steps[side] == 0 && rooms[side] < 0)
-            return false;
-        if (steps[side] < 0)
-            from = std::max(from, rooms[side] / steps[side]);
-        else if (steps[side] > 0)
-            to = std::min(to, rooms[side] / steps[side]);
-    }
-    if (from > to)
-        return false;
-    b = a + along * to;
-    a += along * from;
-    return true;
-}
+const double kNameBorder = 5;    // pixels around the name of a missing reference
+const double finestHatching = 3; // pixels between the lines of a pattern; below it they are a shade
+const int shadeAlpha = 70;
 
 } // namespace
 
@@ -134,22 +115,39 @@ void ItemPainter::addLine(const QPointF& a, const QPointF& b, Dasher* dasher) {
 }
 
 // What is marked has an outline instead, so that what lies upon it is still seen.
-void ItemPainter::drawFill(const Shape& area) {
-    QPolygonF corners;
-    for (const QPointF& point : area.points)
-        corners.append(shownView.toPixel(point));
-    const bool near = clip.adjusted(-1e4, -1e4, 1e4, 1e4).contains(corners.boundingRect());
-    if (hasOwnPen || !near) {
-        std::vector<QPointF> outline = area.points;
-        outline.push_back(outline.front());
-        return drawRun(outline, nullptr);
+void ItemPainter::drawFill(const Shape& fill) {
+    if (hasOwnPen) {
+        for (const std::vector<QPointF>& border : bordersOf(fill))
+            drawRun(border, nullptr);
+    } else if (fill.area && !fill.area->hatching.empty() &&
+               fill.area->finest * shownView.scale() >= finestHatching) {
+        for (const QLineF& line : fill.area->hatching)
+            addLine(shownView.toPixel(line.p1()), shownView.toPixel(line.p2()), nullptr);
+    } else {
+        paintFill(fill);
     }
+}
+
+// A solid area has its outline, too, so that a narrow one is still seen.
+void ItemPainter::paintFill(const Shape& fill) {
     flush();
+    QPainterPath path;
+    path.setFillRule(fill.area ? fill.area->rule : Qt::OddEvenFill);
+    for (const std::vector<QPointF>& border : bordersOf(fill)) {
+        QPolygonF corners;
+        for (const QPointF& point : border)
+            corners.append(shownView.toPixel(point));
+        path.addPolygon(clip.contains(corners.boundingRect()) ? corners : clippedPolygon(clip, corners));
+    }
+    const bool isSolid = !fill.area || fill.area->isSolid;
+    QColor color = colorOf(fill.ink);
+    if (!isSolid)
+        color.setAlpha(shadeAlpha);
     const bool smooth = target.testRenderHint(QPainter::Antialiasing);
     target.setRenderHint(QPainter::Antialiasing, false); // no seams between areas that touch
-    target.setPen(Qt::NoPen);
-    target.setBrush(colorOf(area.ink));
-    target.drawPolygon(corners);
+    target.setPen(isSolid ? QPen(color, 0) : QPen(Qt::NoPen));
+    target.setBrush(color);
+    target.drawPath(path);
     target.setRenderHint(QPainter::Antialiasing, smooth);
 }
 

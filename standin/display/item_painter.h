@@ -27,7 +27,8 @@ private:
     void drawMissing(const Shape& mark);
     void drawRun(const std::vector<QPointF>& points, const Dashes& dashes);
     void addLine(const QPointF& a, const QPointF& b, Dasher* dasher);
-    void drawFill(const Shape& area);
+    void drawFill(const Shape& fill);
+    void paintFill(const Shape& fill);
     QColor colorOf(Ink ink) const;
     void use(Ink ink);
     void flush();

@@ -2,19 +2,28 @@
 #include "host/text.h"
 #include "sdk/db/block_reference.h"
 #include "sdk/db/curves.h"
+#include "sdk/db/hatch.h"
+#include "sdk/db/leader.h"
 #include "sdk/db/polyline.h"
+#include "sdk/db/spline.h"
 #include "sdk/db/text.h"
+#include "standin/display/flat.h"
 #include "standin/display/item_builder.h"
 #include "standin/display/text_lines.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace standin {
 
 namespace {
 
-QPointF flat(const OdGePoint3d& point) { return {point.x, point.y}; }
-QPointF flat(const OdGeVector3d& vector) { return {vector.x, vector.y}; }
+const std::size_t smoothPoints = 800; // of a spline; a short one is smooth when it is large, too
+
+std::vector<OdGePoint3d> pathOf(const OdDbSpline& spline) {
+    const std::size_t spans = std::max<std::size_t>(spline.curve().controls.size(), 1);
+    return spline.path(static_cast<int>(std::clamp<std::size_t>(smoothPoints / spans, 12, 48)));
+}
 
 double sweepOf(double start, double end) {
     const double sweep = std::fmod(std::fmod(end - start, 2 * M_PI) + 2 * M_PI, 2 * M_PI);
@@ -54,6 +63,12 @@ void ItemBuilder::addGeometry(const OdDbEntity& entity, const Place& place, cons
         addMText(*paragraph, world, ink);
     else if (const auto* point = dynamic_cast<const OdDbPoint*>(&entity))
         put({Shape::Dot, ink, {flat(world * point->position())}, {}});
+    else if (const auto* spline = dynamic_cast<const OdDbSpline*>(&entity))
+        addPath(pathOf(*spline), world, ink);
+    else if (const auto* hatch = dynamic_cast<const OdDbHatch*>(&entity))
+        addHatch(*hatch, world, ink);
+    else if (const auto* leader = dynamic_cast<const OdDbLeader*>(&entity))
+        addLeader(*leader, world, ink);
     else
         addOther(entity, place, layer, ink);
 }
@@ -67,16 +82,6 @@ void ItemBuilder::addOther(const OdDbEntity& entity, const Place& place, const L
         addArea(entity, place.toWorld * OdGeMatrix3d::planeToWorld(entity.normal()), ink);
 }
 
-// The corners come in the order of a Z; the fourth may be missing or the same as the third.
-void ItemBuilder::addArea(const OdDbEntity& entity, const OdGeMatrix3d& toWorld, Ink ink) {
-    Shape area{Shape::Fill, ink, {}, {}};
-    for (const int code : {10, 11, 13, 12})
-        if (entity.tags().find(code) != DxfTagList::npos)
-            area.points.push_back(flat(toWorld * entity.tags().point(entity.tags().whole(), code)));
-    if (area.points.size() > 2)
-        put(std::move(area));
-}
-
 void ItemBuilder::addArc(const OdGePoint3d& center, const OdGeVector3d& zero, const OdGeVector3d& quarter,
                          double start, double sweep, const OdGeMatrix3d& matrix, Ink ink) {
     put({Shape::Arc,
@@ -85,10 +90,18 @@ void ItemBuilder::addArc(const OdGePoint3d& center, const OdGeVector3d& zero, co
          {}});
 }
 
+void ItemBuilder::addPath(const std::vector<OdGePoint3d>& points, const OdGeMatrix3d& toWorld, Ink ink) {
+    Shape path{Shape::Path, ink, {}, {}};
+    for (const OdGePoint3d& point : points)
+        path.points.push_back(flat(toWorld * point));
+    if (path.points.size() > 1)
+        put(std::move(path));
+}
+
 // Straight runs become one path each, bulges arcs between them.
 void ItemBuilder::addPolyline(const OdDbPolylineBase& polyline, const OdGeMatrix3d& toWorld, Ink ink) {
     std::vector<OdDbPolylineVertex> list = polyline.vertices();
-    if (list.empty())
+    if (list.empty() || addWide(polyline, toWorld, ink))
         return;
     if (polyline.isClosed())
         list.push_back(list.front());

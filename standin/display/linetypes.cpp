@@ -19,9 +19,14 @@ Dashes patternOf(const OdDbSymbolTableRecord& linetype, double scale) {
     return lengths.empty() ? nullptr : std::make_shared<const std::vector<double>>(std::move(lengths));
 }
 
+// 1 in a drawing that does not tell.
 double drawingScale(const OdDbDatabase& drawing) {
-    const OdResBufPtr value = drawing.getSysVar(L"LTSCALE");
-    return value->getDouble() > 0 ? value->getDouble() : 1;
+    try {
+        const double scale = drawing.getSysVar(L"LTSCALE")->getDouble();
+        return scale > 0 ? scale : 1;
+    } catch (const OdError&) {
+        return 1;
+    }
 }
 
 } // namespace

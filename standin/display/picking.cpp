@@ -1,6 +1,7 @@
 #include "standin/display/picking.h"
 
 #include <QPolygonF>
+#include <algorithm>
 #include <cmath>
 
 namespace standin {
@@ -15,45 +16,60 @@ double distanceToSegment(const QPointF& point, const QPointF& a, const QPointF& 
     return std::hypot(off.x(), off.y());
 }
 
-// The outline of a shape as points joined by lines.
-std::vector<QPointF> outline(const Shape& shape, double scale) {
-    if (shape.kind == Shape::Arc)
-        return arcPoints(shape, scale);
-    if (shape.kind == Shape::Text || shape.kind == Shape::Fill) {
-        std::vector<QPointF> corners = shape.kind == Shape::Text ? textCorners(shape) : shape.points;
-        corners.push_back(corners.front());
-        return corners;
-    }
-    if (shape.kind != Shape::Missing)
-        return shape.points;
-    const Box mark =
-        Box{shape.points[0].x(), shape.points[0].y(), shape.points[0].x(), shape.points[0].y()}.grown(
-            kMissingMark / scale);
-    return {{mark.left, mark.bottom},
-            {mark.right, mark.bottom},
-            {mark.right, mark.top},
-            {mark.left, mark.top},
-            {mark.left, mark.bottom}};
+using Runs = std::vector<std::vector<QPointF>>;
+
+std::vector<QPointF> closed(std::vector<QPointF> corners) {
+    corners.push_back(corners.front());
+    return corners;
 }
 
-// Texts and marks are picked anywhere inside, other shapes on their lines.
-double distanceTo(const Shape& shape, const QPointF& point, double scale) {
-    const std::vector<QPointF> points = outline(shape, scale);
-    const bool filled =
-        shape.kind == Shape::Text || shape.kind == Shape::Missing || shape.kind == Shape::Fill;
-    if (filled &&
-        QPolygonF(QVector<QPointF>(points.begin(), points.end())).containsPoint(point, Qt::OddEvenFill))
-        return 0;
-    double nearest = distanceToSegment(point, points.front(), points.front());
-    for (std::size_t i = 0; i + 1 < points.size(); ++i)
-        nearest = std::min(nearest, distanceToSegment(point, points[i], points[i + 1]));
+std::vector<QPointF> frameOf(const Box& box) {
+    return closed(
+        {{box.left, box.bottom}, {box.right, box.bottom}, {box.right, box.top}, {box.left, box.top}});
+}
+
+// The outlines of a shape as points joined by lines.
+Runs outlines(const Shape& shape, double scale) {
+    switch (shape.kind) {
+    case Shape::Arc:
+        return {arcPoints(shape, scale)};
+    case Shape::Text:
+        return {closed(textCorners(shape))};
+    case Shape::Fill:
+        return bordersOf(shape);
+    case Shape::Missing:
+        return {frameOf(boxOf(shape).grown(kMissingMark / scale))};
+    default:
+        return {shape.points};
+    }
+}
+
+double distanceToLines(const Runs& runs, const QPointF& point) {
+    double nearest = HUGE_VAL;
+    for (const std::vector<QPointF>& run : runs) {
+        nearest = std::min(nearest, distanceToSegment(point, run.front(), run.front()));
+        for (std::size_t i = 0; i + 1 < run.size(); ++i)
+            nearest = std::min(nearest, distanceToSegment(point, run[i], run[i + 1]));
+    }
     return nearest;
 }
 
-double distanceTo(const Item& item, const QPointF& point, double scale) {
+// Texts and marks are picked anywhere inside, other shapes on their lines. The inside of an area is just
+// within reach, so that whatever lies upon it comes first.
+double distanceTo(const Shape& shape, const QPointF& point, double reach, double scale) {
+    const Runs runs = outlines(shape, scale);
+    const bool isPlate = shape.kind == Shape::Text || shape.kind == Shape::Missing;
+    if (isPlate &&
+        QPolygonF(QVector<QPointF>(runs[0].begin(), runs[0].end())).containsPoint(point, Qt::OddEvenFill))
+        return 0;
+    const double distance = distanceToLines(runs, point);
+    return shape.kind == Shape::Fill && distance > reach && isInside(shape, point) ? reach : distance;
+}
+
+double distanceTo(const Item& item, const QPointF& point, double reach, double scale) {
     double nearest = HUGE_VAL;
     for (const Shape& shape : item.shapes)
-        nearest = std::min(nearest, distanceTo(shape, point, scale));
+        nearest = std::min(nearest, distanceTo(shape, point, reach, scale));
     return nearest;
 }
 
@@ -76,16 +92,20 @@ bool crosses(const Box& box, const QPointF& a, const QPointF& b) {
     return from <= to;
 }
 
-bool touches(const Item& item, const Box& window, double scale) {
-    for (const Shape& shape : item.shapes) {
-        const std::vector<QPointF> points = outline(shape, scale);
-        if (window.contains(points.front()))
+bool touches(const Shape& shape, const Box& window, double scale) {
+    for (const std::vector<QPointF>& run : outlines(shape, scale)) {
+        if (window.contains(run.front()))
             return true;
-        for (std::size_t i = 0; i + 1 < points.size(); ++i)
-            if (crosses(window, points[i], points[i + 1]))
+        for (std::size_t i = 0; i + 1 < run.size(); ++i)
+            if (crosses(window, run[i], run[i + 1]))
                 return true;
     }
-    return false;
+    return shape.kind == Shape::Fill && isInside(shape, window.center()); // the window may lie within
+}
+
+bool touches(const Item& item, const Box& window, double scale) {
+    return std::any_of(item.shapes.begin(), item.shapes.end(),
+                       [&](const Shape& shape) { return touches(shape, window, scale); });
 }
 
 } // namespace
@@ -95,7 +115,7 @@ OdDbObjectId itemAt(const DisplayList& list, const QPointF& point, double reach,
     double nearest = reach;
     const double mark = kMissingMark / scale; // marks reach beyond their boxes
     for (const Item* item : list.within(boxOf(point, point).grown(reach + mark))) {
-        const double distance = distanceTo(*item, point, scale);
+        const double distance = distanceTo(*item, point, reach, scale);
         if (distance > nearest)
             continue;
         nearest = distance;

@@ -51,6 +51,35 @@ std::vector<QPointF> textCorners(const Shape& text) {
     return {corner, corner + along, corner + along + up, corner + up};
 }
 
+std::vector<std::vector<QPointF>> bordersOf(const Shape& fill) {
+    std::vector<std::size_t> starts{0};
+    if (fill.area)
+        starts.insert(starts.end(), fill.area->starts.begin(), fill.area->starts.end());
+    starts.push_back(fill.points.size());
+    std::vector<std::vector<QPointF>> borders;
+    for (std::size_t i = 0; i + 1 < starts.size(); ++i) {
+        const auto from = fill.points.begin() + static_cast<std::ptrdiff_t>(starts[i]);
+        borders.emplace_back(from, fill.points.begin() + static_cast<std::ptrdiff_t>(starts[i + 1]));
+        borders.back().push_back(*from);
+    }
+    return borders;
+}
+
+// Counts how often the borders go round the point.
+bool isInside(const Shape& fill, const QPointF& point) {
+    int turns = 0;
+    for (const std::vector<QPointF>& border : bordersOf(fill))
+        for (std::size_t i = 0; i + 1 < border.size(); ++i) {
+            const QPointF a = border[i] - point, b = border[i + 1] - point;
+            if ((a.y() > 0) == (b.y() > 0))
+                continue;
+            const double side = a.x() * b.y() - a.y() * b.x();
+            if ((b.y() > 0) == (side > 0))
+                turns += b.y() > 0 ? 1 : -1;
+        }
+    return fill.area && fill.area->rule == Qt::WindingFill ? turns != 0 : turns % 2 != 0;
+}
+
 Box boxOf(const Shape& shape) {
     if (shape.kind == Shape::Arc)
         return boxOfArc(shape);

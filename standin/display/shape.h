@@ -5,8 +5,10 @@
 #include "standin/display/box.h"
 #include "standin/display/linetypes.h"
 
+#include <QLineF>
 #include <QRgb>
 #include <QString>
+#include <memory>
 #include <vector>
 
 namespace standin {
@@ -15,10 +17,19 @@ namespace standin {
 using Ink = QRgb;
 constexpr Ink kForeground = 0;
 
+// What a filled area may have beside one border.
+struct Area {
+    std::vector<std::size_t> starts{}; // of the further borders among the points
+    Qt::FillRule rule = Qt::OddEvenFill;
+    bool isSolid = true;
+    std::vector<QLineF> hatching{}; // the lines of a pattern
+    double finest = 0;              // the distance between them
+};
+
 struct Shape {
     enum Kind {
         Path,   // points joined by lines
-        Fill,   // the corners of a filled area
+        Fill,   // the borders of a filled area, one after the other
         Arc,    // centre, the vectors to the angles 0 and 90 degrees, then start and sweep in radians
         Text,   // origin, the vectors of one letter height along and up, then how much of the width and the
                 // height lies before the origin
@@ -29,7 +40,8 @@ struct Shape {
     Ink ink = kForeground;
     std::vector<QPointF> points;
     QString text;
-    Dashes dashes{}; // of a path or an arc
+    Dashes dashes{};                    // of a path or an arc
+    std::shared_ptr<const Area> area{}; // of a fill; null for a solid one with one border
 };
 
 struct Item {
@@ -42,6 +54,9 @@ struct Item {
 std::vector<QPointF> arcPoints(const Shape& arc, double scale);
 // The corners of a text, in order around it.
 std::vector<QPointF> textCorners(const Shape& text);
+// The borders of a filled area, each back to its start.
+std::vector<std::vector<QPointF>> bordersOf(const Shape& fill);
+bool isInside(const Shape& fill, const QPointF& point);
 Box boxOf(const Shape& shape);
 
 // Half the size of the mark of a missing reference, in pixels.

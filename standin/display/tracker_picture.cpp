@@ -2,6 +2,7 @@
 
 #include "sdk/db/block_reference.h"
 #include "standin/console/console.h"
+#include "standin/display/flat.h"
 #include "standin/display/item_builder.h"
 #include "standin/display/item_painter.h"
 
@@ -14,8 +15,6 @@ namespace {
 
 const double mostPixels = 2600; // of a picture along one side; a larger one is painted smaller and stretched
 const int border = 2;           // pixels around it
-
-QPointF flat(const OdGePoint3d& point) { return {point.x, point.y}; }
 
 } // namespace
 

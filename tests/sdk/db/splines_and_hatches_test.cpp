@@ -130,3 +130,35 @@ TEST(Hatches, CountsOfTheFileAreNotBelieved) {
     ASSERT_EQ(loops.size(), 1u);
     EXPECT_EQ(loops[0].size(), 1u);
 }
+
+TEST(Hatches, PatternLinesComeWithTheirPlaceAndDashes) {
+    const std::string pattern =
+        "75\n0\n76\n1\n52\n30.0\n41\n2.0\n77\n0\n78\n2\n"
+        "53\n90.0\n43\n1.0\n44\n2.0\n45\n-4.0\n46\n0.5\n79\n2\n49\n3.0\n49\n-1.5\n"
+        "53\n0.0\n43\n0.0\n44\n0.0\n45\n0.0\n46\n5.0\n79\n0\n98\n1\n10\n77.0\n20\n77.0\n";
+    const OdDbDatabasePtr database = drawingWith(
+        "0\nHATCH\n5\nA1\n100\nAcDbEntity\n8\n0\n100\nAcDbHatch\n10\n0.0\n20\n0.0\n30\n0.0\n2\nP\n"
+        "70\n0\n71\n0\n91\n0\n" +
+        pattern);
+    const auto entity = onlyEntity<OdDbHatch>(*database);
+    EXPECT_FALSE(entity->isSolidFill());
+    const std::vector<OdDbHatch::PatternLines> lines = entity->patternLines();
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_NEAR(lines[0].angle, M_PI / 2, 1e-12);
+    EXPECT_EQ(lines[0].base, OdGePoint3d(1, 2, 0));
+    EXPECT_EQ(lines[0].offset, OdGeVector3d(-4, 0.5, 0));
+    EXPECT_EQ(lines[0].dashes, (std::vector<double>{3, -1.5}));
+    EXPECT_TRUE(lines[1].dashes.empty());
+}
+
+TEST(Hatches, OneInATiltedPlaneLiesAtItsHeight) {
+    std::string text =
+        hatch("91\n1\n92\n2\n72\n0\n73\n1\n93\n3\n10\n0.0\n20\n0.0\n10\n4.0\n20\n0.0\n10\n4.0\n20\n"
+              "3.0\n97\n0\n");
+    text.replace(text.find("30\n0.0"), 6, "30\n7.0"); // the plane below looks along the x axis
+    const OdDbDatabasePtr database = drawingWith(text + "210\n1.0\n220\n0.0\n230\n0.0\n");
+    OdGeExtents3d box;
+    ASSERT_EQ(onlyEntity<OdDbHatch>(*database)->getGeomExtents(box), eOk);
+    EXPECT_NEAR(box.minPoint().distanceTo({7, 0, 0}), 0, 1e-12);
+    EXPECT_NEAR(box.maxPoint().distanceTo({7, 4, 3}), 0, 1e-12);
+}
