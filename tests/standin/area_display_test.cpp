@@ -1,6 +1,7 @@
 // Splines, hatches, leaders and wide polylines: their shapes, how they are painted and where they are picked.
 #include "sdk/db/block_table.h"
 #include "standin/display/display_list.h"
+#include "standin/display/marks_image.h"
 #include "standin/display/picking.h"
 #include "standin/display/scene_image.h"
 
@@ -121,6 +122,23 @@ TEST(HatchDisplay, IsPickedInsideButNotInItsHoles) {
     EXPECT_EQ(itemsIn(drawing.list, {10, 10, 20, 20}, true, 1), OdDbObjectIdArray{id}); // wholly within it
     EXPECT_TRUE(itemsIn(drawing.list, {40, 40, 60, 60}, true, 1).empty());
     EXPECT_EQ(itemsIn(drawing.list, {-1, -1, 101, 101}, false, 1), OdDbObjectIdArray{id});
+}
+
+TEST(HatchDisplay, IsMarkedByItsBordersSoThatWhatLiesUponItIsStillSeen) {
+    const Drawing drawing(hatch(square(0, 10) + square(3, 7), true));
+    View view;
+    view.resize({100, 100});
+    view.fit({0, 0, 10, 10});
+    MarksImage marks;
+    marks.setPen(QPen(Qt::blue, 3));
+    const QImage image = marks.of(drawing.list, {drawing.items.at(0)->id}, view, 1).toImage();
+    const auto alphaAt = [&](double x, double y) {
+        return image.pixelColor(view.toPixel({x, y}).toPoint()).alpha();
+    };
+    EXPECT_GT(alphaAt(0, 5), 200);
+    EXPECT_GT(alphaAt(3, 5), 200);
+    EXPECT_EQ(alphaAt(1.5, 5), 0);
+    EXPECT_EQ(alphaAt(3, 1.5), 0); // no line joins the two borders
 }
 
 TEST(HatchDisplay, WhatLiesUponItIsPickedFirstWhicheverCameFirst) {
