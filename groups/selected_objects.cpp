@@ -4,12 +4,17 @@
 
 #include <QApplication>
 #include <algorithm>
+#include <unordered_set>
 
 namespace {
 
 bool consistsOf(const OdDbGroupPtr& group, const OdDbObjectIdArray& ids) {
-    return group->numEntities() == ids.size() &&
-           std::all_of(ids.begin(), ids.end(), [&](OdDbObjectId id) { return isMember(group, id); });
+    if (group->numEntities() != ids.size())
+        return false;
+    OdDbObjectIdArray members;
+    group->allEntityIds(members);
+    const std::unordered_set<OdDbObjectId> wanted(members.begin(), members.end());
+    return std::all_of(ids.begin(), ids.end(), [&](OdDbObjectId id) { return wanted.count(id) != 0; });
 }
 
 bool isExactlyOneGroup(const OdDbObjectIdArray& ids, const OdDbDictionaryPtr& dictionary) {

@@ -7,7 +7,6 @@
 #include "sdk/db/dictionary.h"
 
 #include <algorithm>
-#include <unordered_set>
 
 ODRX_DEFINE_CLASS_WITH_MAKER(OdDbGroup, OdDbObject)
 
@@ -133,6 +132,7 @@ void OdDbGroup::fillCache() const {
         return;
     members.clear();
     memberTags.clear();
+    known.clear();
     const DxfTagList::Range range = content.subclass(kMarker);
     for (std::size_t i = range.begin; i < range.end; ++i) {
         if (content[i].code != kMember)
@@ -153,6 +153,8 @@ OdDbStub* OdDbGroup::memberAt(std::size_t tag) const {
 void OdDbGroup::contentSpliced(std::size_t position, std::size_t removed, std::size_t inserted) {
     const bool isBeforeMembers =
         removed == inserted && (memberTags.empty() || position + removed <= memberTags[0]);
+    if (!isBeforeMembers)
+        known.clear();
     cached = cached && (isBeforeMembers || (removed == 0 && joinAppended(position, inserted)) ||
                         (inserted == 0 && dropAppended(position, removed)));
 }
@@ -212,8 +214,13 @@ unsigned OdDbGroup::allEntityIds(OdDbObjectIdArray& ids) const {
 bool OdDbGroup::has(const OdDbEntity* entity) const {
     fillCache();
     const OdDbStub* wanted = entity ? entity->objectId().getStub() : nullptr;
-    return wanted && !wanted->has(OdDbStub::kErased) &&
-           std::find(members.begin(), members.end(), wanted) != members.end();
+    return wanted && !wanted->has(OdDbStub::kErased) && memberSet().count(wanted) != 0;
+}
+
+const std::unordered_set<const OdDbStub*>& OdDbGroup::memberSet() const {
+    if (known.empty())
+        known.insert(members.begin(), members.end());
+    return known;
 }
 
 void OdDbGroup::getIndex(OdDbObjectId id, unsigned& index) const {
@@ -246,12 +253,27 @@ void OdDbGroup::append(const OdDbObjectIdArray& ids) {
                   members.end() - static_cast<std::ptrdiff_t>(joining.size()));
 }
 
-void OdDbGroup::remove(const OdDbObjectIdArray& ids) {
-    std::unordered_set<OdDbStub*> leaving;
+// A file may name a member more than once.
+void OdDbGroup::remove(OdDbObjectId id) {
     fillCache();
-    const std::unordered_set<OdDbStub*> present(members.begin(), members.end());
+    auto found = std::find(members.begin(), members.end(), id.getStub());
+    if (id.isNull() || found == members.end())
+        throw OdError(eKeyNotFound);
+    assertWriteEnabled();
+    while (found != members.end()) {
+        const auto place = static_cast<std::size_t>(found - members.begin());
+        rearrange(place, members.size() - place,
+                  [](auto begin, auto end) { std::rotate(begin, begin + 1, end); });
+        cutOff(members.size() - 1);
+        found = std::find(members.begin() + static_cast<std::ptrdiff_t>(place), members.end(), id.getStub());
+    }
+}
+
+void OdDbGroup::remove(const OdDbObjectIdArray& ids) {
+    std::unordered_set<const OdDbStub*> leaving;
+    fillCache();
     for (const OdDbObjectId id : ids) {
-        if (id.isNull() || present.count(id.getStub()) == 0)
+        if (id.isNull() || memberSet().count(id.getStub()) == 0)
             throw OdError(eKeyNotFound);
         leaving.insert(id.getStub());
     }
@@ -293,6 +315,7 @@ void OdDbGroup::cutOff(std::size_t count) {
     }
     members.resize(count);
     memberTags.resize(count);
+    known.clear();
 }
 
 void OdDbGroup::changeOrder(std::unique_ptr<OdDbGroupOrderChange> change) {

@@ -4,6 +4,8 @@
 
 #include "sdk/db/entity.h"
 
+#include <unordered_set>
+
 class OdDbGroupOrderChange;
 
 class OdDbGroup : public OdDbObject {
@@ -35,7 +37,7 @@ public:
     void append(OdDbObjectId id) { append(OdDbObjectIdArray{id}); }
     void append(const OdDbObjectIdArray& ids);
     // Throws eKeyNotFound, and removes nothing, when one of them is no member.
-    void remove(OdDbObjectId id) { remove(OdDbObjectIdArray{id}); }
+    void remove(OdDbObjectId id);
     void remove(const OdDbObjectIdArray& ids);
     void clear();
     // Moves `count` members from position `from` so that the first of them comes to stand at `to`; 0 moves
@@ -49,6 +51,7 @@ public:
 private:
     friend class OdDbGroupOrderChange;
     void contentReplaced() override { cached = false; }
+    const std::unordered_set<const OdDbStub*>& memberSet() const;
     void contentSpliced(std::size_t position, std::size_t removed, std::size_t inserted) override;
     bool joinAppended(std::size_t position, std::size_t inserted);
     bool dropAppended(std::size_t position, std::size_t removed);
@@ -68,5 +71,6 @@ private:
     mutable bool cached = false;
     mutable std::vector<OdDbStub*> members; // null for a handle that leads nowhere
     mutable std::vector<std::size_t> memberTags;
+    mutable std::unordered_set<const OdDbStub*> known; // the members; empty until it is first asked for
 };
 using OdDbGroupPtr = OdSmartPtr<OdDbGroup>;

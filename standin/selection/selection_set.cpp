@@ -1,8 +1,6 @@
 // Keeps the order of adding, and each object once.
 #include "standin/selection/selection_set.h"
 
-#include <algorithm>
-
 ODRX_DEFINE_CLASS(hostSelectionSet, OdRxObject)
 
 OdSmartPtr<hostSelectionSet> hostSelectionSet::createObject(OdDbDatabase*) {
@@ -10,6 +8,11 @@ OdSmartPtr<hostSelectionSet> hostSelectionSet::createObject(OdDbDatabase*) {
 }
 
 void standin::SelectionSet::append(const OdDbObjectId& id) {
-    if (!id.isNull() && std::find(members.begin(), members.end(), id) == members.end())
+    if (!id.isNull() && taken.insert(id).second)
         members.push_back(id);
+}
+
+void standin::SelectionSet::clear() {
+    members.clear();
+    taken.clear();
 }

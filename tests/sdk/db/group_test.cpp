@@ -217,3 +217,19 @@ TEST_F(Groups, EverythingSurvivesSavingAndReading) {
     EXPECT_FALSE(group->isAnonymous());
     EXPECT_EQ(group->numEntities(), 5u);
 }
+
+TEST_F(Groups, RemoveTakesAMemberThatAFileNamesTwice) {
+    std::string text = database->writeBytes();
+    const std::string second = "340\n" + lines[1].getHandle().ascii().toUtf8() + "\n";
+    text.insert(text.find("340\n" + lines[2].getHandle().ascii().toUtf8() + "\n"), second);
+    const OdDbDatabasePtr read = OdDbDatabase::readBytes(text);
+    const auto group = odrxCast<OdDbGroup>(groupsOf(*read)->getAt(L"Walls", OdDb::kForWrite));
+    EXPECT_EQ(group->numEntities(), 6u);
+    const OdDbObjectId twice = read->getOdDbObjectId(lines[1].getHandle());
+    EXPECT_TRUE(group->has(odrxCast<OdDbEntity>(twice.safeOpenObject()).get()));
+    group->remove(twice);
+    EXPECT_EQ(group->numEntities(), 4u);
+    EXPECT_FALSE(group->has(odrxCast<OdDbEntity>(twice.safeOpenObject()).get()));
+    EXPECT_EQ(codeOf([&] { group->remove(twice); }), eKeyNotFound);
+    EXPECT_EQ(read->writeBytes().find(second), std::string::npos);
+}
