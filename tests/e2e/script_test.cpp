@@ -1,39 +1,12 @@
 // The program on its command line: scripts, their exit status, what goes where.
+#include "tests/e2e/script_fixture.h"
+
 #include <QDir>
-#include <QFile>
 #include <QImage>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace {
 
-struct Result {
-    int status;
-    QString out, err;
-};
-
-struct ScriptTest : testing::Test {
-    Result run(QStringList arguments, const QByteArray& input = {}) {
-        QProcess process;
-        process.setWorkingDirectory(folder.path());
-        process.start(QStringLiteral(WORKBENCH_FILE), arguments);
-        process.write(input);
-        process.closeWriteChannel();
-        EXPECT_TRUE(process.waitForFinished(240000));
-        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-                QString::fromLocal8Bit(process.readAllStandardOutput()),
-                QString::fromLocal8Bit(process.readAllStandardError())};
-    }
-    Result play(const QByteArray& script) {
-        QFile file(folder.filePath("test.script"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(script);
-        file.close();
-        return run({"--headless", "--root", folder.filePath("root"), "--script", file.fileName()});
-    }
-    QTemporaryDir folder;
-};
+using ScriptTest = ScriptFixture;
 
 TEST_F(ScriptTest, LinesAnswerTheConsoleInOrder) {
     const Result result = play("SETVAR\nPICKBOX\n9\nPICKBOX\n\n");
