@@ -8,6 +8,7 @@
 #include "standin/params/application.h"
 #include "standin/qt_application/host_application.h"
 #include "standin/registry.h"
+#include "workbench/canvas/preview_writer.h"
 #include "workbench/commands/commands.h"
 #include "workbench/commands/group_commands.h"
 #include "workbench/commands/history_commands.h"
@@ -65,6 +66,7 @@ Workbench::Workbench(const Launch& launchOptions)
     history = std::make_unique<HistoryKeeper>(*documents, io, files, launch.rootDir, setup.io);
     mainWindow = std::make_unique<MainWindow>(io, loop, *documents, styles);
     registry().mainWindow = mainWindow.get();
+    previews = std::make_unique<PreviewWriter>(*documents, mainWindow->drawingArea());
     if (!launch.headless)
         progressDialog = std::make_unique<ProgressDialog>();
     addCommands();
@@ -75,6 +77,7 @@ Workbench::Workbench(const Launch& launchOptions)
 Workbench::~Workbench() {
     player.reset();
     progressDialog.reset();
+    previews.reset();
     mainWindow.reset();
     module.reset();
     registry().help = nullptr;

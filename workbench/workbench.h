@@ -24,6 +24,7 @@ namespace workbench {
 class HistoryKeeper;
 class LoadedModule;
 class MainWindow;
+class PreviewWriter;
 class ProgressDialog;
 class ScriptPlayer;
 
@@ -68,6 +69,7 @@ private:
     Ref<standin::Events> events;
     std::unique_ptr<LoadedModule> module;
     std::unique_ptr<MainWindow> mainWindow;
+    std::unique_ptr<PreviewWriter> previews;
     std::unique_ptr<ProgressDialog> progressDialog; // null when headless
     std::unique_ptr<ScriptPlayer> player;
     QTimer themeCheck;     // runs while a command does

@@ -253,6 +253,6 @@ void OdDbDrawingWriter::emitMissingSections() {
             std::string_view(name) == "BLOCKS" ? emitBlock(*stub) : emitObject(*stub);
         emitTag(0, "ENDSEC");
     }
-    if (impl.newPreview && !previewBegin)
+    if (impl.newPreview && !previewBegin && impl.version >= kVersionR13)
         emitOwned(odDbThumbnailSectionText(*impl.newPreview, impl.carriageReturns, false));
 }

@@ -18,5 +18,6 @@ public:
 // Reads the preview of a drawing in text or binary form. eKeyNotFound when it has none, eInvalidDrawing when
 // the file is not understood up to there.
 OdResult odDbGetPreviewBitmap(OdStreamBuf* stream, OdThumbnailImage* image);
-// Sets the preview that the next save writes. The picture is a bitmap from its info header on.
+// Sets the preview that the next save writes; version R12 has no place for one. The picture is a bitmap from
+// its info header on.
 void odDbPutPreviewBitmap(OdDbDatabase* database, const OdThumbnailImage& image);

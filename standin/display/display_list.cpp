@@ -37,21 +37,19 @@ bool DisplayList::touchesMoreThanItself(const OdDbObjectId& id) const {
     return object->ownerId() != drawing->getModelSpaceId() && object->ownerId() != drawing->getPaperSpaceId();
 }
 
-bool DisplayList::refresh() {
+void DisplayList::refresh() {
     if (stale.empty() && !everything)
-        return false;
+        return;
+    ++changes;
     const std::unordered_set<OdDbObjectId> ids = std::move(stale);
     stale.clear();
     for (auto it = ids.begin(); it != ids.end() && !everything; ++it)
         everything = touchesMoreThanItself(*it);
-    if (everything) {
-        rebuild();
-        return true;
-    }
+    if (everything)
+        return rebuild();
     ItemBuilder builder;
     for (const OdDbObjectId& id : ids)
         update(builder, id);
-    return true;
 }
 
 void DisplayList::rebuild() {

@@ -6,6 +6,7 @@
 #include "standin/display/item_builder.h"
 #include "standin/display/spatial_index.h"
 
+#include <cstdint>
 #include <functional>
 #include <unordered_map>
 #include <unordered_set>
@@ -19,8 +20,10 @@ public:
     DisplayList(const DisplayList&) = delete;
     DisplayList& operator=(const DisplayList&) = delete;
 
-    // Brings the list up to date. True when something is different from before.
-    bool refresh();
+    // Brings the list up to date.
+    void refresh();
+    // Another number after each refresh that changed something, so that a picture knows that it is old.
+    std::uint64_t revision() const { return changes; }
     // The changes of references that are read or unloaded come with no notice of the drawing.
     void forgetAll() { everything = true; }
     const Item* find(const OdDbObjectId& id) const; // null when it isn't shown
@@ -49,6 +52,7 @@ private:
     std::unordered_map<OdDbObjectId, int> places;
     SpatialIndex index;
     std::unordered_set<OdDbObjectId> stale, marked;
+    std::uint64_t changes = 0;
     bool everything = true;
 };
 

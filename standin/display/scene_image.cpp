@@ -35,6 +35,9 @@ const QPixmap& SceneImage::of(const DisplayList& list, const View& view, double 
         image.setDevicePixelRatio(ratio);
         forget();
     }
+    if (paintedRevision != list.revision())
+        forget();
+    paintedRevision = list.revision();
     if (isCurrent && movedTo(list, view))
         return image;
     isCurrent = true;

@@ -16,7 +16,7 @@ QColor contrastOf(const QColor& background);
 class SceneImage {
 public:
     void setBackground(const QColor& color);
-    void forget() { isCurrent = false; } // the drawing is different from before
+    void forget() { isCurrent = false; } // another drawing is shown than before
     // The picture of the view, for a screen of `ratio` device pixels for each pixel. A view that was only
     // moved has its new borders painted alone.
     const QPixmap& of(const DisplayList& list, const View& view, double ratio);
@@ -27,6 +27,7 @@ private:
 
     QPixmap image;
     View painted;
+    std::uint64_t paintedRevision = 0; // of the list
     QColor background = Qt::black;
     bool isCurrent = false;
 };

@@ -67,6 +67,7 @@ Document* DocumentManager::openCopy(const QString& path, const QString& title) {
 
 void DocumentManager::save(Document* document, const QString& path) {
     emit beforeSave(document, path);
+    emit beforeWrite(document, document->database().get());
     document->database()->writeFile(hostqt::odString(path));
     if (document->path() == path)
         return;
@@ -77,6 +78,7 @@ void DocumentManager::save(Document* document, const QString& path) {
 Document* DocumentManager::saveInstead(Document* document, const OdDbDatabasePtr& drawing,
                                        const QString& path) {
     emit beforeSave(document, path);
+    emit beforeWrite(document, drawing.get());
     drawing->writeFile(hostqt::odString(path));
     Document* opened = openFile(path);
     close(document);

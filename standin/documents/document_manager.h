@@ -42,6 +42,8 @@ signals:
     void documentOpened(standin::Document* document); // from a file; it is the current one by now
     // The file, if there is one, still is as it was before.
     void beforeSave(standin::Document* document, const QString& path);
+    // After that. `drawing` is what is written: the document's, or the one that takes its place.
+    void beforeWrite(standin::Document* document, OdDbDatabase* drawing);
     void documentRenamed(); // it was saved under another name
     void documentClosed(const QString& title);
 

@@ -100,6 +100,15 @@ std::unique_ptr<Sheet> Canvas::makeSheet(Document& document) {
     return made;
 }
 
+const DisplayList* Canvas::listOf(const OdDbDatabase& drawing) {
+    const Document* document = documents.documentOf(&drawing);
+    const auto found = sheets.find(document);
+    if (found == sheets.end())
+        return nullptr;
+    found->second->list.refresh();
+    return &found->second->list;
+}
+
 void Canvas::forgetClosed() {
     const std::vector<Document*> open = documents.all();
     for (auto it = sheets.begin(); it != sheets.end();)

@@ -40,6 +40,8 @@ public:
     void refresh();           // something was highlighted, selected or changed
     void referencesChanged(); // other drawings are shown in the current one than before
     void escape();            // gives up a window that is being drawn, else the selection
+    // What is shown of the drawing, up to date; null when it was never the current one.
+    const standin::DisplayList* listOf(const OdDbDatabase& drawing);
     const standin::View* view() const { return sheet ? &sheet->view() : nullptr; }
 
 signals:

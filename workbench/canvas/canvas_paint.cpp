@@ -36,8 +36,7 @@ void Canvas::paintEvent(QPaintEvent*) {
         painter.fillRect(rect(), background);
         return paintWelcome(painter);
     }
-    if (sheet->list.refresh())
-        scene.forget();
+    sheet->list.refresh();
     painter.drawPixmap(0, 0, scene.of(sheet->list, sheet->view(), devicePixelRatioF()));
     paintMarks(painter);
     const OpenPrompt* prompt = pointPrompt();

@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
 """Makes the sample drawings house.dxf and part.dxf beside this file; the same bytes every time.
 
-With the workbench as argument it makes site.dxf, too, to which the workbench attaches the other two: it plays
-site.script in a folder of its own, so that the relative paths hold wherever the samples lie.
+With the workbench as argument it makes site.dxf, too, to which the workbench attaches the other two, and puts the
+preview pictures into all of them. The workbench plays scripts in a folder of its own, so that the relative paths hold
+wherever the samples lie.
 """
 
+import os
 import pathlib
 import re
 import shutil
@@ -19,16 +21,33 @@ import site_plan
 FOLDER = pathlib.Path(__file__).resolve().parent
 
 
+def play(workbench, into, script, **names):
+    text = (FOLDER / script).read_text()
+    for name, value in names.items():
+        text = text.replace("{" + name + "}", str(value))
+    (into / script).write_text(text)
+    subprocess.run([workbench, "--headless", "--root", into / "root", "--script", into / script], check=True)
+
+
+def add_preview(workbench, path):
+    """Takes the preview from a changed copy that the workbench saves; all else stays as it is."""
+    with tempfile.TemporaryDirectory() as holder:
+        folder = pathlib.Path(holder)
+        copy = pathlib.Path(shutil.copy(path, folder))
+        play(workbench, folder, "preview.script", file=copy)
+        preview = re.search(r"  0\nSECTION\n  2\nTHUMBNAILIMAGE\n.*?\n  0\nENDSEC\n", copy.read_text(), re.DOTALL)
+    text = path.read_text()
+    end = text.rindex("  0\nEOF\n")
+    path.write_text(text[:end] + preview.group() + text[end:])
+
+
 def make_site(workbench):
     with tempfile.TemporaryDirectory() as holder:
         folder = pathlib.Path(holder)
         for name in ("house.dxf", "part.dxf"):
             shutil.copy(FOLDER / name, folder)
         site_plan.make().saveas(folder / "site.dxf")
-        script = (FOLDER / "site.script").read_text().replace("{folder}", str(folder))
-        (folder / "site.script").write_text(script)
-        subprocess.run([workbench, "--headless", "--root", folder / "root", "--script", folder / "site.script"],
-                       check=True)
+        play(workbench, folder, "site.script", folder=folder)
         (FOLDER / "site.dxf").write_text(without_user((folder / "site.dxf").read_text()))
 
 
@@ -38,7 +57,11 @@ def without_user(text):
 
 
 if __name__ == "__main__":
+    if os.environ.get("PYTHONHASHSEED") != "0":  # the order of sets goes into the files
+        os.execve(sys.executable, [sys.executable, *sys.argv], {**os.environ, "PYTHONHASHSEED": "0"})
     house.make().saveas(FOLDER / "house.dxf")
     part.make().saveas(FOLDER / "part.dxf")
     if len(sys.argv) > 1:
+        add_preview(sys.argv[1], FOLDER / "house.dxf")
+        add_preview(sys.argv[1], FOLDER / "part.dxf")
         make_site(sys.argv[1])
