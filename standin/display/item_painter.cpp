@@ -18,6 +18,15 @@ const int mostWaiting = 4096;
 const double kNameBorder = 5;    // pixels around the name of a missing reference
 const double finestHatching = 3; // pixels between the lines of a pattern; below it they are a shade
 const int shadeAlpha = 70;
+const double mostCrossings = 3e6; // of borders with rows of pixels; filling takes longer with each of them
+
+// How far the polygon goes up and down in all.
+double heightsOf(const QPolygonF& polygon) {
+    double sum = 0;
+    for (int i = 1; i < polygon.size(); ++i)
+        sum += std::fabs(polygon[i].y() - polygon[i - 1].y());
+    return sum;
+}
 
 } // namespace
 
@@ -114,11 +123,15 @@ void ItemPainter::addLine(const QPointF& a, const QPointF& b, Dasher* dasher) {
         lines.append(QLineF(from, to));
 }
 
+void ItemPainter::drawOutline(const Shape& fill) {
+    for (const std::vector<QPointF>& border : bordersOf(fill))
+        drawRun(border, nullptr);
+}
+
 // What is marked has an outline instead, so that what lies upon it is still seen.
 void ItemPainter::drawFill(const Shape& fill) {
     if (hasOwnPen) {
-        for (const std::vector<QPointF>& border : bordersOf(fill))
-            drawRun(border, nullptr);
+        drawOutline(fill);
     } else if (fill.area && !fill.area->hatching.empty() &&
                fill.area->finest * shownView.scale() >= finestHatching) {
         for (const QLineF& line : fill.area->hatching)
@@ -133,12 +146,18 @@ void ItemPainter::paintFill(const Shape& fill) {
     flush();
     QPainterPath path;
     path.setFillRule(fill.area ? fill.area->rule : Qt::OddEvenFill);
+    double crossings = 0;
     for (const std::vector<QPointF>& border : bordersOf(fill)) {
         QPolygonF corners;
         for (const QPointF& point : border)
             corners.append(shownView.toPixel(point));
-        path.addPolygon(clip.contains(corners.boundingRect()) ? corners : clippedPolygon(clip, corners));
+        if (!clip.contains(corners.boundingRect()))
+            corners = clippedPolygon(clip, corners);
+        crossings += heightsOf(corners);
+        path.addPolygon(corners);
     }
+    if (crossings > mostCrossings)
+        return drawOutline(fill);
     const bool isSolid = !fill.area || fill.area->isSolid;
     QColor color = colorOf(fill.ink);
     if (!isSolid)

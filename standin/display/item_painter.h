@@ -28,6 +28,7 @@ private:
     void drawRun(const std::vector<QPointF>& points, const Dashes& dashes);
     void addLine(const QPointF& a, const QPointF& b, Dasher* dasher);
     void drawFill(const Shape& fill);
+    void drawOutline(const Shape& fill);
     void paintFill(const Shape& fill);
     QColor colorOf(Ink ink) const;
     void use(Ink ink);

@@ -18,11 +18,13 @@ namespace standin {
 
 namespace {
 
-const std::size_t smoothPoints = 800; // of a spline; a short one is smooth when it is large, too
-
+// Of a short spline so many that it is smooth when it is large, too; of an endless one no more than can be
+// handled.
 std::vector<OdGePoint3d> pathOf(const OdDbSpline& spline) {
     const std::size_t spans = std::max<std::size_t>(spline.curve().controls.size(), 1);
-    return spline.path(static_cast<int>(std::clamp<std::size_t>(smoothPoints / spans, 12, 48)));
+    const std::size_t pieces = std::clamp<std::size_t>(800 / spans, 12, 48);
+    const std::size_t most = std::max<std::size_t>(100000 / spans, 2);
+    return spline.path(static_cast<int>(std::min(pieces, most)));
 }
 
 double sweepOf(double start, double end) {

@@ -306,6 +306,37 @@ TEST(AreaDisplay, WidthsOfWhichNothingCanBeMadeLeaveTheLine) {
     }
 }
 
+// A square whose left side goes up and down through the whole picture so many times.
+std::string tangle(int sides) {
+    std::string corners;
+    for (int i = 0; i < sides; ++i)
+        corners += point(10, 10.0 * i / sides, i % 2 == 0 ? 0 : 1000);
+    return hatch("92\n2\n72\n0\n73\n1\n93\n1\n" + corners + point(10, 1000, 1000) + point(10, 1000, 0) +
+                     "97\n0\n",
+                 true);
+}
+
+TEST(AreaDisplay, ATangleThatWouldTakeTooLongToFillIsItsOutline) {
+    const Box all{0, 0, 1000, 1000};
+    EXPECT_EQ(Screen(Drawing(tangle(400)), all).at(500, 500), QColor(Qt::white));
+    const Screen outline(Drawing(tangle(40000)), all);
+    EXPECT_EQ(outline.at(500, 500), QColor(Qt::black));
+    EXPECT_GT(outline.grey(5, 500), 100);
+}
+
+TEST(AreaDisplay, AnEndlessSplineHasNoMorePointsThanCanBeHandled) {
+    const int controls = 100000;
+    std::string text = head("SPLINE", "AcDbSpline") + "70\n0\n71\n15\n";
+    for (int i = 0; i < controls + 16; ++i)
+        text += "40\n" + std::to_string(i) + "\n";
+    for (int i = 0; i < controls; ++i)
+        text += point(10, i, i % 100);
+    const Drawing drawing(text);
+    ASSERT_EQ(drawing.items.size(), 1u);
+    EXPECT_GT(drawing.shape().points.size(), 100000u);
+    EXPECT_LT(drawing.shape().points.size(), 300000u);
+}
+
 TEST(AreaDisplay, PatternsOfManyLinesAreBoundedForTheDrawingAsAWhole) {
     const std::string fine = hatch(square(0, 10), false, "78\n1\n" + family(0, 0, 0, 0.001));
     std::string all;
