@@ -95,6 +95,9 @@ TEST_F(AttachTest, ToolBarAttaches) {
     const auto found = std::find_if(buttons.begin(), buttons.end(), isAttach);
     ASSERT_NE(found, buttons.end());
     EXPECT_FALSE((*found)->icon().isNull());
+    play(
+        {[found] { (*found)->trigger(); }, choosing(write("part.dxf")), clicking("okButton"), typing("3,4")});
+    EXPECT_FALSE(block(L"part").isNull());
 }
 
 TEST_F(AttachTest, RelativePathOfASavedDrawingIsKept) {

@@ -3,7 +3,7 @@
 import collections
 import json
 import pathlib
-import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -50,6 +50,16 @@ def complaints(doc):
 
 def kinds(doc):
     return collections.Counter(entity.dxftype() for entity in doc.modelspace())
+
+
+def lasting_tags(path):
+    """All but the times of saving and editing, and the preview, whose letters depend on the fonts at hand."""
+    tags, lasting = raw_tags(path, "utf8"), []
+    for i, tag in enumerate(tags):
+        if tag[0] == 310 or tags[i - 1][1].startswith("$TD"):
+            continue
+        lasting.append(tag)
+    return lasting
 
 
 class Examples(unittest.TestCase):
@@ -104,13 +114,22 @@ class Examples(unittest.TestCase):
                 self.assertEqual({e.dxf.handle for e in doc.groups.get("MADE")},
                                  {e.dxf.handle for e in before.modelspace()})
                 self.assertEqual(complaints(doc) - complaints(before), collections.Counter())
-                lost = collections.Counter(raw_tags(path, "utf8")) - collections.Counter(raw_tags(redone, "utf8"))
+                lost = collections.Counter(lasting_tags(path)) - collections.Counter(lasting_tags(redone))
                 self.assertLessEqual(sum(lost.values()), 12, lost)
 
     def test_the_samples_are_without_fault(self):
         for path in SAMPLES:
             with self.subTest(path.name):
                 self.assertEqual(complaints(ezdxf.readfile(path)), collections.Counter())
+
+    def test_the_samples_are_what_their_scripts_make(self):
+        scripts = self.folder / "samples"
+        shutil.copytree(SAMPLES[0].parent, scripts, ignore=shutil.ignore_patterns("*.dxf"))
+        done = subprocess.run([sys.executable, scripts / "make_samples.py", WORKBENCH], capture_output=True, text=True)
+        self.assertEqual(done.returncode, 0, done.stdout + done.stderr)
+        for path in SAMPLES:
+            with self.subTest(path.name):
+                self.assertEqual(lasting_tags(scripts / path.name), lasting_tags(path))
 
     def test_librecad_draws_as_much_of_a_grouped_sample_as_before(self):
         for path in SAMPLES[:2]:
