@@ -42,6 +42,15 @@ QString withSuffix(const QString& path) {
     return QFileInfo(path).suffix().isEmpty() ? path + QStringLiteral(".dxf") : path;
 }
 
+bool isYesInBox(const QString& name, const QString& title, const QString& text) {
+    QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Yes | QMessageBox::No,
+                    host_qt_ui_core::parentForDialog());
+    box.setObjectName(name);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
 } // namespace
 
 bool FileQuestions::dialogsAreOff() {
@@ -78,7 +87,7 @@ std::optional<QString> FileQuestions::fileToSave(const QString& suggested, const
     if (!asksOnConsole()) {
         const QString chosen = QFileDialog::getSaveFileName(host_qt_ui_core::parentForDialog(),
                                                             tr("Save drawing as"), suggested, filter());
-        return chosen.isEmpty() ? std::nullopt : std::optional<QString>(withSuffix(absolutePath(chosen)));
+        return chosen.isEmpty() ? std::nullopt : chosenToSave(absolutePath(chosen), own);
     }
     const auto typed = typedName(tr("Enter file name to save as <%1>:").arg(suggested));
     if (!typed)
@@ -88,7 +97,17 @@ std::optional<QString> FileQuestions::fileToSave(const QString& suggested, const
     return free || mayReplace(path) ? std::optional<QString>(path) : std::nullopt;
 }
 
+// The dialog has asked about the name as it was typed, without the ending.
+std::optional<QString> FileQuestions::chosenToSave(const QString& chosen, const QString& own) const {
+    const QString path = withSuffix(chosen);
+    const bool settled = path == chosen || path == own || !QFileInfo::exists(path);
+    return settled || mayReplace(path) ? std::optional<QString>(path) : std::nullopt;
+}
+
 bool FileQuestions::mayReplace(const QString& path) const {
+    if (!asksOnConsole())
+        return isYesInBox(QStringLiteral("replaceBox"), tr("File exists"),
+                          tr("%1 exists already. Replace it?").arg(path));
     return isYesOnConsole(tr("%1 exists already. Replace it? [%2] <No>:").arg(path, QStringLiteral("%s")));
 }
 
@@ -100,13 +119,8 @@ bool FileQuestions::mayOverwriteChanged(const QString& path) const {
     if (asksOnConsole())
         return isYesOnConsole(tr("%1 was changed by another program since it was read. Overwrite? [%2] <No>:")
                                   .arg(path, QStringLiteral("%s")));
-    QMessageBox box(QMessageBox::Warning, tr("File changed by another program"),
-                    tr("%1 was changed by another program since it was read. Overwrite?").arg(path),
-                    QMessageBox::Yes | QMessageBox::No, host_qt_ui_core::parentForDialog());
-    box.setObjectName(QStringLiteral("overwriteBox"));
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes;
+    return isYesInBox(QStringLiteral("overwriteBox"), tr("File changed by another program"),
+                      tr("%1 was changed by another program since it was read. Overwrite?").arg(path));
 }
 
 bool FileQuestions::mayMakeNewer(const QString& drawing, const QStringList& leftOut) const {

@@ -35,6 +35,7 @@ public:
 private:
     Unsaved whatOfChangesByDialog(const QString& drawing) const;
     std::optional<QString> typedName(const QString& prompt) const;
+    std::optional<QString> chosenToSave(const QString& chosen, const QString& own) const;
     bool mayReplace(const QString& path) const;
     bool isYesOnConsole(const QString& prompt) const;
 
