@@ -98,6 +98,15 @@ TEST_F(SelectionTest, SetHoldsEachObjectOnce) {
     EXPECT_EQ(set->count(), 1);
     set->clear();
     EXPECT_EQ(set->count(), 0);
+    set->append(lines[0]);
+    EXPECT_EQ(set->count(), 1);
+}
+
+TEST_F(SelectionTest, RemoveAndAddSwitchWhatIsTaken) {
+    const QByteArray handle = hostqt::qString(lines[1].getHandle().ascii()).toLatin1();
+    type({"all", "Remove", handle.constData(), "L", "Add", handle.constData(), ""});
+    EXPECT_EQ(select(), kInputPicked);
+    EXPECT_EQ(selected(), OdDbObjectIdArray({lines[0], lines[1]}));
 }
 
 } // namespace
