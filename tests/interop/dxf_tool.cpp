@@ -94,6 +94,15 @@ QJsonArray reportCustom(OdDbDatabase& database) {
     return result;
 }
 
+QJsonArray reportViewports(OdDbDatabase& database) {
+    QJsonArray numbers;
+    const auto paper = odrxCast<OdDbBlockTableRecord>(database.getPaperSpaceId().safeOpenObject());
+    for (OdDbObjectIterator it = paper->newIterator(); !it.done(); it.step())
+        if (const auto viewport = odrxQuery<OdDbViewport>(it.entity().get()); !viewport.isNull())
+            numbers.append(viewport->number());
+    return numbers;
+}
+
 QJsonArray reportLayers(OdDbDatabase& database) {
     QJsonArray result;
     const auto table = odrxCast<OdDbLayerTable>(database.getLayerTableId().safeOpenObject());
@@ -108,17 +117,13 @@ void report(OdDbDatabase& database) {
     for (const OdString& warning : database.readWarnings())
         warnings.append(qt(warning));
     const auto info = oddbGetSummaryInfo(&database);
-    const QJsonObject all{{"version", qt(database.versionName())},
-                          {"entities", reportEntities(database)},
-                          {"texts", reportTexts(database)},
-                          {"groups", reportGroups(database)},
-                          {"blocks", reportBlocks(database)},
-                          {"layers", reportLayers(database)},
-                          {"title", qt(info->getTitle())},
-                          {"custom", reportCustom(database)},
-                          {"warnings", warnings},
-                          {"extmin", jsonPoint(extents.minPoint())},
-                          {"extmax", jsonPoint(extents.maxPoint())}};
+    const QJsonObject all{
+        {"version", qt(database.versionName())},   {"entities", reportEntities(database)},
+        {"texts", reportTexts(database)},          {"groups", reportGroups(database)},
+        {"blocks", reportBlocks(database)},        {"layers", reportLayers(database)},
+        {"viewports", reportViewports(database)},  {"title", qt(info->getTitle())},
+        {"custom", reportCustom(database)},        {"warnings", warnings},
+        {"extmin", jsonPoint(extents.minPoint())}, {"extmax", jsonPoint(extents.maxPoint())}};
     std::puts(QJsonDocument(all).toJson().constData());
 }
 

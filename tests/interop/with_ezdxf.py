@@ -82,6 +82,16 @@ class WithEzdxf(unittest.TestCase):
                 if version >= "R2004":
                     self.assertEqual([["Projekt", "Haus am See"], ["Projekt", "zweimal"]], found["custom"])
 
+    def test_viewports_have_their_numbers(self):
+        for version in VERSIONS[1:]:
+            with self.subTest(version):
+                doc, path = build(version), self.path / "viewports.dxf"
+                doc.layout("Layout1").reset_main_viewport()
+                doc.saveas(path)
+                viewports = ezdxf.readfile(path).layout("Layout1").query("VIEWPORT")
+                self.assertEqual(2, len({viewport.dxf.id for viewport in viewports}))
+                self.assertEqual([viewport.dxf.id for viewport in viewports], report(path)["viewports"])
+
     def test_code_pages_of_old_files_are_read_and_written(self):
         # Some of these characters end in the byte of a backslash.
         texts = {"cp1250": "Žluťoučký", "cp1251": "Кухня", "cp1253": "Κουζίνα", "cp932": "台所の表", "gbk": "厨房",
