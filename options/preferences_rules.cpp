@@ -24,7 +24,7 @@ QTreeWidgetItem* lastOpenItem(QTreeWidgetItem* item) {
 
 } // namespace
 
-// Calls the base of QDialog on purpose: QDialog's own would choose the widget that gets the focus.
+// Calls the base of QDialog on purpose: QDialog's own would move the dialog over its parent.
 void Preferences::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     focusOkButton();

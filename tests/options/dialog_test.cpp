@@ -163,6 +163,23 @@ TEST_F(OptionsDialog, GivesOkTheFocusAndTheDefaultWhenItOpens) {
     EXPECT_EQ(dialog.focusWidget(), dialog.okButton);
 }
 
+TEST_F(OptionsDialog, IsNotMovedOverItsParentWhenItOpensAsOtherDialogsAre) {
+    optionTree(host);
+    QWidget parent;
+    parent.setGeometry(350, 300, 400, 300);
+    parent.show();
+    QDialog usual(&parent);
+    usual.setMinimumSize(700, 650);
+    Preferences dialog(&parent);
+    const QPoint before = dialog.pos();
+    for (QDialog* shown : {&usual, static_cast<QDialog*>(&dialog)}) {
+        shown->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(shown));
+    }
+    EXPECT_NE(usual.pos(), before);
+    EXPECT_EQ(dialog.pos(), before);
+}
+
 TEST_F(OptionsDialog, ShowsDefaultForAMissingConfiguration) {
     OpenDialog dialog;
     EXPECT_EQ(dialog.control<QLabel>("configurationLabel")->text(), "Current configuration:");
