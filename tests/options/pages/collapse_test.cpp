@@ -190,6 +190,19 @@ TEST_F(Collapse, EndOfTheSearchTakesExpandAway) {
     EXPECT_TRUE(collapseVisible());
 }
 
+// A search box that tells how many listen to the end of its searches.
+struct ListenedBox : SearchingLineEdit {
+    using SearchingLineEdit::SearchingLineEdit;
+    int listeners() const { return receivers(SIGNAL(searchFinished())); }
+};
+
+TEST_F(Collapse, ListensTwiceToTheEndOfASearch) {
+    ListenedBox box(window.tree, window.description, &window, "green", "white");
+    const int before = box.listeners();
+    const CollapseWidget collapse(window.tree, &box, &window);
+    EXPECT_EQ(box.listeners() - before, 2);
+}
+
 TEST(CollapseOfAnEmptyTree, DisablesNothingAndBearsAClick) {
     FixtureHost host;
     OptionWindow window(OptionWindow::WithoutRoot);
