@@ -349,11 +349,24 @@ class Check:
                 self.faults.append(f"more than one row with ID 0x{wanted:X}")
         if not self.walk.transparent or not self.walk.hidden:
             self.faults.append("no transparent or no hidden row")
+        self.check_features()
         if not 150 <= len(self.options()) <= 250:
             self.faults.append(f"{len(self.options())} options instead of 150 to 250")
         groups = sum(1 for row in self.walk.rows if row.parent_item == 0)
         if not 8 <= groups <= 12:
             self.faults.append(f"{groups} groups instead of 8 to 12")
+
+    def check_features(self):
+        """Each thing that a row can be told is shown by at least one option."""
+        options = [row.node for row in self.options()]
+        texts = [node["Default"] for node in options if isinstance(node.get("Default"), Wide)]
+        shown = {"a unit": any(">" in node["Name"] for node in options),
+                 "the folder %HISTORY%": "%HISTORY%" in texts,
+                 "an environment variable": any(re.search("%(?!HISTORY%)[^%]+%", text) for text in texts)}
+        shown.update({f"an own {key}": any(key in node for node in options) for key in ("Limits", "Step", "mask", "sysvar")})
+        shown.update({f"an inherited {key}": any(not text(node, key) for node in options if not node.get("sysvar"))
+                      for key in ("Key", "Section", "IFace")})
+        self.faults += [f"no option has {feature}" for feature, found in shown.items() if not found]
 
 
 def save_format_names(formats):

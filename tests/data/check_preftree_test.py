@@ -121,6 +121,10 @@ class BrokenTree(unittest.TestCase):
     def test_unknown_icon(self):
         self.assertIn("not in the icon table", self.faults_after("Undo", Image=19))
 
+    def test_environment_variables_are_shown(self):
+        self.assertIn("no option has the folder %HISTORY%",
+                      self.faults_after("SaveAutoDir", Default=Wide("")))
+
     def test_too_few_options(self):
         tree = copy.deepcopy(TREE)
         del tree["Drafting"], tree["Display"], tree["Select"]
