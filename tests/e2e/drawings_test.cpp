@@ -85,6 +85,13 @@ TEST_F(DrawingsTest, SaveAsTakesANameAndAsksBeforeItReplaces) {
     EXPECT_EQ(linesIn(path), 3);
 }
 
+TEST_F(DrawingsTest, SaveAsRefusesAFileThatIsOpenInAnotherTab) {
+    enter({"NEW", "SAVEAS", qPrintable(path), "Yes"});
+    EXPECT_EQ(lastLine(), "SAVEAS: " + path + " is open in another tab: close it first.");
+    EXPECT_EQ(linesIn(path), 4);
+    EXPECT_EQ(title(), "Drawing2 - Workbench");
+}
+
 TEST_F(DrawingsTest, SaveAsksOnTheConsoleBeforeItOverwritesTheWorkOfAnotherProgram) {
     eraseFirstLine();
     changeByAnotherProgram();

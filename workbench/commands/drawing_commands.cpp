@@ -78,6 +78,9 @@ bool writeNewer(DocumentManager& documents, Document& document, const QString& p
 }
 
 bool write(DocumentManager& documents, Document& document, const QString& path, const FileQuestions& files) {
+    const Document* holder = documents.documentOfFile(path);
+    if (holder && holder != &document)
+        throw OdError(tr("%1 is open in another tab: close it first.").arg(path).toStdWString());
     if (!mayWrite(document, path, files))
         return false;
     if (odDbNeedsNewerVersion(*document.database()))
