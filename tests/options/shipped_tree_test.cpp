@@ -66,10 +66,9 @@ protected:
     }
 };
 
-TEST_F(ShippedTreeTest, HasBetween150And250OptionsIn8To12GroupsAndEveryKindOfRow) {
+TEST_F(ShippedTreeTest, HasAtLeast150OptionsIn8To12GroupsAndEveryKindOfRow) {
     open();
     EXPECT_GE(options().size(), 150u);
-    EXPECT_LE(options().size(), 250u);
     const int groups = dialog->tree->topLevelItem(0)->childCount();
     EXPECT_GE(groups, 8);
     EXPECT_LE(groups, 12);
