@@ -295,7 +295,11 @@ TEST_F(Apply, ARowThatCannotBeWrittenDoesNotStopTheOthers) {
 TEST_F(Apply, AnExceptionOfTheHostPassesAndLeavesNoReference) {
     node("Int").type(L"EditInt").profile("S", "Int").set("Default", 3);
     open();
-    const auto count = [this] { return host.profile().AddRef() - 1 + 0 * host.profile().Release(); };
+    const auto count = [this] {
+        const auto withOurs = host.profile().AddRef();
+        host.profile().Release();
+        return withOurs - 1;
+    };
     const auto before = count();
     host.rules(host.profile()).mayChange = [](auto&&...) -> bool { throw std::runtime_error("disk"); };
     EXPECT_THROW(dialog->applyChanges(), std::runtime_error);
