@@ -19,7 +19,7 @@ namespace {
 
 QString tr(const char* text) { return QCoreApplication::translate("FileQuestions", text); }
 
-QString filter() { return tr("Drawings (*.dxf *.dwg);;All files (*)"); }
+QString filter() { return tr("Drawings (*.dxf);;All files (*)"); }
 
 // A name that was copied with its quotes is the name without them.
 QString withoutQuotes(QString name) {
