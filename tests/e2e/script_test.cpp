@@ -121,6 +121,26 @@ TEST_F(ScriptTest, DemoRunsThroughAndLeavesItsScreenshots) {
     EXPECT_GT(pictures, 10);
 }
 
+TEST_F(ScriptTest, ScriptOfTheGuideMakesThePicturesThatItShows) {
+    const QDir home(folder.path()), samples(QStringLiteral(SHIPPED_DATA_DIR "/samples"));
+    ASSERT_TRUE(home.mkdir("drawings"));
+    for (const QString& name : samples.entryList({"*.dxf"}))
+        ASSERT_TRUE(QFile::copy(samples.filePath(name), home.filePath("drawings/" + name)));
+    QFile script(QStringLiteral(SHIPPED_DOCS_DIR "/pictures.script"));
+    ASSERT_TRUE(script.open(QIODevice::ReadOnly));
+    const Result result = play(script.readAll().replace("/home/user", home.path().toLocal8Bit()));
+    EXPECT_EQ(result.status, 0) << result.err.toStdString();
+    const QDir shown(QStringLiteral(SHIPPED_DOCS_DIR "/images"));
+    EXPECT_EQ(home.entryList({"*.png"}), shown.entryList({"*.png"}));
+    for (const QString& name : home.entryList({"*.png"})) {
+        const QImage made(home.filePath(name));
+        EXPECT_FALSE(made.isNull()) << name.toStdString();
+        if (name.startsWith("xattach-"))
+            continue; // this dialog is as large as the letters of the machine make it
+        EXPECT_EQ(made.size(), QImage(shown.filePath(name)).size()) << name.toStdString();
+    }
+}
+
 TEST_F(ScriptTest, HelpIsPrinted) {
     const Result result = run({"--help"});
     EXPECT_EQ(result.status, 0);
