@@ -33,7 +33,7 @@ template <class T> Ref<T> made(T* object) { return Ref<T>::share(object); }
 // `wholeDepth` as in StoreFiles.
 StoreFiles storeFiles(const ApplicationSetup& setup, const char* name, int wholeDepth) {
     const QString fileName = QLatin1Char('/') + QString::fromLatin1(name) + QStringLiteral(".yaml");
-    return {setup.dataDir + fileName, setup.rootDir + fileName, wholeDepth};
+    return {setup.dataDir + fileName, setup.rootDir + fileName, wholeDepth, {}};
 }
 
 // The option tree: what can be read of it serves, and nobody changes it.
@@ -59,7 +59,7 @@ Ref<ParamOf<IConfigParam>> loadConfig(const ApplicationSetup& setup) {
 
 Ref<FileProfile> openOwnProfile(const ApplicationSetup& setup) {
     const QString shipped = setup.dataDir + QStringLiteral("/profile_defaults.yaml");
-    setProfileDefaults({QFileInfo::exists(shipped) ? shipped : QString(), setup.io});
+    setProfileDefaults({QFileInfo::exists(shipped) ? shipped : QString(), setup.io, setup.remembered});
     return openProfile(setup.rootDir);
 }
 

@@ -9,10 +9,14 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QTimer>
+#include <algorithm>
 
 namespace standin {
 
 namespace {
+
+const int longestValue = 80; // characters of a value that is told
+const int mostLines = 10;    // values that are told one by one
 
 QByteArray bytesOf(const Section& section) { return QByteArray::fromStdString(writeYaml(section)); }
 
@@ -24,6 +28,51 @@ QString lockReason(const QLockFile& lock) {
     if (lock.error() == QLockFile::LockFailedError)
         return FileStore::tr("another program is writing it");
     return FileStore::tr("its folder cannot be written");
+}
+
+// A path is in a section when it is the section's own or goes on below it.
+bool isIn(const std::string& path, const std::string& section) {
+    return path.compare(0, section.size(), section) == 0 &&
+           (path.size() == section.size() || path[section.size()] == '/');
+}
+
+// What a user misses of the other's changes.
+std::vector<Overruled> missed(std::vector<Overruled> overruled, const std::vector<std::string>& remembered) {
+    const auto isRemembered = [&remembered](const Overruled& change) {
+        return std::any_of(remembered.begin(), remembered.end(),
+                           [&change](const std::string& section) { return isIn(change.path, section); });
+    };
+    overruled.erase(std::remove_if(overruled.begin(), overruled.end(), isRemembered), overruled.end());
+    return overruled;
+}
+
+// Without the tag of its type, and cut when it is long: the whole of it is in the copy.
+QString shown(const std::string& value) {
+    QString text = QString::fromStdString(value);
+    if (text.startsWith(QLatin1Char('!')))
+        text.remove(0, text.indexOf(QLatin1Char(' ')) + 1);
+    return text.size() > longestValue ? text.left(longestValue) + QStringLiteral("...") : text;
+}
+
+QString lineOf(const Overruled& change) {
+    const QString path = QString::fromStdString(change.path);
+    if (!change.value)
+        return FileStore::tr("%1 (removed)").arg(path);
+    return change.whole ? FileStore::tr("%1 (all of it)").arg(path)
+                        : FileStore::tr("%1: %2").arg(path, shown(*change.value));
+}
+
+QString listOf(const std::vector<Overruled>& changes) {
+    QStringList lines;
+    for (const Overruled& change : changes)
+        if (!change.path.empty() && lines.size() < mostLines)
+            lines << lineOf(change);
+    if (lines.isEmpty())
+        return {};
+    if (int(changes.size()) > mostLines)
+        lines << FileStore::tr("... and %1 more").arg(int(changes.size()) - mostLines);
+    return QLatin1Char('\n') + FileStore::tr("You have changed the same; yours now stand in place of these:") +
+           QLatin1Char('\n') + lines.join(QLatin1Char('\n'));
 }
 
 } // namespace
@@ -143,12 +192,15 @@ bool FileStore::keepBroken(const QByteArray& bytes, QString& reason) {
 bool FileStore::mergeOthers(const QByteArray& bytes, QString& reason) {
     const YamlResult theirs = parsed(bytes, files.user);
     const YamlResult before = parsed(base, files.user);
-    if (mergeInto(root, before.tree->section(), theirs.tree->section(), files.wholeDepth) == 0)
+    const auto lost = missed(
+        mergeInto(root, before.tree->section(), theirs.tree->section(), files.wholeDepth), files.remembered);
+    if (lost.empty())
         return true;
     const QString copy = keepBeside(files.user, QStringLiteral("other"), bytes, reason);
     if (!copy.isEmpty())
         io.report(tr("Another program has changed %1 too. Its version is kept as %2.")
-                      .arg(QDir::toNativeSeparators(files.user), QDir::toNativeSeparators(copy)));
+                      .arg(QDir::toNativeSeparators(files.user), QDir::toNativeSeparators(copy)) +
+                  listOf(lost));
     return !copy.isEmpty();
 }
 

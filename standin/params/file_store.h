@@ -6,6 +6,8 @@
 #include "standin/params/store_io.h"
 
 #include <QObject>
+#include <string>
+#include <vector>
 
 namespace standin {
 
@@ -13,12 +15,15 @@ struct StoreFiles {
     QString shipped;    // read-only; serves while the user has no file, or a broken one; may be empty
     QString user;       // the whole tree, once the user has changed anything
     int wholeDepth = 0; // for merging with another process: see mergeInto
+    // Paths of sections and values where programs remember by themselves how they looked. What one of two
+    // processes remembers gives way to the other's and nobody is told.
+    std::vector<std::string> remembered = {};
 };
 
 // The tree is loaded by the constructor. Faults of the files and failed writes go to StoreIo::reportProblem;
 // a failed write is tried again with the next change and at the end. A user's file that is broken is copied
-// beside as "name.broken-<n>" before it is first overwritten; a version of another process that could not be
-// merged is copied as "name.other-<n>".
+// beside as "name.broken-<n>" before it is first overwritten; a version of another process of which not
+// everything could be merged is copied as "name.other-<n>", and what gave way is told.
 class FileStore : public QObject {
     Q_OBJECT
 public:

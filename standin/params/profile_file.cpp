@@ -26,7 +26,8 @@ std::map<QString, SharedProfile*>& openProfiles() {
 
 StoreFiles filesBelow(const QString& root) {
     const int everyValueByItself = 1000000;
-    return {profileDefaults().shipped, root + QStringLiteral("/profile.yaml"), everyValueByItself};
+    return {profileDefaults().shipped, root + QStringLiteral("/profile.yaml"), everyValueByItself,
+            profileDefaults().remembered};
 }
 
 class SharedProfile : public FileProfile {

@@ -7,11 +7,12 @@ namespace standin {
 
 using FileProfile = InFile<ParamOf<IProfile>>;
 
-// What every profile that is opened from now on starts with: the shipped default (may be empty) and how files
-// are accessed.
+// What every profile that is opened from now on starts with: the shipped default (may be empty), how files
+// are accessed, and what is remembered as in StoreFiles.
 struct ProfileDefaults {
     QString shipped;
     StoreIo io;
+    std::vector<std::string> remembered = {};
 };
 void setProfileDefaults(ProfileDefaults defaults);
 

@@ -42,14 +42,31 @@ template <class Entries> std::vector<std::string> namesOf(const Entries& first, 
     return names;
 }
 
-void mergeValues(Section& ours, const Section* base, const Section& theirs) {
+// The merge of one tree: collects on its way what was overruled.
+class Merge {
+public:
+    void sections(Section& ours, const Section* base, const Section& theirs, int wholeDepth,
+                  const std::string& path);
+    void root(Section& ours, const Section& base, const Section& theirs);
+    std::vector<Overruled> overruled;
+
+private:
+    void values(Section& ours, const Section* base, const Section& theirs, const std::string& path);
+    void wholeChild(Section& ours, const std::string& name, const Section* base, const Section* theirs,
+                    const std::string& path);
+};
+
+void Merge::values(Section& ours, const Section* base, const Section& theirs, const std::string& path) {
     for (const std::string& name : namesOf(theirs.values(), base ? &base->values() : nullptr)) {
-        const auto before = stateOf(valueOf(base, name));
-        const CKWVariant* their = theirs.values().find(name);
-        if (stateOf(their) == before || stateOf(ours.values().find(name)) != before)
+        const auto before = stateOf(valueOf(base, name)), our = stateOf(ours.values().find(name));
+        const CKWVariant* const value = theirs.values().find(name);
+        const auto their = stateOf(value);
+        if (their == before || their == our)
             continue;
-        if (their)
-            ours.setValue(name.c_str(), their);
+        if (our != before)
+            overruled.push_back({path + name, false, their});
+        else if (value)
+            ours.setValue(name.c_str(), value);
         else
             ours.removeValue(name.c_str());
     }
@@ -61,44 +78,51 @@ void replaceChild(Section& ours, const std::string& name, const Section* theirs)
         ours.openSection(name.c_str(), true)->section().copyFrom(*theirs);
 }
 
-// 1 when both have changed it differently.
-int mergeWholeChild(Section& ours, const std::string& name, const Section* base, const Section* theirs) {
+void Merge::wholeChild(Section& ours, const std::string& name, const Section* base, const Section* theirs,
+                       const std::string& path) {
     const auto before = stateOf(base), their = stateOf(theirs), our = stateOf(childOf(&ours, name));
     if (their == before || their == our)
-        return 0;
+        return;
     if (our != before)
-        return 1;
-    replaceChild(ours, name, theirs);
-    return 0;
+        overruled.push_back({path + name, true, their});
+    else
+        replaceChild(ours, name, theirs);
 }
 
-int mergeSections(Section& ours, const Section* base, const Section& theirs, int wholeDepth) {
-    mergeValues(ours, base, theirs);
-    int lost = 0;
+void Merge::sections(Section& ours, const Section* base, const Section& theirs, int wholeDepth,
+                     const std::string& path) {
+    values(ours, base, theirs, path);
     for (const std::string& name : namesOf(theirs.children(), base ? &base->children() : nullptr)) {
         const Section* their = childOf(&theirs, name);
         const Ref<MemParam> our = ours.openSection(name.c_str(), false);
         if (wholeDepth > 1 && their && our)
-            lost += mergeSections(our->section(), childOf(base, name), *their, wholeDepth - 1);
+            sections(our->section(), childOf(base, name), *their, wholeDepth - 1, path + name + '/');
         else
-            lost += mergeWholeChild(ours, name, childOf(base, name), their);
+            wholeChild(ours, name, childOf(base, name), their, path);
     }
-    return lost;
+}
+
+void Merge::root(Section& ours, const Section& base, const Section& theirs) {
+    const auto before = stateOf(&base), their = stateOf(&theirs), our = stateOf(&ours);
+    if (their == before || their == our)
+        return;
+    if (our != before) {
+        overruled.push_back({{}, true, their});
+        return;
+    }
+    ours.reset();
+    ours.copyFrom(theirs);
 }
 
 } // namespace
 
-int mergeInto(Section& ours, const Section& base, const Section& theirs, int wholeDepth) {
+std::vector<Overruled> mergeInto(Section& ours, const Section& base, const Section& theirs, int wholeDepth) {
+    Merge merge;
     if (wholeDepth > 0)
-        return mergeSections(ours, &base, theirs, wholeDepth);
-    const auto before = stateOf(&base), their = stateOf(&theirs), our = stateOf(&ours);
-    if (their == before || their == our)
-        return 0;
-    if (our != before)
-        return 1;
-    ours.reset();
-    ours.copyFrom(theirs);
-    return 0;
+        merge.sections(ours, &base, theirs, wholeDepth, {});
+    else
+        merge.root(ours, base, theirs);
+    return std::move(merge.overruled);
 }
 
 } // namespace standin
