@@ -6,6 +6,7 @@
 #include "standin/events/events.h"
 #include "standin/help/help_service.h"
 #include "standin/params/application.h"
+#include "standin/params/root_use.h"
 #include "standin/qt_application/host_application.h"
 #include "standin/registry.h"
 #include "workbench/canvas/preview_writer.h"
@@ -49,11 +50,7 @@ Workbench::Workbench(const Launch& launchOptions)
         printTranscript();
     catalogues.load(QCoreApplication::applicationDirPath() + QStringLiteral("/translations"),
                     QLocale().name());
-    ApplicationSetup setup;
-    setup.dataDir = launch.dataDir;
-    setup.rootDir = launch.rootDir;
-    setup.io.reportProblem = [this](const QString& problem) { report(problem); };
-    application = std::make_unique<Application>(setup);
+    openStores();
     documents = std::make_unique<DocumentManager>(io, readVariables(launch.dataDir, io));
     documents->variables().keepIn(openChild(appService<IProfile>().get(), "SysVars", 1));
     provideServices();
@@ -63,7 +60,7 @@ Workbench::Workbench(const Launch& launchOptions)
     module = std::make_unique<LoadedModule>(launch.moduleFile, &problem);
     if (!problem.isEmpty())
         report(problem);
-    history = std::make_unique<HistoryKeeper>(*documents, io, files, launch.rootDir, setup.io);
+    history = std::make_unique<HistoryKeeper>(*documents, io, files, launch.rootDir, storeIo());
     mainWindow = std::make_unique<MainWindow>(io, loop, *documents, styles);
     registry().mainWindow = mainWindow.get();
     previews = std::make_unique<PreviewWriter>(*documents, mainWindow->drawingArea());
@@ -71,6 +68,24 @@ Workbench::Workbench(const Launch& launchOptions)
         progressDialog = std::make_unique<ProgressDialog>();
     addCommands();
     applySettings();
+}
+
+StoreIo Workbench::storeIo() {
+    StoreIo made;
+    made.reportProblem = [this](const QString& problem) { report(problem); };
+    return made;
+}
+
+void Workbench::openStores() {
+    rootUse = std::make_unique<RootUse>(launch.rootDir);
+    if (!rootUse->notice().isEmpty())
+        io.print(rootUse->notice());
+    ApplicationSetup setup;
+    setup.dataDir = launch.dataDir;
+    setup.rootDir = launch.rootDir;
+    setup.io = storeIo();
+    setup.remembered = windowPlacePaths();
+    application = std::make_unique<Application>(setup);
 }
 
 // The module goes first: it still finds the host around it.
@@ -119,6 +134,8 @@ void Workbench::report(const QString& problem) {
     if (launch.headless)
         std::fprintf(stderr, "%s\n", problem.toLocal8Bit().constData());
     io.print(problem);
+    if (!launch.headless && !scriptPlays)
+        problemBox.show(problem);
 }
 
 void Workbench::printTranscript() {
@@ -174,10 +191,12 @@ void Workbench::play() {
     const QString name = launch.scriptFile.isEmpty() ? tr("standard input") : launch.scriptFile;
     player = std::make_unique<ScriptPlayer>(name, QString::fromUtf8(file.readAll()), io, loop);
     connect(player.get(), &ScriptPlayer::finished, this, &Workbench::endScript);
+    scriptPlays = true;
     player->start();
 }
 
 void Workbench::endScript(const QString& problem) {
+    scriptPlays = false;
     scriptFailed = !problem.isEmpty();
     if (scriptFailed)
         report(problem);

@@ -4,11 +4,13 @@
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
 #include "standin/documents/document_manager.h"
+#include "standin/params/store_io.h"
 #include "standin/themes/style_manager.h"
 #include "standin/translation/translation.h"
 #include "workbench/command_line.h"
 #include "workbench/commands/file_questions.h"
 #include "workbench/settings.h"
+#include "workbench/window/problem_box.h"
 
 #include <QTimer>
 #include <memory>
@@ -17,6 +19,7 @@ namespace standin {
 class Application;
 class Events;
 class HelpService;
+class RootUse;
 } // namespace standin
 
 namespace workbench {
@@ -37,8 +40,9 @@ public:
 
     // Shows the window (or nothing, when headless), opens the drawing, and plays the script.
     void start();
-    int exitStatus() const;              // 0, or 1 when a script was not taken to its end
-    void report(const QString& problem); // tells the user of something that went wrong
+    int exitStatus() const; // 0, or 1 when a script was not taken to its end
+    // Tells the user of something that went wrong: on the console, and over a modal dialog that hides it.
+    void report(const QString& problem);
 
     standin::Console& console() { return io; }
     standin::CommandLoop& commands() { return loop; }
@@ -46,6 +50,8 @@ public:
     MainWindow* window() const { return mainWindow.get(); }
 
 private:
+    standin::StoreIo storeIo();
+    void openStores();
     void provideServices();
     void addCommands();
     void openFirstDrawing();
@@ -59,9 +65,11 @@ private:
     const Launch launch;
     standin::Console io;
     standin::CommandLoop loop{io};
+    ProblemBox problemBox; // outlives the stores, which report to their end
     const FileQuestions files;
     standin::StyleManager styles;
     standin::Catalogues catalogues;
+    std::unique_ptr<standin::RootUse> rootUse; // as long as there are stores
     std::unique_ptr<standin::Application> application;
     std::unique_ptr<standin::DocumentManager> documents;
     std::unique_ptr<HistoryKeeper> history;
@@ -74,6 +82,7 @@ private:
     std::unique_ptr<ScriptPlayer> player;
     QTimer themeCheck;     // runs while a command does
     int appliedTheme = -1; // the one that the profile held last
+    bool scriptPlays = false;
     bool scriptFailed = false;
 };
 

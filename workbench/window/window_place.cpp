@@ -10,6 +10,7 @@ namespace workbench {
 
 namespace {
 
+const char* const sectionName = "Workbench";
 const char* const geometryKey = "WindowGeometry";
 const char* const stateKey = "WindowState";
 
@@ -28,7 +29,7 @@ QByteArray stored(IParam* section, const char* key) {
 } // namespace
 
 void saveWindowPlace(const QMainWindow& window) {
-    const Ref<IParam> section = openChild(appService<IProfile>().get(), "Workbench", 1);
+    const Ref<IParam> section = openChild(appService<IProfile>().get(), sectionName, 1);
     if (!section)
         return;
     store(section.get(), geometryKey, window.saveGeometry());
@@ -36,9 +37,14 @@ void saveWindowPlace(const QMainWindow& window) {
 }
 
 void restoreWindowPlace(QMainWindow& window) {
-    const Ref<IParam> section = openChild(appService<IProfile>().get(), "Workbench");
+    const Ref<IParam> section = openChild(appService<IProfile>().get(), sectionName);
     window.restoreGeometry(stored(section.get(), geometryKey));
     window.restoreState(stored(section.get(), stateKey));
+}
+
+std::vector<std::string> windowPlacePaths() {
+    const std::string section(sectionName);
+    return {section + '/' + geometryKey, section + '/' + stateKey, "Dialogs"};
 }
 
 } // namespace workbench
