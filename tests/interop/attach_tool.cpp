@@ -1,6 +1,7 @@
-// Attaches one drawing to another as the attach command does, for checks by another reader:
-// attach_tool SITE PART OVERLAY X Y SCALE ROTATION PATH_TYPE
+// Attaches one drawing to another as the attach command does, and tells the extents of what the saved drawing
+// shows, for checks by another reader: attach_tool SITE PART OVERLAY X Y SCALE ROTATION PATH_TYPE
 #include "sdk/db/xref_man.h"
+#include "standin/display/display_list.h"
 #include "standin/references/attach_services.h"
 #include "tests/support/fixture_host.h"
 #include "tests/support/test_application.h"
@@ -10,6 +11,17 @@
 #include <cstdlib>
 
 namespace {
+
+bool tellExtents(const OdString& path) {
+    const OdDbDatabasePtr drawing = OdDbDatabase::readFile(path);
+    if (!OdDbXRefMan::loadAll(drawing.get()).empty())
+        return false;
+    standin::DisplayList shown(drawing);
+    shown.refresh();
+    const standin::Box box = shown.extents();
+    std::printf("%.6f %.6f %.6f %.6f\n", box.left, box.bottom, box.right, box.top);
+    return true;
+}
 
 int attach(char** arguments) {
     const OdString site(arguments[1]), part(arguments[2]);
@@ -27,7 +39,7 @@ int attach(char** arguments) {
     if (!attached)
         return 1;
     drawing->writeFile(site);
-    return 0;
+    return tellExtents(site) ? 0 : 4;
 }
 
 } // namespace

@@ -9,6 +9,8 @@ import unittest
 import ezdxf
 from ezdxf import units
 
+from drawings import assert_extents
+
 TOOL = sys.argv.pop()
 VERSIONS = ["R12", "R2000", "R2007", "R2010", "R2018"]
 XREF, OVERLAY = 4, 8
@@ -31,6 +33,8 @@ class Attach(unittest.TestCase):
         arguments = [TOOL, site, part, overlay, x, y, scale, rotation, path_type]
         done = subprocess.run([str(argument) for argument in arguments], capture_output=True, text=True)
         self.assertEqual(done.returncode, 0, done.stderr)
+        extents = [float(number) for number in done.stdout.split()]
+        self.extents = {"extmin": extents[:2], "extmax": extents[2:]}
         doc = ezdxf.readfile(site)
         auditor = doc.audit()
         self.assertEqual([error.message for error in auditor.errors + auditor.fixes], [])
@@ -51,6 +55,21 @@ class Attach(unittest.TestCase):
                 self.assertEqual((insert.dxf.xscale, insert.dxf.yscale, insert.dxf.zscale), (2, 2, 2))
                 self.assertAlmostEqual(insert.dxf.rotation, math.degrees(0.5))
                 self.assertEqual(len(doc.modelspace().query("LINE")), 1)
+
+    def test_extents_are_those_of_the_part_in_its_place(self):
+        for version in VERSIONS:
+            with self.subTest(version):
+                site = self.drawing(f"site_{version}.dxf", version, units.M)
+                part = self.drawing(f"part_{version}.dxf", version, units.M)
+                doc = ezdxf.readfile(part)
+                doc.modelspace().add_line((3, -4), (-6, 7))
+                doc.modelspace().add_point((5, 5))
+                doc.saveas(part)
+                attached = self.attach(site, part, x=12.5, y=-3, scale=2, rotation=0.5)
+                place = attached.modelspace().query("INSERT").first.matrix44()
+                placed = [entity.copy().transform(place) for entity in doc.modelspace()]
+                entities = [*attached.modelspace().query("LINE"), *placed]
+                assert_extents(self, self.extents, entities, 0.005)
 
     def test_overlay_is_flagged(self):
         for version in VERSIONS:

@@ -5,6 +5,7 @@ import subprocess
 import zlib
 
 import ezdxf
+import ezdxf.bbox
 
 VERSIONS = ["R12", "R2000", "R2004", "R2007", "R2010", "R2013", "R2018"]
 
@@ -49,6 +50,15 @@ def build(version):
         doc.add_xref_def("grund/plan.dxf", "Plan")
         space.add_blockref("Plan", (1, 2))
     return doc
+
+
+def assert_extents(test, found, entities, delta):
+    """What we report are the extents that ezdxf finds for these entities."""
+    box = ezdxf.bbox.extents(entities)
+    test.assertTrue(box.has_data)
+    wanted = [box.extmin.x, box.extmin.y, box.extmax.x, box.extmax.y]
+    for ours, theirs in zip(found["extmin"][:2] + found["extmax"][:2], wanted):
+        test.assertAlmostEqual(ours, theirs, delta=delta)
 
 
 def raw_tags(path, encoding):

@@ -12,7 +12,7 @@ import unittest
 import ezdxf
 import ezdxf.bbox
 
-from drawings import picture, raw_tags, tool_of
+from drawings import assert_extents, picture, raw_tags, tool_of
 
 WORKBENCH = sys.argv.pop()
 tool = tool_of(sys.argv.pop())
@@ -68,6 +68,10 @@ class Examples(unittest.TestCase):
         self.addCleanup(holder.cleanup)
         self.folder = pathlib.Path(holder.name)
 
+    def assert_same_extents(self, doc, found):
+        if not WITH_LETTERS & set(kinds(doc)):
+            assert_extents(self, found, doc.modelspace(), 0.01 * max(ezdxf.bbox.extents(doc.modelspace()).size))
+
     def test_there_are_enough_of_them(self):
         self.assertGreater(len(EXAMPLES), 30)
         self.assertEqual([path.name for path in SAMPLES], ["house.dxf", "part.dxf", "site.dxf"])
@@ -86,11 +90,7 @@ class Examples(unittest.TestCase):
                 self.assertEqual(found["warnings"], [])
                 self.assertEqual(found["entities"], kinds(doc))
                 self.assertLessEqual({layer.dxf.name for layer in doc.layers} - {"Defpoints"}, set(found["layers"]))
-                if not WITH_LETTERS & set(kinds(doc)):
-                    box = ezdxf.bbox.extents(doc.modelspace())
-                    theirs = [box.extmin.x, box.extmin.y, box.extmax.x, box.extmax.y]
-                    for ours, their in zip(found["extmin"][:2] + found["extmax"][:2], theirs):
-                        self.assertAlmostEqual(ours, their, delta=0.01 * max(box.size))
+                self.assert_same_extents(doc, found)
 
     def grouped(self, source):
         undone, redone = self.folder / "undone.dxf", self.folder / "redone.dxf"
@@ -114,6 +114,7 @@ class Examples(unittest.TestCase):
                 self.assertEqual({e.dxf.handle for e in doc.groups.get("MADE")},
                                  {e.dxf.handle for e in before.modelspace()})
                 self.assertEqual(complaints(doc) - complaints(before), collections.Counter())
+                self.assert_same_extents(doc, json.loads(tool("report", redone)))
                 lost = collections.Counter(lasting_tags(path)) - collections.Counter(lasting_tags(redone))
                 self.assertLessEqual(sum(lost.values()), 12, lost)
 
