@@ -71,7 +71,8 @@ QString listOf(const std::vector<Overruled>& changes) {
         return {};
     if (int(changes.size()) > mostLines)
         lines << FileStore::tr("... and %1 more").arg(int(changes.size()) - mostLines);
-    return QLatin1Char('\n') + FileStore::tr("You have changed the same; yours now stand in place of these:") +
+    return QLatin1Char('\n') +
+           FileStore::tr("You have changed the same; yours now stand in place of these:") +
            QLatin1Char('\n') + lines.join(QLatin1Char('\n'));
 }
 
