@@ -1,17 +1,21 @@
 // A drawing of 200,000 mixed entities on the canvas, 1600 by 1000 pixels: from the parsed file to the first
 // picture ("show_ms", limit 2000), the same zoomed in, picking at the worst of many places ("worst_ms", limit
-// 50), and a reference of it all that follows the cursor ("worst_ms", limit 33 for 30 pictures a second). All
-// figures are processor time of the one thread that works.
+// 50), a click that takes the group of what lies there ("worst_ms", limit 50), and a reference of it all that
+// follows the cursor ("worst_ms", limit 33 for 30 pictures a second). All figures are processor time of the
+// one thread that works.
 #include "benchmarks/timing.h"
 #include "sdk/db/block_reference.h"
 #include "sdk/db/block_table.h"
 #include "sdk/db/curves.h"
+#include "sdk/db/dictionary.h"
+#include "sdk/db/group.h"
 #include "sdk/db/polyline.h"
 #include "sdk/db/text.h"
 #include "standin/console/console.h"
 #include "standin/display/picking.h"
 #include "standin/display/scene_image.h"
 #include "standin/display/tracker_picture.h"
+#include "standin/selection/editor_selection.h"
 #include "tests/support/test_application.h"
 
 #include <QPainter>
@@ -111,7 +115,7 @@ BENCHMARK(showAll)->Iterations(3)->UseManualTime()->Unit(benchmark::kMillisecond
 
 // A list that is ready, as while the user looks around.
 struct Shown {
-    Shown() : list(OdDbDatabase::readBytes(largeBytes())) {
+    explicit Shown(const std::string& bytes = largeBytes()) : list(OdDbDatabase::readBytes(bytes)) {
         list.refresh();
         view = fitted(list);
     }
@@ -145,6 +149,11 @@ void pan(benchmark::State& state) {
 }
 BENCHMARK(pan)->Unit(benchmark::kMillisecond);
 
+// Somewhere else in the window for each number.
+QPointF placeOf(const View& view, int number) {
+    return view.toDrawing({std::fmod(number * 97.3, 1600), std::fmod(number * 61.7, 1000)});
+}
+
 void pick(benchmark::State& state) {
     Shown shown;
     for (int i = 0; i < state.range(0); ++i)
@@ -153,9 +162,7 @@ void pick(benchmark::State& state) {
     int number = 0, found = 0;
     const double scale = shown.view.scale();
     for (auto _ : state) {
-        ++number;
-        const QPointF at =
-            shown.view.toDrawing({std::fmod(number * 97.3, 1600), std::fmod(number * 61.7, 1000)});
+        const QPointF at = placeOf(shown.view, ++number);
         const double time =
             millisecondsOf([&] { found += !itemAt(shown.list, at, 4 / scale, scale).isNull(); });
         slowest = std::max(slowest, time);
@@ -165,6 +172,60 @@ void pick(benchmark::State& state) {
     state.counters["worst_ms"] = slowest;
 }
 BENCHMARK(pick)->Arg(0)->Arg(2)->Iterations(500)->Unit(benchmark::kMillisecond);
+
+// The whole drawing in groups of so many members.
+std::string bytesInGroupsOf(int members) {
+    const OdDbDatabasePtr drawing = OdDbDatabase::readBytes(largeBytes());
+    const auto groups =
+        odrxCast<OdDbDictionary>(drawing->getGroupDictionaryId(true).safeOpenObject(OdDb::kForWrite));
+    const auto space = odrxCast<OdDbBlockTableRecord>(drawing->getModelSpaceId().safeOpenObject());
+    const OdDbObjectIdArray ids = space->entityIds();
+    for (auto from = ids.begin(); from < ids.end(); from += members) {
+        const OdDbGroupPtr group(new OdDbGroup);
+        groups->setAt(OdString(L"G") + std::to_wstring(from - ids.begin()).c_str(), group.get());
+        group->append(OdDbObjectIdArray(from, from + members));
+    }
+    return drawing->writeBytes();
+}
+
+// A document's selection that finds its objects as the canvas does.
+struct Clicked : Shown {
+    explicit Clicked(const std::string& bytes) : Shown(bytes) {
+        selection.objectsAt = [this](const OdGePoint3d& point) {
+            const double scale = view.scale();
+            const OdDbObjectId found = itemAt(list, {point.x, point.y}, 4 / scale, scale);
+            return found.isNull() ? OdDbObjectIdArray() : OdDbObjectIdArray{found};
+        };
+    }
+    std::size_t click(const QPointF& at) {
+        const OdDbObjectIdArray found = selection.pickedAt({at.x(), at.y(), 0});
+        selection.add(found);
+        return found.size();
+    }
+    Console console;
+    EditorSelection selection{OdDbDatabasePtr(&list.database()), console};
+};
+
+// range(0): members of a group; a click that hits an object takes a whole group.
+void click(benchmark::State& state) {
+    Clicked clicked(bytesInGroupsOf(static_cast<int>(state.range(0))));
+    const auto whole = static_cast<std::size_t>(state.range(0));
+    double slowest = 0;
+    int number = 0, hits = 0;
+    for (auto _ : state) {
+        clicked.selection.clearSelection();
+        std::size_t found = 0;
+        const double time = millisecondsOf([&] { found = clicked.click(placeOf(clicked.view, ++number)); });
+        if (found != 0 && found != whole)
+            return state.SkipWithError("a click took something else than a group");
+        hits += found == whole;
+        slowest = std::max(slowest, time);
+    }
+    if (hits == 0)
+        state.SkipWithError("nothing was found anywhere");
+    state.counters["worst_ms"] = slowest;
+}
+BENCHMARK(click)->Arg(10)->Arg(1000)->Iterations(500)->Unit(benchmark::kMillisecond);
 
 // Everything is in one block, whose reference is placed, picked and turned.
 struct Placed {
