@@ -148,8 +148,8 @@ TEST_F(HistoryTest, WithoutVersionsOrDrawingItIsSaid) {
 
 TEST_F(HistoryTest, ReplacingAnotherDrawingKeepsThatOne) {
     saveInTurn({L"old house"});
-    action("New drawing")->trigger();
-    EXPECT_TRUE(waitUntil([&] { return bench->window()->windowTitle().startsWith("Drawing2"); }));
+    play({[this] { submit("CLOSE"); }, [this] { submit("NEW"); }});
+    EXPECT_TRUE(bench->window()->windowTitle().startsWith("Drawing"));
     change(L"new house");
     play({[this] { submit("SAVEAS"); }, [this] { submit(path); }, [this] { submit("Yes"); }});
     EXPECT_EQ(historyTab(1).first(), "Replaced by another drawing");
