@@ -138,6 +138,22 @@ TEST_F(WithStep, UngroupTakesWhatIsSelectedOrANamedGroup) {
     EXPECT_FALSE(hasGroup(L"H"));
 }
 
+TEST_F(WithStep, UngroupOfSeveralGroupsTakesTheLastOneThatHoldsTheFirstObject) {
+    addGroup(L"A", pick({0, 3}));
+    addGroup(L"Z", pick({4}));
+    selection.select(pick({3, 4, 1}));
+    EXPECT_EQ(runWith<CCommandLineGroupUngroup>({}), 0);
+    EXPECT_FALSE(hasGroup(L"A"));
+    EXPECT_TRUE(hasGroup(L"G"));
+    EXPECT_TRUE(hasGroup(L"Z"));
+    addGroup(L"B", pick({0, 5}));
+    selection.select(pick({0, 4}));
+    EXPECT_EQ(runWith<CCommandLineGroupUngroup>({}), 0);
+    EXPECT_FALSE(hasGroup(L"B"));
+    EXPECT_TRUE(hasGroup(L"G"));
+    EXPECT_TRUE(hasGroup(L"Z"));
+}
+
 TEST_F(WithStep, UngroupOfWhatIsInNoGroupAndItsCancelChangeNothing) {
     EXPECT_EQ(runWith<CCommandLineGroupUngroup>({picked(pick({5}))}), 1);
     EXPECT_EQ(io.printed.back(), OdString(L"Object is not a member of a group."));
