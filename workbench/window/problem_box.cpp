@@ -1,4 +1,4 @@
-// Opens the box and fills it.
+// Fills the box and opens it.
 #include "workbench/window/problem_box.h"
 
 #include <QApplication>
@@ -17,25 +17,27 @@ QWidget* openDialog() {
 } // namespace
 
 void ProblemBox::show(const QString& problem) {
-    if (!box || !box->isVisible()) {
+    const bool isOpen = box && box->isVisible();
+    if (!isOpen) {
         QWidget* const dialog = openDialog();
         if (!dialog)
             return;
-        open(*dialog);
+        make(*dialog);
     }
     if (!problems.contains(problem))
         problems << problem;
     box->setText(problems.join(QStringLiteral("\n\n")));
+    if (!isOpen)
+        box->open(); // with its text, so that it comes up in the middle of the dialog
 }
 
-void ProblemBox::open(QWidget& over) {
+void ProblemBox::make(QWidget& over) {
     problems.clear();
     box = new QMessageBox(QMessageBox::Warning, QCoreApplication::translate("ProblemBox", "Workbench"), {},
                           QMessageBox::Ok, &over);
     box->setObjectName(QStringLiteral("problemBox"));
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
 }
 
 } // namespace workbench

@@ -14,7 +14,7 @@ public:
     void show(const QString& problem);
 
 private:
-    void open(QWidget& over);
+    void make(QWidget& over);
 
     QPointer<QMessageBox> box;
     QStringList problems; // in the box
