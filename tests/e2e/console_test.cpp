@@ -51,6 +51,17 @@ TEST_F(ConsolePanelTest, EscapeWithoutACommandClearsTheLine) {
     EXPECT_TRUE(line().text().isEmpty());
 }
 
+TEST_F(ConsolePanelTest, HelpTellsOfEachCommandInOneColumn) {
+    enter({"HELP"});
+    const QStringList commands = transcript().mid(1, bench->commands().names().size());
+    for (const QString& name : bench->commands().names())
+        EXPECT_EQ(commands.filter(QRegularExpression("^" + name + " {2,}[A-Z]")).size(), 1)
+            << qPrintable(name);
+    for (const QString& command : commands)
+        EXPECT_EQ(command.indexOf(QRegularExpression("(?<=  )[A-Z]")), commands[0].indexOf("Asks"))
+            << qPrintable(command);
+}
+
 TEST_F(ConsolePanelTest, ArrowsBringBackEarlierLines) {
     enter({"DRAWINGS"});
     enter({"HELP"});

@@ -11,6 +11,7 @@
 #include "workbench/settings.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 
 using namespace standin;
 
@@ -30,9 +31,12 @@ QString descriptionOf(const CommandLoop& loop, const QString& name) {
 }
 
 void listCommands(Console& console, const CommandLoop& loop) {
+    int longest = 0;
+    for (const QString& name : loop.names())
+        longest = std::max(longest, name.size());
     for (const QString& name : loop.names()) {
         const QString description = descriptionOf(loop, name);
-        console.print(description.isEmpty() ? name : name.leftJustified(12) + description);
+        console.print(description.isEmpty() ? name : name.leftJustified(longest + 2) + description);
     }
     console.print(
         tr("Enter repeats the last command, Escape cancels, the arrow keys bring back earlier lines."));
