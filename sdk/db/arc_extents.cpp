@@ -1,6 +1,8 @@
 // Arcs are measured exactly, not by points along them: boxes of whole drawings are made of these.
 #include "sdk/db/arc_extents.h"
 
+#include "sdk/ge/bulge_arc.h"
+
 #include <cmath>
 
 namespace {
@@ -37,15 +39,10 @@ void odDbAddBulgeExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld, co
                          const OdGePoint3d& to, double bulge) {
     extents.addPoint(toWorld * from);
     extents.addPoint(toWorld * to);
-    const OdGeVector3d chord = to - from;
-    if (bulge == 0 || !std::isfinite(bulge) || chord.isZeroLength())
+    const auto arc = odGeBulgeArc(from, to, bulge);
+    if (!arc)
         return;
-    const double angle = 4 * std::atan(bulge);
-    const double toCenter = 0.5 / std::tan(angle / 2); // in chords, along the chord turned left
-    const OdGePoint3d center(from.x + chord.x / 2 - chord.y * toCenter,
-                             from.y + chord.y / 2 + chord.x * toCenter, from.z);
-    const double radius = std::hypot(from.x - center.x, from.y - center.y);
-    const double first = std::atan2(from.y - center.y, from.x - center.x);
-    const double last = std::atan2(to.y - center.y, to.x - center.x);
-    odDbAddArcExtents(extents, toWorld, center, radius, bulge > 0 ? first : last, bulge > 0 ? last : first);
+    const double angle = std::atan2(arc->zero.y, arc->zero.x);
+    const double start = bulge > 0 ? angle : angle - arc->sweep;
+    odDbAddArcExtents(extents, toWorld, arc->center, arc->zero.length(), start, start + arc->sweep);
 }

@@ -6,6 +6,6 @@
 // An arc of the XY plane, counter-clockwise from `start` to `end`, moved by `toWorld`.
 void odDbAddArcExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld, const OdGePoint3d& center,
                        double radius, double start, double end);
-// A polyline segment: `bulge` is the tangent of a quarter of its angle, positive when it turns left.
+// A polyline segment.
 void odDbAddBulgeExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld, const OdGePoint3d& from,
                          const OdGePoint3d& to, double bulge);

@@ -2,6 +2,7 @@
 #include "sdk/db/hatch_loops.h"
 
 #include "sdk/db/spline_curve.h"
+#include "sdk/ge/bulge_arc.h"
 
 #include <algorithm>
 #include <cmath>
@@ -31,19 +32,6 @@ void addArc(Loop& loop, const OdGePoint3d& center, const OdGeVector3d& major, co
     }
 }
 
-void addBulge(Loop& loop, const OdGePoint3d& from, const OdGePoint3d& to, double bulge) {
-    const OdGeVector3d chord = to - from;
-    if (bulge == 0 || !std::isfinite(bulge) || (chord.x == 0 && chord.y == 0))
-        return;
-    const double turn = 4 * std::atan(bulge);
-    const double toCenter = 0.5 / std::tan(turn / 2); // in chords, along the chord turned left
-    const OdGePoint3d center(from.x + chord.x / 2 - chord.y * toCenter,
-                             from.y + chord.y / 2 + chord.x * toCenter, 0);
-    const double radius = std::hypot(from.x - center.x, from.y - center.y);
-    const double start = std::atan2(from.y - center.y, from.x - center.x);
-    addArc(loop, center, {radius, 0, 0}, {0, radius, 0}, start, start + turn);
-}
-
 // The tags of one border or of one edge of it.
 class Part {
 public:
@@ -67,7 +55,9 @@ public:
         Loop loop;
         for (std::size_t i = 0; i < corners.size(); ++i) {
             loop.push_back(corners[i].point);
-            addBulge(loop, corners[i].point, corners[(i + 1) % corners.size()].point, corners[i].bulge);
+            const OdGePoint3d& next = corners[(i + 1) % corners.size()].point;
+            if (const auto arc = odGeBulgeArc(corners[i].point, next, corners[i].bulge))
+                addArc(loop, arc->center, arc->zero, arc->quarter, 0, arc->sweep);
         }
         return loop;
     }

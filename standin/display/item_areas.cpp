@@ -2,6 +2,7 @@
 #include "sdk/db/hatch.h"
 #include "sdk/db/leader.h"
 #include "sdk/db/polyline.h"
+#include "sdk/ge/bulge_arc.h"
 #include "standin/display/flat.h"
 #include "standin/display/hatch_lines.h"
 #include "standin/display/item_builder.h"
@@ -22,16 +23,12 @@ double stretchOf(const OdGeMatrix3d& matrix) {
     return std::sqrt(std::fabs(x.x() * y.y() - x.y() * y.x()));
 }
 
-// The bulge is the tangent of a quarter of the angle, positive when the arc turns left.
-void addArcPoints(std::vector<QPointF>& path, const QPointF& to, double bulge) {
-    const QPointF from = path.back(), chord = to - from;
-    const QPointF center =
-        from + chord / 2 + QPointF(-chord.y(), chord.x()) * ((1 - bulge * bulge) / (4 * bulge));
-    const QPointF zero = from - center;
-    const QPointF quarter = bulge > 0 ? QPointF(-zero.y(), zero.x()) : QPointF(zero.y(), -zero.x());
-    const Shape arc{
-        Shape::Arc, kForeground, {center, zero, quarter, {0, std::fabs(4 * std::atan(bulge))}}, {}};
-    const std::vector<QPointF> points = arcPoints(arc, arcSmoothness / std::hypot(zero.x(), zero.y()));
+void addArcPoints(std::vector<QPointF>& path, const OdGeBulgeArc& bulge) {
+    const Shape arc{Shape::Arc,
+                    kForeground,
+                    {flat(bulge.center), flat(bulge.zero), flat(bulge.quarter), {0, bulge.sweep}},
+                    {}};
+    const std::vector<QPointF> points = arcPoints(arc, arcSmoothness / bulge.zero.length());
     path.insert(path.end(), points.begin() + 1, points.end());
 }
 
@@ -45,11 +42,11 @@ std::vector<QPointF> planePath(const OdDbPolylineBase& polyline) {
             path.push_back(flat(list[i].point));
         if (isLast && !polyline.isClosed())
             break;
-        const QPointF next = flat(list[isLast ? 0 : i + 1].point);
-        if (std::fabs(list[i].bulge) > 1e-9 && next != path.back())
-            addArcPoints(path, next, list[i].bulge);
+        const OdGePoint3d& next = list[isLast ? 0 : i + 1].point;
+        if (const auto arc = odGeBulgeArc(list[i].point, next, list[i].bulge))
+            addArcPoints(path, *arc);
         else
-            path.push_back(next);
+            path.push_back(flat(next));
     }
     return path;
 }

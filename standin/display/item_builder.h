@@ -58,8 +58,6 @@ private:
                   const LayerLook& layer, Ink ink);
     void addDimension(const OdDbEntity& dimension, const Place& place, const LayerLook& layer, Ink ink);
     void addPolyline(const OdDbPolylineBase& polyline, const OdGeMatrix3d& toWorld, Ink ink);
-    void addBulge(const OdGePoint3d& from, const OdGePoint3d& to, double bulge, const OdGeMatrix3d& matrix,
-                  Ink ink);
     void addArc(const OdGePoint3d& center, const OdGeVector3d& zero, const OdGeVector3d& quarter,
                 double start, double sweep, const OdGeMatrix3d& matrix, Ink ink);
     bool addWide(const OdDbPolylineBase& polyline, const OdGeMatrix3d& toWorld, Ink ink);

@@ -7,6 +7,7 @@
 #include "sdk/db/polyline.h"
 #include "sdk/db/spline.h"
 #include "sdk/db/text.h"
+#include "sdk/ge/bulge_arc.h"
 #include "standin/display/flat.h"
 #include "standin/display/item_builder.h"
 #include "standin/display/text_lines.h"
@@ -110,8 +111,8 @@ void ItemBuilder::addPolyline(const OdDbPolylineBase& polyline, const OdGeMatrix
     const OdGeMatrix3d matrix = toWorld * polyline.vertexToWorld();
     Shape run{Shape::Path, ink, {flat(matrix * list.front().point)}, {}};
     for (std::size_t i = 0; i + 1 < list.size(); ++i) {
-        if (std::fabs(list[i].bulge) > 1e-9) {
-            addBulge(list[i].point, list[i + 1].point, list[i].bulge, matrix, ink);
+        if (const auto arc = odGeBulgeArc(list[i].point, list[i + 1].point, list[i].bulge)) {
+            addArc(arc->center, arc->zero, arc->quarter, 0, arc->sweep, matrix, ink);
             if (run.points.size() > 1)
                 put(run);
             run.points.clear();
@@ -120,20 +121,6 @@ void ItemBuilder::addPolyline(const OdDbPolylineBase& polyline, const OdGeMatrix
     }
     if (run.points.size() > 1 || list.size() == 1)
         put(std::move(run));
-}
-
-// The bulge is the tangent of a quarter of the angle, positive when the arc turns left.
-void ItemBuilder::addBulge(const OdGePoint3d& from, const OdGePoint3d& to, double bulge,
-                           const OdGeMatrix3d& matrix, Ink ink) {
-    const double angle = 4 * std::atan(bulge);
-    const OdGeVector3d chord = to - from;
-    const OdGeVector3d left(-chord.y, chord.x, 0);
-    const double away = (1 - bulge * bulge) / (4 * bulge); // of the centre from the chord, in its lengths
-    const OdGePoint3d center = from + chord * 0.5 + left * away;
-    const OdGeVector3d zero = from - center;
-    const OdGeVector3d quarter =
-        angle > 0 ? OdGeVector3d(-zero.y, zero.x, 0) : OdGeVector3d(zero.y, -zero.x, 0);
-    addArc(center, zero, quarter, 0, std::fabs(angle), matrix, ink);
 }
 
 void ItemBuilder::addText(const OdDbText& text, const OdString& content, const OdGeMatrix3d& toWorld,

@@ -4,6 +4,7 @@
 
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
+#include "standin/display/flat.h"
 #include "standin/display/picking.h"
 #include "standin/display/tracker_picture.h"
 #include "standin/documents/document_manager.h"
@@ -25,8 +26,6 @@ int pickBox() {
         documents && documents->varService()->getVar(L"PICKBOX", &value, nullptr, 0) != kVarUnavailable;
     return std::max(smallestPickBox, read ? int(value->getInt16()) : 0);
 }
-
-QPointF flat(const OdGePoint3d& point) { return {point.x, point.y}; }
 
 } // namespace
 

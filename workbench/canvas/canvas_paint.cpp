@@ -3,6 +3,7 @@
 
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
+#include "standin/display/flat.h"
 #include "standin/display/item_painter.h"
 #include "standin/display/tracker_picture.h"
 #include "standin/documents/document_manager.h"
@@ -20,8 +21,6 @@ const QColor windowColor(0x3b, 0x8e, 0xea), crossingColor(0x3f, 0xb0, 0x5a);
 const QColor markColor(0x4d, 0xa3, 0xff); // of what is selected or highlighted
 const double markWidth = 2;
 const int washOpacity = 48; // of 255
-
-QPointF flat(const OdGePoint3d& point) { return {point.x, point.y}; }
 
 } // namespace
 
