@@ -16,6 +16,7 @@
 #include "standin/display/scene_image.h"
 #include "standin/display/tracker_picture.h"
 #include "standin/selection/editor_selection.h"
+#include "tests/support/shown_reference.h"
 #include "tests/support/test_application.h"
 
 #include <QPainter>
@@ -236,37 +237,10 @@ struct Placed {
     OdDbBlockReferencePtr reference;
 };
 
-class Tracker : public HostEdPointTracker {
-public:
-    explicit Tracker(OdDbBlockReferencePtr shown) : reference(std::move(shown)) {}
-    int cursorType() override { return 0; }
-    int defaultValueSource() override { return 0; }
-    int snapSource() override { return 0; }
-    int addDrawables(HostDrawableSink* sink) override {
-        sink->addDrawable(reference.get(), 1, 512, 0, 0);
-        return 1;
-    }
-    int removeDrawables(HostDrawableSink* sink, int, int, int, int) override {
-        sink->removeDrawable(reference.get(), 0, 0, 0, 0);
-        return 1;
-    }
-    int acceptsReal() override { return 0; }
-    int acceptsString() override { return 0; }
-    int acceptsKeyword() override { return 0; }
-    void setValue(double) override {}
-    void setText(const OdString&) override {}
-    void setBasePoint(double, double, double) override {}
-    void setCursor(double, double, double) override {}
-    void setSink(void*) override {}
-
-private:
-    OdDbBlockReferencePtr reference;
-};
-
 // range(0): 0 moves the reference, 1 turns it.
 void follow(benchmark::State& state) {
     Placed placed;
-    Tracker tracker(placed.reference);
+    ShownReference tracker(placed.reference);
     OpenPrompt prompt;
     prompt.kind = state.range(0) == 0 ? OpenPrompt::Point : OpenPrompt::Angle;
     prompt.tracker = &tracker;

@@ -1,9 +1,9 @@
 // The one place that knows which options of the profile the workbench itself follows.
 #include "workbench/settings.h"
 
-#include "host/documents.h"
 #include "host/text.h"
 #include "host/typed_reads.h"
+#include "standin/sysvars/read_variable.h"
 
 #include <algorithm>
 
@@ -32,11 +32,8 @@ QColor color(IParam* section, const char* key, const QColor& otherwise) {
 }
 
 int cursorSizePercent(int otherwise) {
-    HostDocumentManager* documents = HostDocManager();
-    OdResBufPtr value;
-    const bool read = documents && documents->varService() &&
-                      documents->varService()->getVar(L"CURSORSIZE", &value, nullptr, 0) != kVarUnavailable;
-    return read ? value->getInt16() : otherwise;
+    const OdResBufPtr value = standin::readVariable(L"CURSORSIZE");
+    return value.isNull() ? otherwise : value->getInt16();
 }
 
 // The colour row and the flag carry the choice together: a high byte of 255 means contrast.

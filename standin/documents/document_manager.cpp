@@ -65,10 +65,14 @@ Document* DocumentManager::openCopy(const QString& path, const QString& title) {
     return adoptOpened(std::make_unique<Document>(std::move(database), io, title));
 }
 
-void DocumentManager::save(Document* document, const QString& path) {
+void DocumentManager::write(Document* document, OdDbDatabase& drawing, const QString& path) {
     emit beforeSave(document, path);
-    emit beforeWrite(document, document->database().get());
-    document->database()->writeFile(hostqt::odString(path));
+    emit beforeWrite(document, &drawing);
+    drawing.writeFile(hostqt::odString(path));
+}
+
+void DocumentManager::save(Document* document, const QString& path) {
+    write(document, *document->database(), path);
     if (document->path() == path)
         return;
     document->setPath(path);
@@ -77,9 +81,7 @@ void DocumentManager::save(Document* document, const QString& path) {
 
 Document* DocumentManager::saveInstead(Document* document, const OdDbDatabasePtr& drawing,
                                        const QString& path) {
-    emit beforeSave(document, path);
-    emit beforeWrite(document, drawing.get());
-    drawing->writeFile(hostqt::odString(path));
+    write(document, *drawing, path);
     Document* opened = openFile(path);
     close(document);
     return opened;

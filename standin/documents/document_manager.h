@@ -49,6 +49,7 @@ signals:
 
 private:
     Document* adopt(std::unique_ptr<Document> document);
+    void write(Document* document, OdDbDatabase& drawing, const QString& path);
     Document* adoptOpened(std::unique_ptr<Document> document);
     DrawingVars* drawingVars(OdRxObject* context) const;
 

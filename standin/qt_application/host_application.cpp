@@ -1,8 +1,8 @@
 // Runs the application, and catches at its edge what would otherwise end the program.
 #include "standin/qt_application/host_application.h"
 
-#include "host/documents.h"
 #include "standin/console/error_text.h"
+#include "standin/sysvars/read_variable.h"
 
 #include <cstdio>
 
@@ -23,11 +23,8 @@ private:
 
 // The variable TOOLTIPS. Tips are shown where it cannot be read.
 bool showsToolTips() {
-    HostDocumentManager* const documents = HostDocManager();
-    HostVarService* const variables = documents ? documents->varService() : nullptr;
-    OdResBufPtr value;
-    return !variables || variables->getVar(L"TOOLTIPS", &value, nullptr, 0) == kVarUnavailable ||
-           value->getBool();
+    const OdResBufPtr value = readVariable(L"TOOLTIPS");
+    return value.isNull() || value->getBool();
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 // The host's functions for typed lengths and angles, on the units of the current drawing.
 #include "host/command_io.h"
 
-#include "host/documents.h"
 #include "host/text.h"
+#include "standin/sysvars/read_variable.h"
 #include "standin/units/unit_text.h"
 
 #include <algorithm>
@@ -15,12 +15,8 @@ namespace {
 const double radiansPerDegree = 3.14159265358979323846 / 180;
 
 double drawingValue(const wchar_t* name, double otherwise) {
-    HostDocumentManager* documents = HostDocManager();
-    HostVarService* variables = documents ? documents->varService() : nullptr;
-    OdResBufPtr value;
-    if (!variables || variables->getVar(name, &value, nullptr, 0) == kVarUnavailable)
-        return otherwise;
-    return value->getDouble();
+    const OdResBufPtr value = readVariable(name);
+    return value.isNull() ? otherwise : value->getDouble();
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "standin/documents/document_manager.h"
 #include "standin/registry.h"
 #include "standin/selection/editor_selection.h"
+#include "standin/sysvars/read_variable.h"
 
 using namespace standin;
 
@@ -20,11 +21,8 @@ namespace {
 const int smallestPickBox = 3; // pixels
 
 int pickBox() {
-    OdResBufPtr value;
-    HostDocumentManager* documents = HostDocManager();
-    const bool read =
-        documents && documents->varService()->getVar(L"PICKBOX", &value, nullptr, 0) != kVarUnavailable;
-    return std::max(smallestPickBox, read ? int(value->getInt16()) : 0);
+    const OdResBufPtr value = readVariable(L"PICKBOX");
+    return std::max(smallestPickBox, value.isNull() ? 0 : int(value->getInt16()));
 }
 
 } // namespace

@@ -3,22 +3,24 @@
 #include "host/app.h"
 #include "standin/display/preview_picture.h"
 #include "standin/documents/document_manager.h"
+#include "standin/sysvars/read_variable.h"
 #include "workbench/canvas/canvas.h"
 
 using namespace standin;
 
 namespace workbench {
 
-PreviewWriter::PreviewWriter(DocumentManager& documentManager, Canvas& drawingArea)
-    : documents(documentManager), canvas(drawingArea) {
-    connect(&documents, &DocumentManager::beforeWrite, this, &PreviewWriter::put);
+namespace {
+
+bool isWanted(Document& document) {
+    const OdResBufPtr value = readVariable(L"RASTERPREVIEW", document.database().get());
+    return !value.isNull() && value->getBool();
 }
 
-bool PreviewWriter::isWanted(Document& document) const {
-    OdResBufPtr value;
-    return documents.varService()->getVar(L"RASTERPREVIEW", &value, document.database().get(), 0) !=
-               kVarUnavailable &&
-           value->getBool();
+} // namespace
+
+PreviewWriter::PreviewWriter(DocumentManager& documentManager, Canvas& drawingArea) : canvas(drawingArea) {
+    connect(&documentManager, &DocumentManager::beforeWrite, this, &PreviewWriter::put);
 }
 
 // A drawing that is as its file is written as it was read.

@@ -17,14 +17,12 @@ class Canvas;
 class PreviewWriter : public QObject {
     Q_OBJECT
 public:
-    // Both must outlive the writer.
+    // The canvas must outlive the writer.
     PreviewWriter(standin::DocumentManager& documentManager, Canvas& drawingArea);
 
 private:
     void put(standin::Document* document, OdDbDatabase* drawing);
-    bool isWanted(standin::Document& document) const;
 
-    standin::DocumentManager& documents;
     Canvas& canvas;
 };
 

@@ -1,9 +1,9 @@
 #include "workbench/commands/file_questions.h"
 
-#include "host/documents.h"
 #include "host/qt_ui_core.h"
 #include "host/text.h"
 #include "standin/console/console.h"
+#include "standin/sysvars/read_variable.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -42,11 +42,13 @@ QString withSuffix(const QString& path) {
     return QFileInfo(path).suffix().isEmpty() ? path + QStringLiteral(".dxf") : path;
 }
 
-bool isYesInBox(const QString& name, const QString& title, const QString& text) {
+bool isYesInBox(const QString& name, const QString& title, const QString& text,
+                const QString& detail = QString()) {
     QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Yes | QMessageBox::No,
                     host_qt_ui_core::parentForDialog());
     box.setObjectName(name);
     box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(detail);
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
 }
@@ -54,11 +56,8 @@ bool isYesInBox(const QString& name, const QString& title, const QString& text) 
 } // namespace
 
 bool FileQuestions::dialogsAreOff() {
-    HostDocumentManager* documents = HostDocManager();
-    OdResBufPtr value;
-    const bool read = documents && documents->varService() &&
-                      documents->varService()->getVar(L"FILEDIA", &value, nullptr, 0) != kVarUnavailable;
-    return read && !value->getBool();
+    const OdResBufPtr value = readVariable(L"FILEDIA");
+    return !value.isNull() && !value->getBool();
 }
 
 bool FileQuestions::asksOnConsole() const { return headless || dialogsAreOff(); }
@@ -134,14 +133,8 @@ bool FileQuestions::mayMakeNewer(const QString& drawing, const QStringList& left
         io.print(reason);
         return isYesOnConsole(tr("Save as a newer drawing? [%s] <No>:"));
     }
-    QMessageBox box(QMessageBox::Question, tr("Newer drawing"),
-                    reason + QLatin1Char('\n') + tr("Save as a newer drawing?"),
-                    QMessageBox::Yes | QMessageBox::No, host_qt_ui_core::parentForDialog());
-    box.setObjectName(QStringLiteral("newerBox"));
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(loss);
-    box.setDefaultButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes;
+    return isYesInBox(QStringLiteral("newerBox"), tr("Newer drawing"),
+                      reason + QLatin1Char('\n') + tr("Save as a newer drawing?"), loss);
 }
 
 Unsaved FileQuestions::whatOfChanges(const QString& drawing) const {
