@@ -3,12 +3,12 @@
 // limit 100), also in a drawing that has 2,000 references already. Placing a reference of 200,000 entities:
 // the first picture ("first_ms"), then the slowest one that follows the cursor ("worst_ms", limit 33 for 30
 // pictures a second). All figures are processor time of the one thread that works.
+#include "benchmarks/run.h"
 #include "benchmarks/timing.h"
 #include "sdk/db/xref_man.h"
 #include "standin/console/console.h"
 #include "standin/display/tracker_picture.h"
 #include "tests/support/fixture_host.h"
-#include "tests/support/test_application.h"
 #include "tests/xref/xref_io.h"
 #include "xref/attach_dialog.h"
 #include "xref/attach_reference.h"
@@ -177,9 +177,4 @@ BENCHMARK(placeReference)->Iterations(100)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    TestApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}
+int main(int argc, char** argv) { return runBenchmarks(argc, argv); }

@@ -3,6 +3,7 @@
 // 50), a click that takes the group of what lies there ("worst_ms", limit 50), and a reference of it all that
 // follows the cursor ("worst_ms", limit 33 for 30 pictures a second). All figures are processor time of the
 // one thread that works.
+#include "benchmarks/run.h"
 #include "benchmarks/timing.h"
 #include "sdk/db/block_reference.h"
 #include "sdk/db/block_table.h"
@@ -17,7 +18,6 @@
 #include "standin/display/tracker_picture.h"
 #include "standin/selection/editor_selection.h"
 #include "tests/support/shown_reference.h"
-#include "tests/support/test_application.h"
 
 #include <QPainter>
 #include <benchmark/benchmark.h>
@@ -272,10 +272,4 @@ BENCHMARK(follow)->Arg(0)->Arg(1)->Iterations(100)->Unit(benchmark::kMillisecond
 
 } // namespace
 
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    TestApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char** argv) { return runBenchmarks(argc, argv); }

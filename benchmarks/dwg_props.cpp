@@ -3,9 +3,9 @@
 // 10,000 entries), and OK after all of them were deleted. Opening on a drawing of many entities beside
 // opening on an empty one ("ratio", limit 1.2).
 #include "dwgprops/dwg_props.h"
+#include "benchmarks/run.h"
 #include "benchmarks/timing.h"
 #include "tests/support/fixture_host.h"
-#include "tests/support/test_application.h"
 
 #include <QDialog>
 #include <QHeaderView>
@@ -171,10 +171,4 @@ BENCHMARK(deleteAllRows)
 
 } // namespace
 
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    TestApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char** argv) { return runBenchmarks(argc, argv); }

@@ -1,6 +1,7 @@
 // The group commands over drawings of many groups and groups of many members. The dialog stands beside a bare
 // table of the same rows; "ratio" compares the two within one run.
 // The bare table is filled by plain calls; the dialog keeps its model from telling of each cell.
+#include "benchmarks/run.h"
 #include "benchmarks/timing.h"
 #include "groups/command_line_from_selection.h"
 #include "groups/dialog_parts.h"
@@ -14,7 +15,6 @@
 #include "sdk/db/curves.h"
 #include "tests/support/fixture_host.h"
 #include "tests/support/scripted_io.h"
-#include "tests/support/test_application.h"
 
 #include <QHeaderView>
 #include <QTableWidget>
@@ -209,9 +209,4 @@ BENCHMARK(highlightMembersOfBig)
 
 } // namespace
 
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    TestApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}
+int main(int argc, char** argv) { return runBenchmarks(argc, argv); }

@@ -1,6 +1,7 @@
 // The list pages of the Options dialog: making a page's rows beside a plain loop that makes the same rows
 // from data at hand ("ratio", limit 1.1), and Apply of the papers down to the file (limit 20 ms and one
 // write).
+#include "benchmarks/run.h"
 #include "benchmarks/timing.h"
 #include "host/text.h"
 #include "host/typed_reads.h"
@@ -13,7 +14,6 @@
 #include "options/preferences.h"
 #include "standin/params/application.h"
 #include "tests/support/fixture_host.h"
-#include "tests/support/test_application.h"
 
 #include <QCheckBox>
 #include <QIcon>
@@ -187,10 +187,4 @@ BENCHMARK(papersApply)->Arg(1000)->Iterations(30)->Unit(benchmark::kMillisecond)
 
 } // namespace
 
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    TestApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char** argv) { return runBenchmarks(argc, argv); }

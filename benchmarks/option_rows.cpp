@@ -1,6 +1,7 @@
 // Building option rows up to the first paint, beside a plain loop that makes the same widgets with the same
 // style sheets in the order in which one writes them down. "ratio" compares the two within one run.
 #include "benchmarks/plain_row.h"
+#include "benchmarks/run.h"
 #include "benchmarks/timing.h"
 #include "options/pages/clickable_label.h"
 #include "options/pages/int_spin_box.h"
@@ -8,7 +9,6 @@
 #include "options/pages/pref_widget.h"
 #include "options/tree_item.h"
 #include "tests/support/fixture_host.h"
-#include "tests/support/test_application.h"
 
 #include <QCheckBox>
 #include <QDialog>
@@ -123,10 +123,4 @@ BENCHMARK_CAPTURE(optionRows, below_the_viewport, ViewportAsParent)->Apply(sizes
 
 } // namespace
 
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    TestApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char** argv) { return runBenchmarks(argc, argv); }

@@ -1,6 +1,7 @@
 // A search from Return to the painted result, beside a peer that matches every label and description once and
 // makes the same calls to show, hide, expand and mark on the same tree. "ratio" compares the two within one
 // run.
+#include "benchmarks/run.h"
 #include "benchmarks/timing.h"
 #include "options/pages/clickable_label.h"
 #include "options/pages/collapse_widget.h"
@@ -10,7 +11,6 @@
 #include "options/pages/searching_line_edit.h"
 #include "options/tree_item.h"
 #include "tests/support/fixture_host.h"
-#include "tests/support/test_application.h"
 
 #include <QDialog>
 #include <QPushButton>
@@ -206,10 +206,4 @@ BENCHMARK(searchTree)->Apply(chains);
 
 } // namespace
 
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    TestApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char** argv) { return runBenchmarks(argc, argv); }

@@ -1,9 +1,9 @@
 // Apply into stores in memory, by the row: the whole of it, beside the bare writes of the same values.
+#include "benchmarks/run.h"
 #include "benchmarks/timing.h"
 #include "options/preferences.h"
 #include "tests/options/option_tree_writer.h"
 #include "tests/support/fixture_host.h"
-#include "tests/support/test_application.h"
 
 #include <benchmark/benchmark.h>
 #include <string>
@@ -52,10 +52,4 @@ BENCHMARK(applyRows)->Arg(300)->Arg(1000)->Arg(10000)->UseManualTime()->Iteratio
 
 } // namespace
 
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    TestApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char** argv) { return runBenchmarks(argc, argv); }

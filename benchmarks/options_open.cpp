@@ -2,11 +2,11 @@
 // editors with the same style sheets and knows nothing of option data. "ratio" compares the two within one
 // run.
 #include "benchmarks/plain_row.h"
+#include "benchmarks/run.h"
 #include "benchmarks/timing.h"
 #include "options/preferences.h"
 #include "tests/options/option_tree_writer.h"
 #include "tests/support/fixture_host.h"
-#include "tests/support/test_application.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -176,10 +176,4 @@ BENCHMARK(growTenfold)->Arg(1000)->UseManualTime()->Iterations(7)->Unit(benchmar
 
 } // namespace
 
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    TestApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char** argv) { return runBenchmarks(argc, argv); }

@@ -21,18 +21,7 @@ constexpr double kUsualArrowSize = 0.18;
 } // namespace
 
 std::vector<OdGePoint3d> OdDbLeader::vertices() const {
-    std::vector<OdGePoint3d> list;
-    const DxfTagList::Range range = content.subclass(kLeader);
-    for (std::size_t i = range.begin; i < range.end; ++i) {
-        const DxfTag& tag = content[i];
-        if (tag.code == kVertex)
-            list.push_back({dxfReal(tag.value()), 0, 0});
-        else if (tag.code == kVertex + 10 && !list.empty())
-            list.back().y = dxfReal(tag.value());
-        else if (tag.code == kVertex + 20 && !list.empty())
-            list.back().z = dxfReal(tag.value());
-    }
-    return list;
+    return content.points(content.subclass(kLeader), kVertex);
 }
 
 bool OdDbLeader::hasArrowHead() const {

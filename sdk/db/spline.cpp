@@ -17,18 +17,7 @@ constexpr int kFit = 11;
 bool OdDbSpline::isClosed() const { return content.integer(content.subclass(kSpline), kFlags) & kClosed; }
 
 std::vector<OdGePoint3d> OdDbSpline::points(int code) const {
-    std::vector<OdGePoint3d> list;
-    const DxfTagList::Range range = content.subclass(kSpline);
-    for (std::size_t i = range.begin; i < range.end; ++i) {
-        const DxfTag& tag = content[i];
-        if (tag.code == code)
-            list.push_back({dxfReal(tag.value()), 0, 0});
-        else if (tag.code == code + 10 && !list.empty())
-            list.back().y = dxfReal(tag.value());
-        else if (tag.code == code + 20 && !list.empty())
-            list.back().z = dxfReal(tag.value());
-    }
-    return list;
+    return content.points(content.subclass(kSpline), code);
 }
 
 OdDbSplineCurve OdDbSpline::curve() const {

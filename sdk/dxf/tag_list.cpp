@@ -171,6 +171,19 @@ OdGePoint3d DxfTagList::point(Range range, int code) const {
     return {dxfReal(tags[found].value()), real(rest, code + 10), real(rest, code + 20)};
 }
 
+std::vector<OdGePoint3d> DxfTagList::points(Range range, int code) const {
+    std::vector<OdGePoint3d> list;
+    for (std::size_t i = range.begin; i < range.end; ++i) {
+        if (tags[i].code == code)
+            list.push_back({dxfReal(tags[i].value()), 0, 0});
+        else if (tags[i].code == code + 10 && !list.empty())
+            list.back().y = dxfReal(tags[i].value());
+        else if (tags[i].code == code + 20 && !list.empty())
+            list.back().z = dxfReal(tags[i].value());
+    }
+    return list;
+}
+
 void DxfTagList::setPoint(std::string_view subclassName, int code, const OdGePoint3d& value) {
     const double parts[] = {value.x, value.y, value.z};
     std::size_t last = npos;

@@ -59,7 +59,8 @@ public:
 
     double real(Range range, int code, double otherwise = 0) const;
     std::int64_t integer(Range range, int code, std::int64_t otherwise = 0) const;
-    OdGePoint3d point(Range range, int code) const; // codes, code + 10, code + 20
+    OdGePoint3d point(Range range, int code) const;               // codes, code + 10, code + 20
+    std::vector<OdGePoint3d> points(Range range, int code) const; // all of them; what a point lacks is 0
     void setPoint(std::string_view subclassName, int code, const OdGePoint3d& value);
 
 private:
