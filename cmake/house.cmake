@@ -25,6 +25,11 @@ function(house_library name kind)
     add_library(${name} ${kind} ${sources} ${A_EXTRA})
     house_include_dir(${name} ${A_FOLDER})
     target_link_libraries(${name} PUBLIC ${A_USES} PRIVATE ${A_PRIVATE_USES} house_warnings)
+    if("Qt5::Widgets" IN_LIST A_USES)
+        target_precompile_headers(${name} REUSE_FROM precompiled_windows)
+    else()
+        target_precompile_headers(${name} REUSE_FROM precompiled_core)
+    endif()
 endfunction()
 
 # house_test(<folder below tests> USES <targets...>): every *.cpp of the folder becomes one test binary.
@@ -37,6 +42,7 @@ function(house_test folder)
     endif()
     add_executable(${name} ${sources})
     target_link_libraries(${name} PRIVATE ${A_USES} test_support house_warnings)
+    target_precompile_headers(${name} REUSE_FROM precompiled_tests)
     target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
                                                SHIPPED_DATA_DIR="${CMAKE_SOURCE_DIR}/workbench/data")
     # By env(1): a test property keeps no list, so of several variables only the first would arrive.

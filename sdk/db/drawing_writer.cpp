@@ -139,7 +139,7 @@ void OdDbDrawingWriter::prepareHeader() {
         header.set("$HANDSEED", 5, dxfHandleText(impl.nextHandle));
 }
 
-void OdDbDrawingWriter::emit(std::string_view bytes) {
+void OdDbDrawingWriter::writeBytes(std::string_view bytes) {
     if (!result.empty() && result.back().data() + result.back().size() == bytes.data())
         result.back() = {result.back().data(), result.back().size() + bytes.size()};
     else
@@ -173,7 +173,7 @@ void OdDbDrawingWriter::emitFileRecord(OdDbStub& stub) {
     if (isLeftOut(stub))
         return;
     if (&stub == headerBegin && header.isChanged()) {
-        emit(stub.bytes().substr(0, impl.headerStart));
+        writeBytes(stub.bytes().substr(0, impl.headerStart));
         return emitOwned(header.bytes());
     }
     if (&stub == previewBegin && impl.newPreview)
@@ -182,7 +182,7 @@ void OdDbDrawingWriter::emitFileRecord(OdDbStub& stub) {
         return emitObject(stub);
     if (!before.empty() && impl.typeName(stub).compare(0, 6, "TABLE:") == 0)
         return emitTableHead(stub);
-    emit(stub.bytes());
+    writeBytes(stub.bytes());
 }
 
 // A table says how many records it has; that is only rewritten where it has become wrong.
@@ -190,7 +190,7 @@ void OdDbDrawingWriter::emitTableHead(OdDbStub& stub) {
     const auto headed = std::find_if(impl.tables.begin(), impl.tables.end(),
                                      [&stub](const auto& entry) { return entry.second.record == &stub; });
     if (headed == impl.tables.end() || before.count(headed->second.end) == 0)
-        return emit(stub.bytes());
+        return writeBytes(stub.bytes());
     const OdDbTableContent& table = headed->second;
     DxfTagList tags = impl.load(stub)->tags();
     const auto alive = std::count_if(table.entries.begin(), table.entries.end(),

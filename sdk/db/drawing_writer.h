@@ -21,7 +21,7 @@ private:
     void placeNewRecords();
     void placeNewRecord(OdDbStub& stub);
     bool versionLacksPlace() const;
-    void emit(std::string_view bytes);
+    void writeBytes(std::string_view bytes);
     void emitOwned(std::string text);
     void emitTag(int code, std::string_view value);
     void emitFileRecord(OdDbStub& stub);

@@ -6,9 +6,9 @@
 std::size_t OdDbHandleMap::slotOf(std::uint64_t handle) const {
     std::uint64_t mixed = handle * 0x9E3779B97F4A7C15ull;
     mixed ^= mixed >> 29;
-    std::size_t slot = static_cast<std::size_t>(mixed) & (slots.size() - 1);
-    while (slots[slot] && slots[slot]->handle != handle)
-        slot = (slot + 1) & (slots.size() - 1);
+    std::size_t slot = static_cast<std::size_t>(mixed) & (cells.size() - 1);
+    while (cells[slot] && cells[slot]->handle != handle)
+        slot = (slot + 1) & (cells.size() - 1);
     return slot;
 }
 
@@ -26,12 +26,12 @@ bool OdDbHandleMap::insertPlain(OdDbStub* stub) {
 bool OdDbHandleMap::insert(OdDbStub* stub) {
     if (stub->handle < plainEnd)
         return insertPlain(stub);
-    if (used * 3 >= slots.size() * 2)
+    if (used * 3 >= cells.size() * 2)
         grow();
     const std::size_t slot = slotOf(stub->handle);
-    if (slots[slot])
+    if (cells[slot])
         return false;
-    slots[slot] = stub;
+    cells[slot] = stub;
     ++used;
     top = std::max(top, stub->handle);
     return true;
@@ -40,13 +40,13 @@ bool OdDbHandleMap::insert(OdDbStub* stub) {
 OdDbStub* OdDbHandleMap::find(std::uint64_t handle) const {
     if (handle < plainEnd)
         return handle < plain.size() ? plain[static_cast<std::size_t>(handle)] : nullptr;
-    return slots.empty() || handle == 0 ? nullptr : slots[slotOf(handle)];
+    return cells.empty() || handle == 0 ? nullptr : cells[slotOf(handle)];
 }
 
 void OdDbHandleMap::grow() {
-    std::vector<OdDbStub*> old(std::max<std::size_t>(1024, slots.size() * 2));
-    old.swap(slots);
+    std::vector<OdDbStub*> old(std::max<std::size_t>(1024, cells.size() * 2));
+    old.swap(cells);
     for (OdDbStub* stub : old)
         if (stub)
-            slots[slotOf(stub->handle)] = stub;
+            cells[slotOf(stub->handle)] = stub;
 }

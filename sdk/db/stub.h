@@ -68,7 +68,7 @@ private:
     void grow();
     std::vector<OdDbStub*> plain;
     std::uint64_t plainEnd = 0;
-    std::vector<OdDbStub*> slots;
+    std::vector<OdDbStub*> cells;
     std::size_t used = 0;
     std::uint64_t top = 0;
 };
