@@ -28,6 +28,7 @@ const Classes& entityClasses() {
         {"ARC", OdDbArc::desc()},
         {"ELLIPSE", OdDbEllipse::desc()},
         {"SPLINE", OdDbSpline::desc()},
+        {"HELIX", OdDbSpline::desc()},
         {"HATCH", OdDbHatch::desc()},
         {"LEADER", OdDbLeader::desc()},
         {"LWPOLYLINE", OdDbPolyline::desc()},

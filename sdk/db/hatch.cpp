@@ -9,6 +9,7 @@ ODRX_DEFINE_CLASS_WITH_MAKER(OdDbHatch, OdDbEntity)
 
 namespace {
 constexpr std::string_view kHatch = "AcDbHatch";
+constexpr int kStyle = 75;
 constexpr int kPatternLineCount = 78;
 constexpr int kAngle = 53; // the first tag of each family of pattern lines
 constexpr double kDegree = M_PI / 180;
@@ -35,6 +36,11 @@ void readPatternTag(OdDbHatch::PatternLines& lines, int code, double number) {
     }
 }
 } // namespace
+
+OdDbHatch::Style OdDbHatch::style() const {
+    const std::int64_t number = content.integer(content.subclass(kHatch), kStyle);
+    return number == kOutermost || number == kIgnoreInner ? static_cast<Style>(number) : kNormal;
+}
 
 bool OdDbHatch::isSolidFill() const { return content.integer(content.subclass(kHatch), 70) == 1; }
 

@@ -1,4 +1,5 @@
-// Hatched and filled areas. A canvas draws or fills the paths of loops(), odd-even, moved by loopToWorld().
+// Hatched and filled areas. A canvas draws or fills the paths of loops(), as the style says, moved by
+// loopToWorld().
 #pragma once
 
 #include "sdk/db/entity.h"
@@ -17,6 +18,9 @@ public:
             dashes; // dashes, gaps (negative) and dots (0) from the base on; empty: solid lines
     };
 
+    enum Style { kNormal = 0, kOutermost = 1, kIgnoreInner = 2 };
+
+    Style style() const;
     bool isSolidFill() const;
     OdString patternName() const;
     // The borders in the coordinates of the hatch's plane, curved edges as short lines.

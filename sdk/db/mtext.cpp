@@ -1,11 +1,11 @@
 // Paragraph texts: long ones are cut into pieces in the file, and the plain text is without format codes.
 #include "sdk/db/text.h"
 
+#include "sdk/db/mtext_codes.h"
 #include "sdk/dxf/codec.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cwchar>
 
 ODRX_DEFINE_CLASS_WITH_MAKER(OdDbMText, OdDbEntity)
 
@@ -15,26 +15,20 @@ constexpr std::string_view kMText = "AcDbMText";
 constexpr double kLetterWidth = 0.7; // of the height
 constexpr double kLineStep = 5.0 / 3.0;
 
-// What one backslash code stands for; `at` is behind the code's letter and is moved to its end.
-std::wstring plainCode(const std::wstring& text, std::size_t& at) {
-    const wchar_t code = text[at++];
-    if (code == L'P')
+std::wstring plainPiece(const OdDbTextPiece& piece) {
+    switch (piece.kind) {
+    case OdDbTextPiece::kTab:
+        return L"\t";
+    case OdDbTextPiece::kParagraphEnd:
+    case OdDbTextPiece::kColumnEnd:
         return L"\n";
-    if (code == L'~')
-        return L" ";
-    if (std::wcschr(L"\\{}", code))
-        return std::wstring(1, code);
-    if (std::wcschr(L"LlOoKk", code))
-        return {};
-    const std::size_t end = text.find(L';', at);
-    const std::wstring argument = text.substr(at, end == std::wstring::npos ? end : end - at);
-    at = end == std::wstring::npos ? text.size() : end + 1;
-    if (code != L'S')
-        return {};
-    std::wstring fraction = argument;
-    std::replace_if(
-        fraction.begin(), fraction.end(), [](wchar_t c) { return c == L'^' || c == L'#'; }, L'/');
-    return fraction;
+    case OdDbTextPiece::kStack:
+        return piece.bar ? piece.text + L"/" + piece.lower : piece.text;
+    default:
+        std::wstring text = piece.text;
+        std::replace(text.begin(), text.end(), L'\xa0', L' ');
+        return text;
+    }
 }
 
 } // namespace
@@ -75,16 +69,9 @@ void OdDbMText::setContents(const OdString& text) {
 }
 
 OdString OdDbMText::plainText() const {
-    const std::wstring text = contents().wide();
     std::wstring plain;
-    for (std::size_t at = 0; at < text.size();) {
-        if (text[at] == L'\\' && at + 1 < text.size())
-            plain += plainCode(text, ++at);
-        else if (text[at] == L'{' || text[at] == L'}')
-            ++at;
-        else
-            plain += text[at++];
-    }
+    for (const OdDbTextPiece& piece : odDbTextPieces(contents().wide(), textHeight()))
+        plain += plainPiece(piece);
     return plain;
 }
 

@@ -93,6 +93,8 @@ OdString OdDbObject::textValue(std::string_view subclassName, int code) const {
     return found == DxfTagList::npos ? OdString() : codec().decode(content[found].value());
 }
 
+OdString OdDbObject::decoded(std::string_view value) const { return codec().decode(value); }
+
 void OdDbObject::setTextValue(std::string_view subclassName, int code, const OdString& value) {
     edit().set(subclassName, code, codec().encode(value));
 }

@@ -42,6 +42,7 @@ public:
     virtual bool refersToErased() const { return false; }
 
     OdString textValue(std::string_view subclassName, int code) const;
+    OdString decoded(std::string_view value) const; // a text as it stands in a tag
     void setTextValue(std::string_view subclassName, int code, const OdString& value);
 
 protected:

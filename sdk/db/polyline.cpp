@@ -50,15 +50,19 @@ OdDbPolyline::OdDbPolyline() {
 std::vector<OdDbPolylineVertex> OdDbPolyline::vertices() const {
     std::vector<OdDbPolylineVertex> list;
     const DxfTagList::Range range = content.subclass(kLight);
-    const double elevation = content.real(range, 38);
+    const double elevation = content.real(range, 38), common = content.real(range, kWidth);
     for (std::size_t i = range.begin; i < range.end; ++i) {
         const DxfTag& tag = content[i];
         if (tag.code == 10)
-            list.push_back({{dxfReal(tag.value()), 0, elevation}, 0});
+            list.push_back({{dxfReal(tag.value()), 0, elevation}, 0, common, common});
         else if (tag.code == 20 && !list.empty())
             list.back().point.y = dxfReal(tag.value());
         else if (tag.code == 42 && !list.empty())
             list.back().bulge = dxfReal(tag.value());
+        else if (tag.code == kStartWidth && !list.empty())
+            list.back().startWidth = dxfReal(tag.value());
+        else if (tag.code == kEndWidth && !list.empty())
+            list.back().endWidth = dxfReal(tag.value());
     }
     return list;
 }
@@ -106,13 +110,17 @@ void OdDbPolyline::setVertices(const std::vector<OdDbPolylineVertex>& list) {
 
 std::vector<OdDbPolylineVertex> OdDb2dPolyline::vertices() const {
     std::vector<OdDbPolylineVertex> list;
+    const double start = content.real(content.whole(), kStartWidth);
+    const double end = content.real(content.whole(), kEndWidth);
     for (const OdDbObjectId id : odDbSubEntities(objectId())) {
         const OdDbObjectPtr vertex = id.openObject();
         const DxfTagList& tags = vertex->tags();
         if (tags.empty() || tags[0].value() != "VERTEX" ||
             (tags.integer(tags.whole(), kFlags) & kFramePoint) != 0)
             continue;
-        list.push_back({tags.point(tags.whole(), 10), tags.real(tags.whole(), 42)});
+        list.push_back({tags.point(tags.whole(), 10), tags.real(tags.whole(), 42),
+                        tags.real(tags.whole(), kStartWidth, start),
+                        tags.real(tags.whole(), kEndWidth, end)});
     }
     return list;
 }

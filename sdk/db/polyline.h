@@ -6,7 +6,8 @@
 
 struct OdDbPolylineVertex {
     OdGePoint3d point;
-    double bulge = 0; // of the segment that starts here
+    double bulge = 0; // of the segment that starts here, like the widths
+    double startWidth = 0, endWidth = 0;
 };
 
 class OdDbPolylineBase : public OdDbEntity {

@@ -12,6 +12,8 @@ constexpr int kKnot = 40;
 constexpr int kWeight = 41;
 constexpr int kControl = 10;
 constexpr int kFit = 11;
+constexpr int kStartTangent = 12;
+constexpr int kEndTangent = 13;
 } // namespace
 
 bool OdDbSpline::isClosed() const { return content.integer(content.subclass(kSpline), kFlags) & kClosed; }
@@ -36,10 +38,26 @@ OdDbSplineCurve OdDbSpline::curve() const {
 
 std::vector<OdGePoint3d> OdDbSpline::fitPoints() const { return points(kFit); }
 
+// A closed one that says nothing about its ends goes through its start as smoothly as through the others.
+std::vector<OdGePoint3d> OdDbSpline::fitPath(int piecesOfSpan) const {
+    std::vector<OdGePoint3d> list = fitPoints();
+    const DxfTagList::Range range = content.subclass(kSpline);
+    OdGeVector3d start = content.point(range, kStartTangent).asVector();
+    OdGeVector3d end = content.point(range, kEndTangent).asVector();
+    if (isClosed() && list.size() > 2) {
+        if (list.front() == list.back())
+            list.pop_back();
+        if (start.isZeroLength() && end.isZeroLength())
+            start = end = list[1] - list.back();
+        list.push_back(list.front());
+    }
+    return odDbCurveThrough(list, piecesOfSpan, start, end);
+}
+
 std::vector<OdGePoint3d> OdDbSpline::path(int piecesOfSpan) const {
     std::vector<OdGePoint3d> list = curve().path(piecesOfSpan);
     if (list.empty())
-        list = fitPoints();
+        list = fitPath(piecesOfSpan);
     if (isClosed() && !list.empty() && list.front() != list.back())
         list.push_back(list.front());
     return list;

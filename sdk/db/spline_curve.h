@@ -19,3 +19,9 @@ private:
     double weight(std::size_t control) const { return weights.empty() ? 1 : weights[control]; }
     OdGePoint3d pointAt(std::size_t span, double parameter) const;
 };
+
+// A smooth path through all the points, from the first to the last. Where a direction is given the path
+// starts, or ends, in it.
+std::vector<OdGePoint3d> odDbCurveThrough(const std::vector<OdGePoint3d>& points, int piecesOfSpan,
+                                          const OdGeVector3d& startDirection = {},
+                                          const OdGeVector3d& endDirection = {});

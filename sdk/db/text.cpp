@@ -72,3 +72,9 @@ bool OdDbAttribute::isInvisible() const { return content.integer(content.subclas
 
 OdString OdDbAttributeDefinition::tag() const { return textValue("AcDbAttributeDefinition", 2); }
 OdString OdDbAttributeDefinition::prompt() const { return textValue("AcDbAttributeDefinition", 3); }
+bool OdDbAttributeDefinition::isConstant() const {
+    return (content.integer(content.subclass("AcDbAttributeDefinition"), 70) & 2) != 0;
+}
+bool OdDbAttributeDefinition::isInvisible() const {
+    return (content.integer(content.subclass("AcDbAttributeDefinition"), 70) & 1) != 0;
+}

@@ -45,6 +45,8 @@ public:
     OdDbAttributeDefinition() : OdDbText("ATTDEF") {}
     OdString tag() const;
     OdString prompt() const;
+    bool isConstant() const; // a text of its block that references do not repeat
+    bool isInvisible() const;
 };
 
 class OdDbMText : public OdDbEntity {

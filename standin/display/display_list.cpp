@@ -38,6 +38,9 @@ bool DisplayList::touchesMoreThanItself(const OdDbObjectId& id) const {
 }
 
 void DisplayList::refresh() {
+    const DrawingVariables now = DrawingVariables::of(*drawing);
+    everything |= !(now == variables);
+    variables = now;
     if (stale.empty() && !everything)
         return;
     ++changes;
@@ -120,7 +123,7 @@ std::vector<const Item*> DisplayList::within(const Box& box) const {
 Box DisplayList::extents() const {
     Box box;
     for (const Item& item : items)
-        box.add(item.box);
+        box.add(extentsOf(item));
     return box;
 }
 

@@ -52,6 +52,7 @@ private:
     std::unordered_map<OdDbObjectId, int> places;
     SpatialIndex index;
     std::unordered_set<OdDbObjectId> stale, marked;
+    DrawingVariables variables;
     std::uint64_t changes = 0;
     bool everything = true;
 };

@@ -2,6 +2,7 @@
 
 #include "standin/display/clipping.h"
 #include "standin/display/letters.h"
+#include "standin/display/point_mark.h"
 
 #include <QPainterPath>
 #include <QTransform>
@@ -47,17 +48,29 @@ void ItemPainter::setPen(const QPen& pen) {
 QColor ItemPainter::colorOf(Ink ink) const {
     if (hasOwnPen)
         return ownPen.color();
-    return ink == kForeground ? standOut : QColor(ink);
+    QColor color = ink == kForeground ? standOut : QColor(ink);
+    color.setAlpha(opacity);
+    return color;
 }
 
-void ItemPainter::use(Ink ink) {
-    if (ink != current || lines.size() >= mostWaiting)
+QPen ItemPainter::currentPen() const {
+    if (hasOwnPen)
+        return ownPen;
+    const double width = weightInPixels(weight);
+    return QPen(colorOf(current), width > 1 ? width : 0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+}
+
+void ItemPainter::use(const Shape& shape) {
+    if (shape.ink != current || shape.weight != weight || shape.opacity != opacity ||
+        lines.size() >= mostWaiting)
         flush();
-    current = ink;
+    current = shape.ink;
+    weight = shape.weight;
+    opacity = shape.opacity;
 }
 
 void ItemPainter::flush() {
-    target.setPen(hasOwnPen ? ownPen : QPen(colorOf(current), 0));
+    target.setPen(currentPen());
     target.setBrush(Qt::NoBrush);
     if (!lines.isEmpty())
         target.drawLines(lines);
@@ -71,7 +84,7 @@ void ItemPainter::draw(const Item& item) {
     const double size = std::max(item.box.width(), item.box.height()) * shownView.scale();
     const bool isPlain = item.shapes.front().kind != Shape::Missing && item.shapes.front().kind != Shape::Dot;
     if (size < smallestItem && isPlain) {
-        use(item.shapes.front().ink);
+        use(item.shapes.front());
         dots.append(shownView.toPixel(item.box.center()));
         return;
     }
@@ -80,7 +93,11 @@ void ItemPainter::draw(const Item& item) {
 }
 
 void ItemPainter::draw(const Shape& shape) {
-    use(shape.ink);
+    use(shape);
+    drawPart(shape);
+}
+
+void ItemPainter::drawPart(const Shape& shape) {
     switch (shape.kind) {
     case Shape::Path:
         return drawRun(shape.points, shape.dashes);
@@ -90,15 +107,23 @@ void ItemPainter::draw(const Shape& shape) {
         return drawFill(shape);
     case Shape::Text:
         return drawText(shape);
-    case Shape::Dot: {
-        const QPointF at = shownView.toPixel(shape.points[0]);
-        addLine(at - QPointF(1, 0), at + QPointF(1, 0), nullptr);
-        addLine(at - QPointF(0, 1), at + QPointF(0, 1), nullptr);
-        return;
-    }
+    case Shape::Dot:
+        return drawDot(shape);
     case Shape::Missing:
         return drawMissing(shape);
     }
+}
+
+void ItemPainter::drawDot(const Shape& dot) {
+    if (dot.points.size() > 1) {
+        const double size = shownView.size().height() * dot.points[1].y() / 100 / shownView.scale();
+        for (const Shape& part : pointMark(static_cast<int>(dot.points[1].x()), dot.points[0], size))
+            drawPart(part);
+        return;
+    }
+    const QPointF at = shownView.toPixel(dot.points[0]);
+    addLine(at - QPointF(1, 0), at + QPointF(1, 0), nullptr);
+    addLine(at - QPointF(0, 1), at + QPointF(0, 1), nullptr);
 }
 
 void ItemPainter::drawRun(const std::vector<QPointF>& points, const Dashes& dashes) {
@@ -161,10 +186,10 @@ void ItemPainter::paintFill(const Shape& fill) {
     const bool isSolid = !fill.area || fill.area->isSolid;
     QColor color = colorOf(fill.ink);
     if (!isSolid)
-        color.setAlpha(shadeAlpha);
+        color.setAlpha(shadeAlpha * opacity / 255);
     const bool smooth = target.testRenderHint(QPainter::Antialiasing);
     target.setRenderHint(QPainter::Antialiasing, false); // no seams between areas that touch
-    target.setPen(isSolid ? QPen(color, 0) : QPen(Qt::NoPen));
+    target.setPen(isSolid && opacity == 255 ? QPen(color, 0) : QPen(Qt::NoPen));
     target.setBrush(color);
     target.drawPath(path);
     target.setRenderHint(QPainter::Antialiasing, smooth);
@@ -183,7 +208,7 @@ void ItemPainter::drawText(const Shape& text) {
     const QPointF along = text.points[1] * shownView.scale(), up = text.points[2] * shownView.scale();
     target.save();
     target.setTransform(QTransform(along.x(), -along.y(), up.x(), -up.y(), origin.x(), origin.y()), true);
-    target.fillPath(lettersOf(text.text).outline, colorOf(text.ink));
+    target.fillPath(lettersOf(text.text, text.isBold).outline, colorOf(text.ink));
     target.restore();
 }
 

@@ -23,6 +23,8 @@ public:
 
 private:
     void draw(const Shape& shape);
+    void drawPart(const Shape& shape); // in the pen that is in use
+    void drawDot(const Shape& dot);
     void drawText(const Shape& text);
     void drawMissing(const Shape& mark);
     void drawRun(const std::vector<QPointF>& points, const Dashes& dashes);
@@ -31,7 +33,8 @@ private:
     void drawOutline(const Shape& fill);
     void paintFill(const Shape& fill);
     QColor colorOf(Ink ink) const;
-    void use(Ink ink);
+    void use(const Shape& shape);
+    QPen currentPen() const;
     void flush();
 
     QPainter& target;
@@ -41,6 +44,8 @@ private:
     QPen ownPen;
     bool hasOwnPen = false;
     Ink current = kForeground;
+    int weight = 0;
+    int opacity = 255;
     QVector<QLineF> lines; // waiting to be painted in the current ink
     QVector<QPointF> dots;
 };

@@ -9,7 +9,13 @@ namespace {
 LayerLook lookOf(const OdDbLayerTableRecord& layer, const Linetypes& types) {
     const Ink ink =
         layer.hasTrueColor() ? Ink(layer.trueColor() | 0xff000000u) : inkOfIndex(layer.colorIndex());
-    return {ink, layer.isOff(), layer.isFrozen(), types.of(layer.linetype())};
+    const int weight = lineWeightOf(layer.tags());
+    return {ink,
+            layer.isOff(),
+            layer.isFrozen(),
+            types.of(layer.linetype()),
+            weight >= 0 ? weight : kDefaultWeight,
+            layerOpacityOf(layer.tags())};
 }
 
 } // namespace
@@ -20,7 +26,8 @@ Ink inkOfIndex(int index) {
     return OdCmEntityColor::lookUpRGB(static_cast<std::uint8_t>(index)) | 0xff000000u;
 }
 
-LayerLooks::LayerLooks(const OdDbDatabase& drawing) : types(drawing) {
+LayerLooks::LayerLooks(const OdDbDatabase& drawing)
+    : header(DrawingVariables::of(drawing)), types(drawing, header.linetypeScale), styles(drawing) {
     const auto layers = odrxQuery<OdDbLayerTable>(drawing.getLayerTableId().openObject().get());
     if (layers.isNull())
         return;

@@ -1,9 +1,12 @@
-// What the layers of a drawing say about how their objects look.
+// What the tables and variables of a drawing say about how its objects look.
 #pragma once
 
 #include "sdk/db/database.h"
 #include "sdk/db/layer_table.h"
+#include "standin/display/drawing_variables.h"
+#include "standin/display/pen_look.h"
 #include "standin/display/shape.h"
+#include "standin/display/text_styles.h"
 
 #include <unordered_map>
 
@@ -14,6 +17,8 @@ struct LayerLook {
     bool off = false;
     bool frozen = false;
     Dashes dashes;
+    int weight = kDefaultWeight; // in hundredths of a millimetre
+    std::uint8_t opacity = 255;
 };
 
 // Of the palette; 7, which is white or black, is the foreground.
@@ -24,9 +29,13 @@ public:
     explicit LayerLooks(const OdDbDatabase& drawing);
     const LayerLook& of(const OdString& layer) const; // a missing layer is shown in the foreground
     const Linetypes& linetypes() const { return types; }
+    const TextStyles& textStyles() const { return styles; }
+    const DrawingVariables& variables() const { return header; }
 
 private:
+    DrawingVariables header;
     Linetypes types;
+    TextStyles styles;
     std::unordered_map<std::wstring, LayerLook> looks; // by name in small letters
 };
 

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QTransform>
+#include <utility>
 
 namespace standin {
 
@@ -12,15 +13,16 @@ namespace {
 const int fontSize = 100; // large, so that the outlines are exact
 const int cachedTexts = 20000;
 
-QFont drawingFont() {
+QFont drawingFont(bool isBold) {
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPixelSize(fontSize);
+    font.setBold(isBold);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
 
-Letters* makeLetters(const QString& text) {
-    const QFont font = drawingFont();
+Letters* makeLetters(const QString& text, bool isBold) {
+    const QFont font = drawingFont(isBold);
     const QFontMetricsF metrics(font);
     const double size = 1 / metrics.capHeight();
     QPainterPath path;
@@ -30,12 +32,12 @@ Letters* makeLetters(const QString& text) {
 
 } // namespace
 
-const Letters& lettersOf(const QString& text) {
-    static QCache<QString, Letters> made(cachedTexts);
-    Letters* found = made.object(text);
+const Letters& lettersOf(const QString& text, bool isBold) {
+    static QCache<std::pair<QString, bool>, Letters> made(cachedTexts);
+    Letters* found = made.object({text, isBold});
     if (!found) {
-        found = makeLetters(text);
-        made.insert(text, found);
+        found = makeLetters(text, isBold);
+        made.insert({text, isBold}, found);
     }
     return *found;
 }

@@ -12,6 +12,6 @@ struct Letters {
     double width = 0;
 };
 
-const Letters& lettersOf(const QString& text);
+const Letters& lettersOf(const QString& text, bool isBold = false);
 
 } // namespace standin

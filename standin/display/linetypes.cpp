@@ -19,23 +19,12 @@ Dashes patternOf(const OdDbSymbolTableRecord& linetype, double scale) {
     return lengths.empty() ? nullptr : std::make_shared<const std::vector<double>>(std::move(lengths));
 }
 
-// 1 in a drawing that does not tell.
-double drawingScale(const OdDbDatabase& drawing) {
-    try {
-        const double scale = drawing.getSysVar(L"LTSCALE")->getDouble();
-        return scale > 0 ? scale : 1;
-    } catch (const OdError&) {
-        return 1;
-    }
-}
-
 } // namespace
 
-Linetypes::Linetypes(const OdDbDatabase& drawing) {
+Linetypes::Linetypes(const OdDbDatabase& drawing, double scale) {
     const auto table = odrxQuery<OdDbSymbolTable>(drawing.getLinetypeTableId().openObject().get());
     if (table.isNull())
         return;
-    const double scale = drawingScale(drawing);
     for (auto it = table->newIterator(); !it.done(); it.step()) {
         const OdDbSymbolTableRecordPtr record = it.getRecord();
         if (!record.isNull())

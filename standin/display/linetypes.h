@@ -16,7 +16,8 @@ using Dashes = std::shared_ptr<const std::vector<double>>;
 
 class Linetypes {
 public:
-    explicit Linetypes(const OdDbDatabase& drawing);
+    // `scale` lengthens all of them.
+    Linetypes(const OdDbDatabase& drawing, double scale);
     Dashes of(const OdString& name) const; // null, too, for a line type that is missing
     // The pattern `times` as long.
     static Dashes scaled(const Dashes& dashes, double times);

@@ -71,7 +71,7 @@ void SceneImage::paint(const DisplayList& list, const QRect& part) {
     QPainter painter(&image);
     painter.setClipRect(part);
     painter.fillRect(part, background);
-    const QRect around = part.adjusted(-2, -2, 2, 2); // lines are a little wider than nothing
+    const QRect around = part.adjusted(-5, -5, 5, 5); // half the thickest line, and a little more
     const std::vector<const Item*> items =
         list.within(drawingBox(painted, around).grown(kMissingMark / painted.scale()));
     painter.setRenderHint(QPainter::Antialiasing, items.size() <= mostSmoothItems);

@@ -29,6 +29,11 @@ Box boxOfArc(const Shape& arc) {
 
 } // namespace
 
+double weightInPixels(int weight) {
+    const double dotsPerHundredth = 96 / 2540.0;
+    return std::max(1.0, weight * dotsPerHundredth);
+}
+
 std::vector<QPointF> arcPoints(const Shape& arc, double scale) {
     const double radius = std::max(std::hypot(arc.points[1].x(), arc.points[1].y()),
                                    std::hypot(arc.points[2].x(), arc.points[2].y())) *
@@ -45,7 +50,7 @@ std::vector<QPointF> arcPoints(const Shape& arc, double scale) {
 }
 
 std::vector<QPointF> textCorners(const Shape& text) {
-    const double width = lettersOf(text.text).width;
+    const double width = lettersOf(text.text, text.isBold).width;
     const QPointF along = text.points[1] * width, up = text.points[2];
     const QPointF corner = text.points[0] - along * text.points[3].x() - up * text.points[3].y();
     return {corner, corner + along, corner + along + up, corner + up};
@@ -80,9 +85,20 @@ bool isInside(const Shape& fill, const QPointF& point) {
     return fill.area && fill.area->rule == Qt::WindingFill ? turns != 0 : turns % 2 != 0;
 }
 
+Box extentsOf(const Item& item) {
+    if (!item.isEndless)
+        return item.box;
+    Box box;
+    for (const Shape& shape : item.shapes)
+        box.add(shape.isEndless ? boxOf(shape.points[0], shape.points[0]) : boxOf(shape));
+    return box;
+}
+
 Box boxOf(const Shape& shape) {
     if (shape.kind == Shape::Arc)
         return boxOfArc(shape);
+    if (shape.kind == Shape::Dot)
+        return boxOf(shape.points[0], shape.points[0]);
     Box box;
     for (const QPointF& point : shape.kind == Shape::Text ? textCorners(shape) : shape.points)
         box.add(point);

@@ -8,6 +8,7 @@
 #include <QLineF>
 #include <QRgb>
 #include <QString>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -28,12 +29,12 @@ struct Area {
 
 struct Shape {
     enum Kind {
-        Path,   // points joined by lines
-        Fill,   // the borders of a filled area, one after the other
-        Arc,    // centre, the vectors to the angles 0 and 90 degrees, then start and sweep in radians
-        Text,   // origin, the vectors of one letter height along and up, then how much of the width and the
-                // height lies before the origin
-        Dot,    // one point
+        Path, // points joined by lines
+        Fill, // the borders of a filled area, one after the other
+        Arc,  // centre, the vectors to the angles 0 and 90 degrees, then start and sweep in radians
+        Text, // origin, the vectors of one letter height along and up, then how much of the width and the
+              // height lies before the origin
+        Dot,  // one point; with a second one a mark: PDMODE, then its size in percent of the window's height
         Missing // one point: a reference without contents
     };
     Kind kind = Path;
@@ -42,13 +43,25 @@ struct Shape {
     QString text;
     Dashes dashes{};                    // of a path or an arc
     std::shared_ptr<const Area> area{}; // of a fill; null for a solid one with one border
+    std::int16_t weight = 0;            // of the lines, in hundredths of a millimetre; 0 is one pixel
+    std::uint8_t opacity = 255;         // 0 is not to be seen
+    bool isBold = false;                // of a text
+    bool isEndless = false;             // a path: it counts for the size of the drawing by its start alone
 };
+
+// Pixels across a line of this weight, on a screen of 96 dots to the inch.
+double weightInPixels(int weight);
 
 struct Item {
     OdDbObjectId id;
     Box box;
     std::vector<Shape> shapes;
+    bool isEndless = false; // there are shapes without end
+    bool isCut = false;     // there would be more shapes than can be shown
 };
+
+// What the item adds to the size of its drawing.
+Box extentsOf(const Item& item);
 
 // The points of an arc, so many that it is smooth at this number of pixels for a unit.
 std::vector<QPointF> arcPoints(const Shape& arc, double scale);

@@ -10,4 +10,14 @@ namespace standin {
 // of which nothing can be made.
 std::vector<std::vector<QPointF>> wideBorders(const std::vector<QPointF>& path, bool closed, double width);
 
+// A path whose width goes evenly from one number to another.
+struct TaperedSegment {
+    std::vector<QPointF> path; // two points or more
+    double startWidth = 0, endWidth = 0;
+};
+
+// The same for segments that follow each other; where they meet in one width their corner is mitred. Segments
+// without any width are left as narrow as nothing.
+std::vector<std::vector<QPointF>> taperedBorders(const std::vector<TaperedSegment>& segments, bool closed);
+
 } // namespace standin

@@ -1,9 +1,7 @@
 // Splines, hatches, leaders and wide polylines: their shapes, how they are painted and where they are picked.
-#include "sdk/db/block_table.h"
-#include "standin/display/display_list.h"
 #include "standin/display/marks_image.h"
 #include "standin/display/picking.h"
-#include "standin/display/scene_image.h"
+#include "tests/standin/shown_drawing.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -11,14 +9,8 @@
 namespace {
 
 using namespace standin;
+using namespace shown;
 
-std::string head(const char* name, const char* marker, const std::string& common = "8\n0\n") {
-    return std::string("0\n") + name + "\n100\nAcDbEntity\n" + common + "100\n" + marker + "\n";
-}
-std::string point(int code, double x, double y) {
-    return std::to_string(code) + "\n" + std::to_string(x) + "\n" + std::to_string(code + 10) + "\n" +
-           std::to_string(y) + "\n";
-}
 std::string square(double from, double to) {
     return "92\n2\n72\n0\n73\n1\n93\n4\n" + point(10, from, from) + point(10, to, from) + point(10, to, to) +
            point(10, from, to) + "97\n0\n";
@@ -41,42 +33,6 @@ std::string leader(const std::string& vertices, const std::string& more = {}) {
 const std::string kArrowOf3 = "1001\nACAD\n1000\nDSTYLE\n1002\n{\n1070\n41\n1040\n3.0\n1002\n}\n";
 
 std::string polyline(const std::string& rest) { return head("LWPOLYLINE", "AcDbPolyline") + rest; }
-
-std::string layers() {
-    return "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n70\n1\n0\nLAYER\n100\nAcDbSymbolTableRecord\n100\n"
-           "AcDbLayerTableRecord\n2\nRed\n70\n0\n62\n1\n6\nCONTINUOUS\n0\nENDTAB\n0\nENDSEC\n";
-}
-
-struct Drawing {
-    explicit Drawing(const std::string& entities, const std::string& blocks = {})
-        : list(OdDbDatabase::readBytes("0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1015\n0\nENDSEC\n" +
-                                       layers() + blocks + "0\nSECTION\n2\nENTITIES\n" + entities +
-                                       "0\nENDSEC\n0\nEOF\n")) {
-        list.refresh();
-        items = list.within({-1e15, -1e15, 1e15, 1e15});
-    }
-    const Shape& shape(std::size_t number = 0) const { return items.at(0)->shapes.at(number); }
-    DisplayList list;
-    std::vector<const Item*> items;
-};
-
-// The drawing on a black screen of 100 by 100 pixels; pixels are looked at by their place in the drawing.
-class Screen {
-public:
-    Screen(const Drawing& drawing, const Box& box) {
-        view.resize({100, 100});
-        view.fit(box);
-        scene.setBackground(Qt::black);
-        image = scene.of(drawing.list, view, 1).toImage();
-    }
-    QColor at(double x, double y) const { return image.pixelColor(view.toPixel({x, y}).toPoint()); }
-    int grey(double x, double y) const { return qGray(at(x, y).rgb()); }
-
-private:
-    View view;
-    SceneImage scene;
-    QImage image;
-};
 
 TEST(SplineDisplay, IsAPathAlongTheCurve) {
     const Drawing drawing(head("SPLINE", "AcDbSpline") +
@@ -257,12 +213,6 @@ TEST(WidePolylineDisplay, AClosedOneIsARingAndItsArcsBend) {
         EXPECT_EQ(screen.at(5 * std::cos(angle), 5 * std::sin(angle)), QColor(Qt::white)) << step;
         EXPECT_EQ(screen.at(3 * std::cos(angle), 3 * std::sin(angle)), QColor(Qt::black)) << step;
     }
-}
-
-TEST(WidePolylineDisplay, OneOfVaryingWidthIsItsMiddleLine) {
-    const Drawing drawing(polyline("70\n0\n" + point(10, 0, 0) + "40\n1.0\n41\n2.0\n" + point(10, 10, 0) +
-                                   "40\n2.0\n41\n2.0\n"));
-    EXPECT_EQ(drawing.shape().kind, Shape::Path);
 }
 
 // Each of them is nothing to see.
