@@ -10,7 +10,7 @@ public:
     ClickableLabel(const QString& text, QWidget* parent, int enabled);
 
 signals:
-    void doubleClicked();
+    void doubleClicked(); // a slot may delete the label
 
 protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;

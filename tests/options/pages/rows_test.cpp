@@ -173,6 +173,46 @@ TEST_F(Row, AnyNumberButZeroSwitchesTheDoubleClickOn) {
     EXPECT_EQ(spy.count(), 1);
 }
 
+// Counts the double clicks that a widget is offered.
+class DoubleClicks : public QObject {
+public:
+    explicit DoubleClicks(QWidget* watched) { watched->installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::MouseButtonDblClick;
+        return false;
+    }
+};
+
+TEST_F(Row, DoubleClickGoesOnToTheRowAfterItWasTold) {
+    make("Snap mode", 1);
+    const DoubleClicks offered(row.get());
+    int offeredWhenTold = -1;
+    QObject::connect(row->label(), &ClickableLabel::doubleClicked, row.get(),
+                     [&] { offeredWhenTold = offered.count; });
+    QTest::mouseDClick(row->label(), Qt::LeftButton);
+    EXPECT_EQ(offeredWhenTold, 0);
+    EXPECT_EQ(offered.count, 1);
+    QTest::mouseDClick(row->label(), Qt::RightButton);
+    EXPECT_EQ(offered.count, 2) << "also one that isn't told";
+}
+
+TEST_F(Row, ADoubleClickThatDeletesTheLabelEndsThere) {
+    make("Snap mode", 1);
+    const DoubleClicks offered(row.get());
+    ClickableLabel* label = row->label();
+    QObject::connect(label, &ClickableLabel::doubleClicked, [label] { delete label; });
+    const QPointF centre = label->rect().center();
+    QMouseEvent event(QEvent::MouseButtonDblClick, centre, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    event.ignore();
+    QCoreApplication::sendEvent(label, &event);
+    EXPECT_EQ(row->findChild<ClickableLabel*>(), nullptr);
+    EXPECT_TRUE(event.isAccepted());
+    EXPECT_EQ(offered.count, 0);
+}
+
 TEST_F(Row, LabelIsTheFirstLabelBelowTheRow) {
     make("Snap mode", 0, new QCheckBox);
     EXPECT_EQ(row->findChild<QLabel*>(), row->label());
