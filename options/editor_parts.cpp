@@ -1,12 +1,14 @@
 // The parts that the line edits and the other editors have in common.
 #include "options/editor_parts.h"
 
+#include "host/tool_tip.h"
 #include "module/icons/icons.h"
 #include "options/icon_numbers.h"
 #include "options/pages/line_edit.h"
 #include "options/preferences.h"
 
 #include <QAction>
+#include <QTreeWidget>
 
 void nameEditor(QWidget* editor, const TreeItem* item) {
     editor->setObjectName(QString::fromUtf8(item->nodeName));
@@ -22,7 +24,10 @@ void addBrowseAction(Preferences& preferences, LineEdit* edit, QAction* action) 
 
 void showText(LineEdit* edit, const QString& text) {
     edit->setText(text);
-    edit->setToolTip(text);
+    edit->setToolTip(hostqt::plainToolTip(text));
 }
 
-IParam* Preferences::parentNode(TreeItem* item) const { return optionItems.value(item->parentItem()); }
+void focusPicked(LineEdit* edit, TreeItem* item) {
+    item->treeWidget()->setCurrentItem(item);
+    edit->setFocus(Qt::OtherFocusReason);
+}

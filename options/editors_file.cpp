@@ -2,6 +2,7 @@
 #include "options/preferences.h"
 
 #include "host/text.h"
+#include "host/tool_tip.h"
 #include "options/editor_parts.h"
 #include "options/file_filters.h"
 #include "options/option_values.h"
@@ -41,8 +42,10 @@ void pickFiles(const FileRow& row) {
         start = QFileInfo(row.edit->text()).absoluteFilePath();
     const QStringList files = QFileDialog::getOpenFileNames(row.preferences, QString(), start, filter);
     const QString joined = filterByExtension(files, extensions);
-    if (!joined.isEmpty())
-        takeFiles(row, joined);
+    if (joined.isEmpty())
+        return;
+    takeFiles(row, joined);
+    focusPicked(row.edit, row.item);
 }
 
 // An emptied field is refused without a word, text of a wrong extension with the message. That is meant.
@@ -64,7 +67,7 @@ void Preferences::buildFileEdit(TreeItem* item, IParam* node, int id) {
     const QString value = hostqt::qString(textOrDefault(node, parentNode(item)));
     auto* edit = new LineEdit(item, tree, value, nullptr);
     nameEditor(edit, item);
-    edit->setToolTip(value);
+    edit->setToolTip(hostqt::plainToolTip(value));
     item->textValue = value;
     item->buttonMask = kMaskModify;
     edit->setCursorPosition(0);

@@ -3,6 +3,7 @@
 
 #include "host/qt_ui_core.h"
 #include "host/text.h"
+#include "host/tool_tip.h"
 #include "options/editor_parts.h"
 #include "options/expand_environment.h"
 #include "options/option_values.h"
@@ -32,12 +33,14 @@ QString askDirectory(Preferences& preferences, const QString& start) {
 }
 
 // The item's value isn't touched: it follows when the edit is finished, which is meant.
-void pickDirectory(Preferences& preferences, LineEdit* edit) {
+void pickDirectory(Preferences& preferences, LineEdit* edit, TreeItem* item) {
     const QString typed = QDir::toNativeSeparators(edit->text().trimmed());
     const bool usable = !typed.isEmpty() && QDir().exists(typed);
     const QString chosen = askDirectory(preferences, usable ? typed : lastValidPath(edit));
-    if (!chosen.isEmpty())
-        takeDirectory(edit, chosen);
+    if (chosen.isEmpty())
+        return;
+    takeDirectory(edit, chosen);
+    focusPicked(edit, item);
 }
 
 // The nearest directory above `typed` that exists, as far as the walk up gets.
@@ -91,10 +94,11 @@ void validateDirectory(Preferences& preferences, LineEdit* edit, TreeItem* item)
 
 void connectDirectory(Preferences& preferences, LineEdit* edit, QAction* browse, TreeItem* item) {
     QObject::connect(browse, &QAction::triggered, edit,
-                     [&preferences, edit] { pickDirectory(preferences, edit); });
+                     [&preferences, edit, item] { pickDirectory(preferences, edit, item); });
     QObject::connect(edit, &QLineEdit::editingFinished, edit,
                      [&preferences, edit, item] { validateDirectory(preferences, edit, item); });
-    QObject::connect(edit, &QLineEdit::textChanged, edit, &QLineEdit::setToolTip);
+    QObject::connect(edit, &QLineEdit::textChanged, edit,
+                     [edit](const QString& text) { edit->setToolTip(hostqt::plainToolTip(text)); });
 }
 
 } // namespace
@@ -106,11 +110,11 @@ void Preferences::buildEdit(TreeItem* item, IParam* node) {
     item->textValue = value;
     item->buttonMask = kMaskModify;
     edit->setCursorPosition(0);
-    edit->setToolTip(value);
+    edit->setToolTip(hostqt::plainToolTip(value));
     makeRow(1, item, edit, false, 1);
     connect(edit, &QLineEdit::textChanged, edit, [edit, item](const QString& text) {
         item->textValue = text.trimmed();
-        edit->setToolTip(item->textValue);
+        edit->setToolTip(hostqt::plainToolTip(item->textValue));
     });
 }
 
@@ -120,7 +124,7 @@ void Preferences::buildDirEdit(TreeItem* item, IParam* node) {
     auto* edit = new LineEdit(item, tree, text, nullptr);
     nameEditor(edit, item);
     edit->setCursorPosition(0);
-    edit->setToolTip(text);
+    edit->setToolTip(hostqt::plainToolTip(text));
     edit->setProperty(kLastValidPath, text);
     item->textValue = text;
     item->buttonMask = kMaskModify;

@@ -34,12 +34,13 @@ public:
     explicit Preferences(QWidget* parent, Qt::WindowFlags flags = {});
     ~Preferences() override; // writes nothing
 
-    // The walk (option_walk.cpp).
+    // The walk (option_walk.cpp), and what stands on which item (tree_rows.cpp).
     void rebuildTree(bool fromConfiguration);
     void buildNode(IParam* node, const char* nodeName, TreeItem* parentItem);
     QPrefWidget* makeRow(int position, TreeItem* item, QWidget* editor, bool cutAtAngleBracket,
                          int doubleClickEnabled);
     void forgetItem(TreeItem* item); // takes a row that goes away, and all below it, out of every map
+    IParam* parentNode(TreeItem* item) const; // node of the parent item, null if the map has none
 
     // The rules (preferences_rules.cpp, row_operations.cpp, row_moves.cpp).
     void refreshButtons(TreeItem* item);
@@ -69,7 +70,6 @@ public:
     void setChildrenDisabled(TreeItem* item, bool disable);
     void updateGroupLabel(TreeItem* item, TreeItem* parentItem);
     void pickColor(QToolButton* button, TreeItem* item);
-    IParam* parentNode(TreeItem* item) const; // node of the parent item, null if the map has none
 
     QTreeWidget* tree = nullptr;
     CollapseWidget* collapseWidget = nullptr;

@@ -64,6 +64,8 @@ void Preferences::clearTree() {
     paperRootItem = nullptr;
 }
 
+IParam* Preferences::parentNode(TreeItem* item) const { return optionItems.value(item->parentItem()); }
+
 // A new item may come to lie at the address of one that is gone, so nothing may remember that.
 void Preferences::forgetItem(TreeItem* item) {
     for (int i = 0; i < item->childCount(); ++i)

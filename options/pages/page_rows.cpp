@@ -10,7 +10,7 @@
 #include <QIcon>
 #include <QTreeWidget>
 
-QIcon iconOf(const TreeItem* item) { return item->data(0, Qt::DecorationRole).value<QIcon>(); }
+QIcon iconOf(const QTreeWidgetItem* item) { return item->data(0, Qt::DecorationRole).value<QIcon>(); }
 
 QString labelText(const Preferences& preferences, TreeItem* item) {
     const QPrefWidget* row = preferences.rowWidgets.value(item);

@@ -5,10 +5,11 @@ class Preferences;
 class QCheckBox;
 class QIcon;
 class QString;
+class QTreeWidgetItem;
 class TreeItem;
 
 // The icon of an item, or an empty one when its decoration is something else.
-QIcon iconOf(const TreeItem* item);
+QIcon iconOf(const QTreeWidgetItem* item);
 // A row's text as its label shows it, with the marks of a search in it; empty for an item without a row.
 QString labelText(const Preferences& preferences, TreeItem* item);
 // The same without the marks.

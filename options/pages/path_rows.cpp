@@ -3,6 +3,9 @@
 
 #include "host/std_dirs.h"
 #include "host/text.h"
+#include "host/tool_tip.h"
+#include "options/pages/clickable_label.h"
+#include "options/pages/pref_widget.h"
 #include "options/preferences.h"
 
 #include <QIcon>
@@ -18,8 +21,18 @@ TreeItem* makePathItem(Preferences& preferences, TreeItem* section, const QIcon&
     item->numberValue = section->numberValue;
     item->description = section->description;
     item->payload = Ref<IStdDirInfo>(info).detach();
-    preferences.makeRow(2, item, nullptr, true, doubleClickEnabled);
+    makePathRow(preferences, item, doubleClickEnabled);
     return item;
+}
+
+void makePathRow(Preferences& preferences, TreeItem* item, int doubleClickEnabled) {
+    QPrefWidget* row = preferences.makeRow(2, item, nullptr, true, doubleClickEnabled);
+    showPath(*row, row->label()->text());
+}
+
+void showPath(QPrefWidget& row, const QString& path) {
+    row.label()->setText(path);
+    row.label()->setToolTip(hostqt::plainToolTip(path));
 }
 
 IStdDirInfo* payloadOf(const TreeItem* item) { return static_cast<IStdDirInfo*>(item->payload); }

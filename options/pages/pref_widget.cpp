@@ -42,11 +42,16 @@ QPrefWidget::~QPrefWidget() = default;
 void QPrefWidget::buildLabel(const QString& text, int doubleClickEnabled) {
     rowLabel = new ClickableLabel(text, this, doubleClickEnabled);
     rowLabel->setObjectName(QStringLiteral("label"));
-    rowLabel->setToolTip(text);
+    showText(text);
     labelStyleSheet = rowLabel->styleSheet();
     applyToolTipStyle();
     rowLabel->setContextMenuPolicy(Qt::CustomContextMenu);
     rowLabel->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
+}
+
+void QPrefWidget::showText(const QString& text) {
+    rowLabel->setText(text);
+    rowLabel->setToolTip(text);
 }
 
 void QPrefWidget::layOut(int position, QWidget* editor) {

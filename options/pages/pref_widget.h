@@ -16,7 +16,8 @@ public:
     ~QPrefWidget() override;
 
     ClickableLabel* label() const { return rowLabel; }
-    void applyToolTipStyle(); // after every change of theme
+    void showText(const QString& text); // as the label and as its tool tip
+    void applyToolTipStyle();           // after every change of theme
 
 private:
     void buildLabel(const QString& text, int doubleClickEnabled);

@@ -17,8 +17,6 @@ using host_qt_ui_core::QHostMessageBox;
 
 namespace {
 
-CXString localText(const QString& text) { return CXString(text.toLocal8Bit().constData()); }
-
 bool holdsOneOf(const QString& forbidden, const QString& text) {
     for (const QChar character : forbidden)
         if (text.indexOf(character) != -1)
@@ -114,7 +112,7 @@ void RasterDialog::onOkClicked() {
                    "are not allowed: %2")))
             return;
         // Meant: the name is taken over before the extension is looked at, and stays when that is refused.
-        record->name = localText(name);
+        record->name = CXString(hostqt::cxStringW(name));
     }
     const QString extension = extensionEdit->text(); // meant: looked at also where it can't be edited
     if (!checkText(
@@ -122,7 +120,7 @@ void RasterDialog::onOkClicked() {
             tr("Format extension \"%1\" is invalid. Please choose another one.\nThe following characters "
                "are not allowed: %2")))
         return;
-    record->defExt = localText(extension);
+    record->defExt = CXString(hostqt::cxStringW(extension));
     record->description = hostqt::cxStringW(descriptionEdit->text());
     accept();
 }

@@ -6,7 +6,6 @@
 #include "host/qt_ui_core.h"
 #include "host/text.h"
 #include "host/typed_reads.h"
-#include "options/pages/clickable_label.h"
 #include "options/pages/page_rows.h"
 #include "options/pages/pref_widget.h"
 #include "options/pages/raster_dialog.h"
@@ -154,7 +153,7 @@ void addRasterFormat(Preferences& preferences, TreeItem* item) {
 void modifyRasterFormat(Preferences& preferences, TreeItem* item) {
     RasterFormat* format = formatOf(item);
     if (runRasterDialog(preferences, format, false, Preferences::tr("Modify Raster Format")))
-        preferences.rowWidgets.value(item)->label()->setText(hostqt::qString(format->description));
+        preferences.rowWidgets.value(item)->showText(hostqt::qString(format->description));
 }
 
 void deleteRasterFormat(Preferences& preferences, TreeItem* item) {

@@ -32,7 +32,8 @@ void readSections(Preferences& preferences, IParam* descriptions) {
     }
 }
 
-TreeItem* makeSectionItem(Preferences& preferences, TreeItem* parent, const QIcon& icon, std::size_t index) {
+TreeItem* makeSectionItem(Preferences& preferences, QTreeWidgetItem* parent, const QIcon& icon,
+                          std::size_t index) {
     auto* item = new TreeItem(parent);
     item->setText(0, hostqt::qString(preferences.stdDirs[index].name));
     item->setIcon(0, icon);
@@ -65,7 +66,7 @@ void makePathItems(Preferences& preferences, TreeItem* section, const QIcon& ico
 
 } // namespace
 
-void loadStdDirs(Preferences& preferences, TreeItem* parent) {
+void loadStdDirs(Preferences& preferences, QTreeWidgetItem* parent) {
     const Ref<IParam> host = appService<IParam>();
     const Ref<IParam> descriptions = openChild(host.get(), descriptionsSection);
     if (!appService<IStdDirs>() || !descriptions)

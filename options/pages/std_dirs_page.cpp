@@ -6,11 +6,9 @@
 #include "host/param.h"
 #include "host/qt_ui_core.h"
 #include "host/text.h"
-#include "options/pages/clickable_label.h"
 #include "options/pages/dirs_dialog.h"
 #include "options/pages/page_rows.h"
 #include "options/pages/path_rows.h"
-#include "options/pages/pref_widget.h"
 #include "options/pages/std_dir_info.h"
 #include "options/pages/std_dir_list.h"
 #include "options/preferences.h"
@@ -99,7 +97,7 @@ void modifyPath(Preferences& preferences, TreeItem* item) {
         return; // meant: a change of letter case alone is dropped
     if (!validatePath(preferences, path, title, sectionIndexOf(item)))
         return;
-    preferences.rowWidgets.value(item)->label()->setText(path);
+    showPath(*preferences.rowWidgets.value(item), path);
     payloadOf(item)->SetPath(hostqt::cxStringW(path));
 }
 
@@ -126,7 +124,7 @@ void movePath(Preferences& preferences, TreeItem* item, int step) {
     // shows what the other's element holds.
     exchangePaths(payloadOf(item), payloadOf(neighbour));
     item->setText(0, text);
-    preferences.makeRow(2, item, nullptr, true, 0); // meant: a moved row doesn't open on double click either
+    makePathRow(preferences, item, 0); // meant: a moved row doesn't open on double click either
     makeCurrent(preferences, item);
 }
 

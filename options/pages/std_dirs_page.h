@@ -4,10 +4,11 @@
 
 class Preferences;
 class QString;
+class QTreeWidgetItem;
 class TreeItem;
 
 // Builds the sections and paths under `parent`; leaves the page out when the host doesn't offer the lists.
-void loadStdDirs(Preferences& preferences, TreeItem* parent);
+void loadStdDirs(Preferences& preferences, QTreeWidgetItem* parent);
 void storeStdDirs(Preferences& preferences);
 // Gives back the lists, and the references that the path items hold; call it before the tree is cleared.
 void releaseStdDirs(Preferences& preferences);

@@ -3,6 +3,7 @@
 #include "options/file_filters.h"
 #include "tests/options/options_fixture.h"
 #include "tests/support/file_dialog_driver.h"
+#include "tests/support/tool_tip_text.h"
 
 #include <QAction>
 #include <QFile>
@@ -173,6 +174,39 @@ TEST_F(FileEditor, SeveralFilesMayBePickedAndTheirSlashesAreTurned) {
     EXPECT_EQ(item("File")->textValue, expected);
     apply();
     EXPECT_EQ(storedText("S", "File"), expected);
+}
+
+TEST_F(FileEditor, AfterAPickTheFieldHasTheFocusAndOkStoresIt) {
+    store("S", "File", CXStringW(L"old.dwt"));
+    node("File").type(L"EditFile").profile("S", "File").set("ID", 0x195C5);
+    show();
+    dialog->tree->setCurrentItem(dialog->tree->topLevelItem(0));
+    FileDialogDriver user("one.dwt");
+    browse()->trigger();
+    comeBack();
+    EXPECT_TRUE(waitUntil([this] { return edit()->hasFocus(); }));
+    EXPECT_EQ(dialog->tree->currentItem(), item("File"));
+    QTest::mouseClick(dialog->okButton, Qt::LeftButton);
+    EXPECT_EQ(storedText("S", "File"), backslashes(inFolder("one.dwt")));
+    EXPECT_TRUE(host.messages.empty());
+}
+
+TEST_F(FileEditor, ACancelledPickLeavesTheFocusWhereItWas) {
+    node("File").type(L"EditFile").set("ID", 0x195C5);
+    show();
+    FileDialogDriver user;
+    browse()->trigger();
+    EXPECT_TRUE(user.shown);
+    comeBack();
+    EXPECT_TRUE(waitUntil([this] { return dialog->okButton->hasFocus(); }));
+    EXPECT_FALSE(edit()->hasFocus());
+}
+
+TEST_F(FileEditor, TheToolTipShowsTheVeryCharactersOfTheFiles) {
+    addAndOpen("/<b>a</b>.dwt");
+    EXPECT_EQ(toolTipOf(*edit()), "/<b>a</b>.dwt");
+    typeAndReturn("<i>b</i>.dwt");
+    EXPECT_EQ(toolTipOf(*edit()), "<i>b<\\i>.dwt");
 }
 
 TEST_F(FileEditor, CancellingThePickChangesNothing) {

@@ -2,6 +2,7 @@
 #include "options/expand_environment.h"
 #include "tests/options/options_fixture.h"
 #include "tests/support/file_dialog_driver.h"
+#include "tests/support/tool_tip_text.h"
 
 #include <QAction>
 #include <QDir>
@@ -231,6 +232,53 @@ TEST_F(DirectoryEditor, TheBrowseActionStartsAtTheTypedDirectoryAndDoesNotTouchT
     EXPECT_EQ(item("Dir")->textValue, folder.path());
     QTest::keyClick(edit(), Qt::Key_Return);
     EXPECT_EQ(item("Dir")->textValue, known + "/chosen");
+}
+
+TEST_F(DirectoryEditor, AfterAPickTheFieldHasTheFocusSoThatOkEndsTheEdit) {
+    store("S", "Dir", hostqt::cxStringW(folder.path()));
+    node("Dir").type(L"EditDir").profile("S", "Dir");
+    show();
+    dialog->tree->setCurrentItem(dialog->tree->topLevelItem(0));
+    FileDialogDriver user(known);
+    browse()->trigger();
+    comeBack();
+    EXPECT_TRUE(waitUntil([this] { return edit()->hasFocus(); }));
+    EXPECT_EQ(dialog->tree->currentItem(), item("Dir"));
+    EXPECT_EQ(edit()->text(), known);
+    EXPECT_EQ(item("Dir")->textValue, folder.path()) << "it follows when the edit ends";
+    QTest::mouseClick(dialog->okButton, Qt::LeftButton);
+    EXPECT_EQ(item("Dir")->textValue, known);
+    EXPECT_EQ(storedText("S", "Dir"), known);
+}
+
+TEST_F(DirectoryEditor, ACancelledPickLeavesTheFocusWhereItWas) {
+    node("Dir").type(L"EditDir").set("Default", hostqt::cxStringW(known));
+    show();
+    FileDialogDriver user;
+    browse()->trigger();
+    EXPECT_TRUE(user.shown);
+    comeBack();
+    EXPECT_TRUE(waitUntil([this] { return dialog->okButton->hasFocus(); }));
+    EXPECT_FALSE(edit()->hasFocus());
+}
+
+TEST_F(DirectoryEditor, TheToolTipShowsTheVeryCharactersOfTheDirectory) {
+    addAndOpen("/<b>a</b>");
+    EXPECT_EQ(toolTipOf(*edit()), "/<b>a</b>");
+    edit()->setText("/<i>b</i>");
+    EXPECT_EQ(toolTipOf(*edit()), "/<i>b</i>");
+    QDir(folder.path()).mkdir("<u>c");
+    FileDialogDriver user(folder.path() + "/<u>c");
+    browse()->trigger();
+    EXPECT_EQ(toolTipOf(*edit()), folder.path() + "/<u>c");
+}
+
+TEST_F(TextEditor, TheToolTipShowsTheVeryCharactersOfTheText) {
+    node("A").type(L"Edit").set("Default", L"<b>a</b>");
+    open();
+    EXPECT_EQ(toolTipOf(*editor<QLineEdit>("A")), "<b>a</b>");
+    editor<QLineEdit>("A")->setText("<i>b</i>");
+    EXPECT_EQ(toolTipOf(*editor<QLineEdit>("A")), "<i>b</i>");
 }
 
 TEST_F(DirectoryEditor, TheBrowseActionStartsAtTheLastValidOneWhenTheTypedOneIsMissing) {

@@ -10,6 +10,7 @@
 #include "tests/support/fixture_host.h"
 #include "tests/support/poll.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QTest>
 #include <QTreeWidgetItemIterator>
@@ -36,6 +37,11 @@ protected:
         dialog->show();
         EXPECT_TRUE(waitUntil([this] { return dialog->isActiveWindow(); }));
         return *dialog;
+    }
+    // After another window has closed: a window manager makes the dialog the active one again.
+    void comeBack() {
+        QApplication::setActiveWindow(dialog.get());
+        EXPECT_TRUE(waitUntil([this] { return dialog->isActiveWindow(); }));
     }
     void apply() { dialog->applyButton->click(); }
 

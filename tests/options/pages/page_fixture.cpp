@@ -99,6 +99,10 @@ QCheckBox* PageFixture::checkBoxOf(TreeItem* item) const {
     return preferences->rowWidgets.value(item)->findChild<QCheckBox*>();
 }
 
+bool PageFixture::checkBoxStandsBeforeLabel(TreeItem* item) const {
+    return checkBoxOf(item)->geometry().right() < labelOf(item)->geometry().left();
+}
+
 void PageFixture::select(TreeItem* item) {
     QTreeWidget* tree = preferences->tree;
     if (item->parent())

@@ -52,6 +52,7 @@ protected:
     QString shown(TreeItem* item) const; // the label's text as it stands
     QStringList rowsBelow(TreeItem* item) const;
     QCheckBox* checkBoxOf(TreeItem* item) const;
+    bool checkBoxStandsBeforeLabel(TreeItem* item) const;
 
     void select(TreeItem* item); // clicks into the tree beside the label
     void doubleClick(TreeItem* item);

@@ -101,6 +101,7 @@ TEST_F(RasterFormats, ARowCarriesIconRecordAndTranslatedDescription) {
     EXPECT_EQ(item->payload, preferences->rasterFormats.first());
     EXPECT_EQ(iconOf(item).cacheKey(), iconOf(page()).cacheKey());
     EXPECT_TRUE(checkBoxOf(page()->childItem(0))->isChecked());
+    EXPECT_TRUE(checkBoxStandsBeforeLabel(page()->childItem(0)));
 }
 
 TEST_F(RasterFormats, WhatARowOffersFollowsFromDeletableAndAdjustable) {
@@ -138,6 +139,7 @@ TEST_F(RasterFormats, UncheckingChangesTheRecordAtOnceAndTheStoreOnApply) {
     EXPECT_EQ(stored("tif", "Enabled").vt, kVtInt);
     EXPECT_EQ(static_cast<int>(stored("tif", "Enabled")), 0);
     click(checkBoxOf(row("tif")));
+    EXPECT_EQ(preferences->rasterFormats.first()->enabled, 1) << "not the 2 of a checked box";
     apply();
     EXPECT_EQ(static_cast<int>(stored("tif", "Enabled")), 1);
 }
@@ -197,6 +199,8 @@ TEST_F(RasterFormats, AnAddedFormatComesUpEnabledAndDeletableWhateverItsModelWas
     EXPECT_TRUE(checkBoxOf(added)->isChecked());
     EXPECT_EQ(added->buttonMask, 7u);
     EXPECT_EQ(added->parentItem(), page());
+    EXPECT_EQ(preferences->rasterFormats.last()->enabled, 1);
+    EXPECT_EQ(preferences->rasterFormats.last()->canDelete, 1);
     EXPECT_FALSE(storedFormats().contains("mine")) << "the store waits for Apply";
     apply();
     EXPECT_EQ(numbered(2), "mine");
@@ -224,7 +228,9 @@ TEST_F(RasterFormats, AddIsDroppedWhenTheStoreIsGone) {
     open();
     select(row("tif"));
     host.withhold(typeid(IIOParams));
+    whenDialogOpens([](QDialog& dialog) { clickOn(dialog, "okButton"); });
     click(preferences->addButton);
+    EXPECT_EQ(dialogsOpened, 0);
     EXPECT_EQ(page()->childCount(), 1);
 }
 
@@ -232,16 +238,21 @@ TEST_F(RasterFormats, ADoubleClickModifiesTheDescriptionOfARow) {
     addFormat(1, "tif");
     open();
     QString title;
-    whenDialogOpens([this, &title](QDialog& dialog) {
+    QWidget* parent = nullptr;
+    whenDialogOpens([&](QDialog& dialog) {
+        parent = dialog.parentWidget();
         title = dialog.windowTitle();
         EXPECT_EQ(editText(dialog, "nameEdit"), "tif");
+        EXPECT_FALSE(named<QLineEdit>(dialog, "nameEdit")->isEnabled());
         typeInto(dialog, "descriptionEdit", "Tagged %1 <i>images</i>");
         clickOn(dialog, "okButton");
     });
     click(checkBoxOf(row("tif")));
     doubleClick(row("tif"));
     EXPECT_EQ(title, "Modify Raster Format");
+    EXPECT_EQ(parent, preferences.get());
     EXPECT_EQ(rowsBelow(page()), QStringList{"Tagged %1 <i>images</i>"});
+    EXPECT_EQ(labelOf(page()->childItem(0))->toolTip(), "Tagged %1 <i>images</i>");
     EXPECT_FALSE(checkBoxOf(page()->childItem(0))->isChecked());
     apply();
     EXPECT_EQ(textOf(stored("tif", "Description")), "Tagged %1 <i>images</i>");
@@ -269,6 +280,7 @@ TEST_F(RasterFormats, ACancelledModifyChangesNothing) {
         clickOn(dialog, "cancelButton");
     });
     EXPECT_TRUE(chooseInMenu(row("tif"), "Modify"));
+    EXPECT_EQ(dialogsOpened, 1);
     EXPECT_EQ(rowsBelow(page()), QStringList{"tif"});
     EXPECT_EQ(hostqt::qString(preferences->rasterFormats.first()->description), "tif");
 }
@@ -284,7 +296,8 @@ TEST_F(RasterFormats, DeletingAsksAndWaitsForApply) {
     EXPECT_EQ(host.messages[0].text, "Do you really want to delete raster format :\nbmp?");
     EXPECT_EQ(int(host.messages[0].buttons), EV_MB_YES | EV_MB_NO);
     EXPECT_EQ(rowsBelow(page()), (QStringList{"tif", "png"}));
-    EXPECT_EQ(preferences->rasterFormats.size(), 3) << "the record waits for Apply";
+    ASSERT_EQ(preferences->rasterFormats.size(), 3) << "the record waits for Apply";
+    EXPECT_EQ(preferences->rasterFormats[1]->deleted, 1);
     EXPECT_TRUE(storedFormats().contains("bmp"));
     apply();
     EXPECT_EQ(storedFormats(), (QStringList{"tif", "png"}));
@@ -323,6 +336,7 @@ TEST_F(RasterFormats, DeletingIsDroppedOnNo) {
     addFreeFormat(1, "tif");
     open();
     deleteRow("tif", EV_MB_NO);
+    EXPECT_EQ(host.messages.size(), 1u);
     EXPECT_EQ(rowsBelow(page()), QStringList{"tif"});
     EXPECT_EQ(preferences->rasterFormats.first()->deleted, 0);
 }

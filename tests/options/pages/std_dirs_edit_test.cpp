@@ -4,9 +4,11 @@
 #include "options/pages/page_rows.h"
 #include "options/pages/std_dirs_page.h"
 #include "tests/options/pages/std_dirs_fixture.h"
+#include "tests/support/tool_tip_text.h"
 
 #include <QDir>
 #include <QIcon>
+#include <QSignalSpy>
 
 namespace {
 
@@ -25,8 +27,10 @@ protected:
 TEST_F(StdDirEdits, AddAsksUnderTheSectionsTitleAndAppends) {
     openWithTwoSections();
     QString title, offered = "nothing";
+    QWidget* parent = nullptr;
     host.answer(EV_MB_YES);
     whenDialogOpens([&](QDialog& dialog) {
+        parent = dialog.parentWidget();
         title = dialog.windowTitle();
         offered = named<QLineEdit>(dialog, "lineEdit")->text();
         typeInto(dialog, "lineEdit", "/new");
@@ -37,6 +41,7 @@ TEST_F(StdDirEdits, AddAsksUnderTheSectionsTitleAndAppends) {
     click(preferences->addButton);
     EXPECT_EQ(title, "Section B");
     EXPECT_EQ(offered, "");
+    EXPECT_EQ(parent, preferences.get());
     EXPECT_EQ(rows(1), (QStringList{"/c", "/new"}));
     EXPECT_EQ(held(1), (QStringList{"/c", "/new"}));
     EXPECT_TRUE(section(1)->isExpanded());
@@ -69,7 +74,9 @@ TEST_F(StdDirEdits, LoadedRowsOpenOnDoubleClickAndAddedOnesAndSectionsDoNot) {
     whenDialogOpens([](QDialog& dialog) { clickOn(dialog, "cancelButton"); });
     dialogsOpened = 0;
     doubleClick(row("/new"));
+    QSignalSpy sectionClicks(labelOf(section(0)), &ClickableLabel::doubleClicked);
     doubleClick(section(0));
+    EXPECT_EQ(sectionClicks.count(), 0);
     EXPECT_EQ(dialogsOpened, 0);
     doubleClick(row("/a"));
     EXPECT_EQ(dialogsOpened, 1);
@@ -83,6 +90,7 @@ TEST_F(StdDirEdits, ACancelledAddChangesNothing) {
         clickOn(dialog, "cancelButton");
     });
     click(preferences->addButton);
+    EXPECT_EQ(dialogsOpened, 1);
     EXPECT_EQ(rows(), (QStringList{"/a", "/b"}));
     EXPECT_EQ(held(), (QStringList{"/a", "/b"}));
 }
@@ -171,8 +179,10 @@ TEST_F(StdDirEdits, AMissingListTakesNothingAndSurvives) {
 TEST_F(StdDirEdits, ModifyChangesTheRowAndItsElement) {
     openWithTwoSections();
     QString title, offered;
+    QWidget* parent = nullptr;
     host.answer(EV_MB_YES);
     whenDialogOpens([&](QDialog& dialog) {
+        parent = dialog.parentWidget();
         title = dialog.windowTitle();
         offered = named<QLineEdit>(dialog, "lineEdit")->text();
         typeInto(dialog, "lineEdit", "/else");
@@ -181,14 +191,29 @@ TEST_F(StdDirEdits, ModifyChangesTheRowAndItsElement) {
     doubleClick(row("/b"));
     EXPECT_EQ(title, "Section A");
     EXPECT_EQ(offered, "/b");
+    EXPECT_EQ(parent, preferences.get());
     EXPECT_EQ(rows(), (QStringList{"/a", "/else"}));
+    EXPECT_EQ(toolTipOf(*labelOf(row("/else"))), "/else");
     EXPECT_EQ(held(), (QStringList{"/a", "/else"}));
     EXPECT_EQ(stored("A"), (QStringList{"/a", "/b"}));
+}
+
+TEST_F(StdDirEdits, TheToolTipOfAPathShowsItsVeryCharacters) {
+    addSection("A", L"Section A", {L"/a&lt;b", L"/c"});
+    open();
+    EXPECT_EQ(toolTipOf(*labelOf(section()->childItem(0))), "/a&lt;b");
+    modify(row("/c"), "/<b>c</b>");
+    EXPECT_EQ(toolTipOf(*labelOf(section()->childItem(1))), "/<b>c</b>");
+    select(section()->childItem(0));
+    click(preferences->downButton);
+    ASSERT_EQ(rows(), (QStringList{"/<b>c</b>", "/a&lt;b"}));
+    EXPECT_EQ(toolTipOf(*labelOf(section()->childItem(1))), "/a&lt;b") << "in the row that a move makes";
 }
 
 TEST_F(StdDirEdits, AModifyThatChangesOnlyTheLetterCaseIsDropped) {
     openWithTwoSections();
     modify(row("/b"), "/B");
+    EXPECT_EQ(dialogsOpened, 1);
     EXPECT_EQ(rows(), (QStringList{"/a", "/b"}));
     EXPECT_EQ(held(), (QStringList{"/a", "/b"}));
     EXPECT_TRUE(host.messages.empty());
@@ -201,6 +226,7 @@ TEST_F(StdDirEdits, AModifyToAnExistingDirectoryThatDiffersInLetterCaseOnlyIsDro
     addSection("A", L"A", {lower.toStdWString()});
     open();
     modify(row(lower), upper);
+    EXPECT_EQ(dialogsOpened, 1);
     EXPECT_EQ(rows(), QStringList{lower});
     EXPECT_EQ(held(), QStringList{lower});
     EXPECT_TRUE(host.messages.empty());
@@ -242,6 +268,17 @@ TEST_F(StdDirEdits, TheMarksOfASearchAreNoPartOfPathOrTitle) {
     EXPECT_EQ(title, "Section A");
 }
 
+TEST_F(StdDirEdits, TheMarksOfASearchAreNoPartOfTheTitleUnderWhichAPathIsAdded) {
+    openWithTwoSections();
+    searchFor("Section");
+    ASSERT_TRUE(shown(section(0)).contains("<span"));
+    select(section(0));
+    add("/a");
+    EXPECT_EQ(dialogsOpened, 1);
+    EXPECT_EQ(lastMessage().title, "Section A");
+    EXPECT_EQ(lastMessage().text, "Path \"/a\" already exists in \"Section A\" section.");
+}
+
 TEST_F(StdDirEdits, DeleteAsksNothingAndMakesTheSectionCurrent) {
     openWithTwoSections();
     select(row("/a"));
@@ -254,6 +291,18 @@ TEST_F(StdDirEdits, DeleteAsksNothingAndMakesTheSectionCurrent) {
     EXPECT_EQ(stored("A"), (QStringList{"/a", "/b"}));
     apply();
     EXPECT_EQ(stored("A"), QStringList{"/b"});
+}
+
+TEST_F(StdDirEdits, ADeletedRowIsOffTheTreeWhenTheSectionBecomesCurrent) {
+    openWithTwoSections();
+    TreeItem* item = row("/a");
+    select(item);
+    QList<QWidget*> rowsThen;
+    QObject::connect(preferences->tree, &QTreeWidget::currentItemChanged, preferences.get(),
+                     [&] { rowsThen << preferences->tree->itemWidget(item, 0); });
+    click(preferences->deleteButton);
+    ASSERT_FALSE(rowsThen.isEmpty());
+    EXPECT_EQ(rowsThen.first(), nullptr);
 }
 
 TEST_F(StdDirEdits, ADeletedRowIsForgottenByTheDialog) {
@@ -290,6 +339,7 @@ TEST_F(StdDirEdits, CancellingTheDialogDiscardsEverything) {
     modify(row("/b"), "/else");
     select(row("/a"));
     click(preferences->deleteButton);
+    ASSERT_EQ(held(), (QStringList{"/else", "/new"}));
     click(preferences->cancelButton);
     EXPECT_EQ(stored("A"), (QStringList{"/a", "/b"}));
 }

@@ -20,7 +20,8 @@ std::int64_t countOf(IStdDirInfo* info) {
     return info->Release();
 }
 
-// Names a section "Locked" and doesn't open it.
+// The host's parameters and the section "StdDirsDescriptions" in one. It names a section "Locked" and doesn't
+// open it.
 struct LockedDescriptions : standin::MemParam {
     LockedDescriptions() {
         for (const char* name : {"Locked", "Open"})
@@ -31,6 +32,32 @@ struct LockedDescriptions : standin::MemParam {
             return Ref<IParam>::share(this).detach();
         return CXString("Locked").Compare(name) == 0 ? nullptr : standin::MemParam::openSection(name, create);
     }
+    IParamEnum* newEnum() override { return hasNames ? standin::MemParam::newEnum() : nullptr; }
+    bool hasNames = true;
+};
+
+// Lists that the host itself has closed.
+struct ClosedLists : FixtureStdDirs {
+    bool GetDirList(const char*, CKWVariant* out) override {
+        const auto list = Ref<StdDirList>::share(new StdDirList);
+        list->append(Ref<IStdDirInfo>::take(new_StdDirInfo(".Local", L"/a", 1)).get());
+        list->close();
+        *out = static_cast<IKWUnknown*>(list.get());
+        return true;
+    }
+};
+
+// Puts these two in place of the host's own while it lives.
+struct OtherHost {
+    OtherHost(const Ref<standin::MemParam>& parameters, const Ref<FixtureStdDirs>& lists)
+        : former(theOnlyIApp), hub(Ref<standin::ServiceHub>::share(new standin::ServiceHub)) {
+        hub->add(parameters);
+        hub->add(lists);
+        theOnlyIApp = hub.get();
+    }
+    ~OtherHost() { theOnlyIApp = former; }
+    IKWUnknown* former;
+    Ref<standin::ServiceHub> hub;
 };
 
 } // namespace
@@ -76,6 +103,15 @@ TEST_F(StdDirs, PathItemsOfferEverythingAndCarryTheirElement) {
     EXPECT_EQ(path->payload, elementsOf(preferences->stdDirs[1].list)[0].get());
     EXPECT_EQ(path->description, "About B");
     EXPECT_EQ(iconOf(path).cacheKey(), iconOf(page()).cacheKey());
+}
+
+TEST_F(StdDirs, AnyItemOfTheTreeMayCarryThePage) {
+    void (*const load)(Preferences&, QTreeWidgetItem*) = loadStdDirs;
+    addSection("A", L"A", {L"/a"});
+    open();
+    QTreeWidgetItem* root = preferences->tree->topLevelItem(0);
+    load(*preferences, root);
+    EXPECT_EQ(rowsBelow(static_cast<TreeItem*>(root)), (QStringList{"Page", "A"}));
 }
 
 TEST_F(StdDirs, AnIconThatIsNoIconGivesAnEmptyOne) {
@@ -170,15 +206,35 @@ TEST_F(StdDirs, APathThatIsNotEditableIsPassedOverByTheKeyboardAndOffersNoMenu) 
 
 TEST_F(StdDirs, ASectionThatCannotBeOpenedIsPassedOver) {
     open();
-    const auto descriptions = Ref<LockedDescriptions>::share(new LockedDescriptions);
-    const auto hub = Ref<standin::ServiceHub>::share(new standin::ServiceHub);
-    hub->add(descriptions);
-    hub->add(Ref<FixtureStdDirs>::share(&host.stdDirs()));
-    theOnlyIApp = hub.get();
+    const OtherHost other(Ref<LockedDescriptions>::share(new LockedDescriptions),
+                          Ref<FixtureStdDirs>::share(&host.stdDirs()));
     loadStdDirs(*preferences, page());
-    theOnlyIApp = host.application();
     EXPECT_EQ(rowsBelow(page()), QStringList{"Open"});
     EXPECT_EQ(preferences->stdDirs.size(), 1u);
+}
+
+TEST_F(StdDirs, DescriptionsThatCannotBeListedLeaveThePageOut) {
+    open();
+    const auto descriptions = Ref<LockedDescriptions>::share(new LockedDescriptions);
+    descriptions->hasNames = false;
+    const OtherHost other(descriptions, Ref<FixtureStdDirs>::share(&host.stdDirs()));
+    loadStdDirs(*preferences, page());
+    EXPECT_EQ(page()->childCount(), 0);
+    EXPECT_TRUE(preferences->stdDirs.empty());
+    EXPECT_TRUE(host.messages.empty());
+}
+
+TEST_F(StdDirs, AListThatTheHostHasClosedShowsNoPathsAndKeepsTheDescription) {
+    open();
+    describe("A", L"A");
+    const auto parameters = Ref<standin::MemParam>::share(new standin::MemParam);
+    Param_CopyTo(&host.plain(), parameters.get());
+    const OtherHost other(parameters, Ref<FixtureStdDirs>::share(new ClosedLists));
+    loadStdDirs(*preferences, page());
+    ASSERT_EQ(page()->childCount(), 1);
+    EXPECT_EQ(section()->childCount(), 0);
+    EXPECT_EQ(section()->description, "About A");
+    EXPECT_TRUE(preferences->stdDirs[0].list->isClosed());
 }
 
 TEST_F(StdDirs, ApplyWritesEverySectionInOrder) {
