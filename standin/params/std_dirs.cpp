@@ -22,23 +22,86 @@ template <class T> void setValue(IParam* node, const char* name, const T& value)
     node->setValue(name, &variant);
 }
 
-// The entries of a section by their paths, so that a new list finds what it keeps.
-using EntriesByPath = std::multimap<QString, Ref<IParam>>;
-
 Ref<IParam> copyOf(IParam* node) {
     auto copy = Ref<IParam>::take(new_MemParam());
     Param_CopyTo(node, copy.get());
     return copy;
 }
 
-// Takes the entry of that path out; an empty one when there is none.
+// The entries of a section by their paths, so that a new list finds what it keeps.
+using EntriesByPath = std::multimap<QString, Ref<IParam>>;
+
+// Takes the entry of that path out; null when there is none.
 Ref<IParam> takeEntry(EntriesByPath& entries, const QString& path) {
     const auto found = entries.find(path);
     if (found == entries.end())
-        return Ref<IParam>::take(new_MemParam());
+        return nullptr;
     const Ref<IParam> entry = found->second;
     entries.erase(found);
     return entry;
+}
+
+// Whose an entry is, and whether the user may change it.
+struct Origin {
+    bool operator==(const Origin& other) const { return key == other.key && editable == other.editable; }
+    std::string key;
+    int editable;
+};
+
+Origin originOf(IParam* entry) {
+    CXString key(".Local");
+    int editable = 1;
+    readValue(entry, keyValue, &key);
+    readValue(entry, editableValue, &editable);
+    return {key.c_str(), editable};
+}
+
+// False, with the list as it was, when `wanted` isn't in it.
+bool takeOut(std::vector<Origin>& origins, const Origin& wanted) {
+    const auto found = std::find(origins.begin(), origins.end(), wanted);
+    if (found == origins.end())
+        return false;
+    origins.erase(found);
+    return true;
+}
+
+// The element's own, or else the first that is left.
+Origin takeOrigin(std::vector<Origin>& left, IStdDirInfo& element) {
+    Origin origin{element.GetKey(), element.GetEditable()};
+    if (!takeOut(left, origin)) {
+        origin = left.front();
+        left.erase(left.begin());
+    }
+    return origin;
+}
+
+Ref<IParam> newEntry(IStdDirInfo& element, const Origin& origin, const PathWords& words) {
+    auto entry = Ref<IParam>::take(new_MemParam());
+    const QString path = words.contracted(QString::fromWCharArray(element.GetPath()));
+    setValue(entry.get(), pathValue, hostqt::cxStringW(path));
+    setValue(entry.get(), keyValue, origin.key.c_str());
+    setValue(entry.get(), editableValue, origin.editable);
+    return entry;
+}
+
+// A path that the section had keeps its entry as it is. A move in the Options dialog exchanges the paths of
+// two elements and leaves their origins where they are, so a new path gets its element's origin unless that
+// has gone to the path that it was exchanged with, and then one that is left over.
+std::vector<Ref<IParam>> takeEntries(const std::vector<Ref<IStdDirInfo>>& elements, EntriesByPath& before,
+                                     const PathWords& words) {
+    std::vector<Ref<IParam>> entries;
+    std::vector<Origin> left;
+    for (const auto& element : elements) {
+        left.push_back({element->GetKey(), element->GetEditable()});
+        entries.push_back(takeEntry(before, QString::fromWCharArray(element->GetPath())));
+    }
+    for (const Ref<IParam>& kept : entries)
+        if (kept)
+            takeOut(left, originOf(kept.get()));
+    for (std::size_t i = 0; i < elements.size(); ++i)
+        if (!entries[i])
+            entries[i] = newEntry(*elements[i], takeOrigin(left, *elements[i]), words);
+    return entries;
 }
 
 } // namespace
@@ -98,12 +161,9 @@ Ref<StdDirList> StdDirs::readList(IParam* section) const {
     for (const std::string& name : childNames(section)) {
         const auto entry = openChild(section, name.c_str());
         const QString path = pathOf(entry.get());
-        CXString key(".Local");
-        int editable = 1;
-        readValue(entry.get(), keyValue, &key);
-        readValue(entry.get(), editableValue, &editable);
+        const Origin origin = originOf(entry.get());
         if (!path.isEmpty())
-            list->append(newDirEntry(key.c_str(), path.toStdWString().c_str(), editable).get());
+            list->append(newDirEntry(origin.key.c_str(), path.toStdWString().c_str(), origin.editable).get());
     }
     return list;
 }
@@ -127,16 +187,7 @@ bool StdDirs::SetDirList(const char* key, const CKWVariant& value) {
         const auto entry = openChild(section.get(), name.c_str());
         before.emplace(pathOf(entry.get()), copyOf(entry.get()));
     }
-    std::vector<Ref<IParam>> entries;
-    for (const auto& element : elementsOf(list)) {
-        const QString path = QString::fromWCharArray(element->GetPath());
-        const Ref<IParam> entry = takeEntry(before, path);
-        if (pathOf(entry.get()) != path)
-            setValue(entry.get(), pathValue, hostqt::cxStringW(words.contracted(path)));
-        setValue(entry.get(), keyValue, element->GetKey());
-        setValue(entry.get(), editableValue, element->GetEditable());
-        entries.push_back(entry);
-    }
+    std::vector<Ref<IParam>> entries = takeEntries(elementsOf(list), before, words);
     // What has no path was never shown and stays.
     for (auto [hidden, end] = before.equal_range(QString()); hidden != end; ++hidden)
         entries.push_back(hidden->second);

@@ -32,7 +32,8 @@ public:
     bool GetDir(const char* key, tagKWVARIANT* out, int) override;
     // Hands out a copy: what happens to it changes nothing here.
     bool GetDirList(const char* key, CKWVariant* out) override;
-    // Entries whose path stays keep what else their sections hold. False without a list.
+    // Entries whose path stays keep what else their sections hold, key and editable flag too, whatever the
+    // elements say. False without a list.
     bool SetDirList(const char* key, const CKWVariant& value) override;
 
 private:

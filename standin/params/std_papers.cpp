@@ -35,7 +35,7 @@ std::string sectionName(int number) {
 QString withoutMarks(QString text) {
     static const QRegularExpression mark(
         QStringLiteral("<span style=\"background-color: [^\"]*\"><font color=\"[^\"]*\">|</font></span>"));
-    return text.remove(mark);
+    return text.remove(mark).trimmed();
 }
 
 Ref<IParam> findPaper(IParam& papers, const QString& rowText) {

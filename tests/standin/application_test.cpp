@@ -272,6 +272,40 @@ TEST_F(ApplicationTest, EntriesThatMoveKeepWhatElseTheyHoldAndTheirPlaceWords) {
     EXPECT_TRUE(openChild(first.get(), "sub"));
 }
 
+// What a move in the Options dialog does to two elements: it exchanges their paths and nothing else.
+void exchangePaths(IStdDirInfo& one, IStdDirInfo& other) {
+    const std::wstring path = one.GetPath();
+    one.SetPath(other.GetPath());
+    other.SetPath(path.c_str());
+}
+
+TEST_F(ApplicationTest, APathThatTheSectionHadKeepsItsOriginWhenItChangesPlacesWithALockedOne) {
+    const auto list = listOf("Fonts");
+    exchangePaths(*elementsOf(list)[0], *elementsOf(list)[1]);
+    EXPECT_TRUE(store("Fonts", list));
+    start();
+    EXPECT_EQ(pathsOf("Fonts"), (std::vector<QString>{data + "/fonts", root + "/fonts"}));
+    const auto stored = elementsOf(listOf("Fonts"));
+    EXPECT_STREQ(stored[0]->GetKey(), ".Shipped");
+    EXPECT_EQ(stored[0]->GetEditable(), 0) << "the shipped folder stays locked";
+    EXPECT_STREQ(stored[1]->GetKey(), ".Local");
+    EXPECT_EQ(stored[1]->GetEditable(), 1) << "the user's own isn't";
+}
+
+TEST_F(ApplicationTest, ANewPathThatChangesPlacesWithALockedOneIsTheUsers) {
+    const auto list = listOf("Fonts");
+    list->append(standin::newDirEntry(".Local", L"/new", 1).get());
+    exchangePaths(*elementsOf(list)[1], *elementsOf(list)[2]);
+    EXPECT_TRUE(store("Fonts", list));
+    start();
+    EXPECT_EQ(pathsOf("Fonts"), (std::vector<QString>{root + "/fonts", "/new", data + "/fonts"}));
+    const auto stored = elementsOf(listOf("Fonts"));
+    EXPECT_STREQ(stored[1]->GetKey(), ".Local");
+    EXPECT_EQ(stored[1]->GetEditable(), 1);
+    EXPECT_STREQ(stored[2]->GetKey(), ".Shipped");
+    EXPECT_EQ(stored[2]->GetEditable(), 0);
+}
+
 TEST_F(ApplicationTest, ANewPathBelowTheRootMovesWithTheRoot) {
     const auto list = listOf("Fonts");
     list->append(standin::newDirEntry(".Local", (root + "/mine").toStdWString().c_str(), 1).get());

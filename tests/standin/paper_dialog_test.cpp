@@ -197,6 +197,18 @@ TEST_F(PaperDialogTest, ANameThatLooksLikeASearchMarkIsFoundAsItStands) {
     }));
 }
 
+TEST_F(PaperDialogTest, ANameWithBlanksAroundItIsFoundByTheRowThatShowsItWithoutThem) {
+    const QString marked = QString::fromLatin1(marks).arg("A4");
+    for (const QString& shown : {QStringLiteral("A4"), marked}) {
+        CKWVariant value;
+        value = CXStringW(L"  A4 ");
+        paper("Paper00000002")->setValue("Name", &value);
+        EXPECT_TRUE(modify(shown + "  (8.50 x 11.00 in)", [](User& user) { user.click("okButton"); }))
+            << shown.toStdString();
+    }
+    EXPECT_EQ(host.messages.size(), 0u);
+}
+
 TEST_F(PaperDialogTest, APaperThatIsGoneIsTold) {
     EXPECT_FALSE(papers->ModifyPaper(L"A9 (1.00 x 2.00 mm)", nullptr));
     EXPECT_FALSE(papers->ModifyPaper(nullptr, nullptr));
