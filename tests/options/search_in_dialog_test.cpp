@@ -3,6 +3,7 @@
 #include "tests/options/options_fixture.h"
 
 #include <QComboBox>
+#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTextCursor>
 #include <QTextEdit>
@@ -92,6 +93,35 @@ TEST_F(SearchInDialog, ACollapseAllDuringASearchIsUndoneByExpand) {
     QTest::mouseClick(dialog->findChild<QPushButton*>("expandButton"), Qt::LeftButton);
     EXPECT_TRUE(item("Files")->isExpanded());
     EXPECT_EQ(dialog->tree->currentItem(), item("Autosave"));
+}
+
+class SearchedGroup : public OptionsFixture {
+protected:
+    QString mark(const QString& text) const {
+        return "<span style=\"background-color: green\"><font color=\"white\">" + text + "</font></span>";
+    }
+};
+
+TEST_F(SearchedGroup, TheMarksOfASearchAreNoPartOfWhatTheGroupShowsAsItsChoice) {
+    const OptionTreeWriter group = node("Group");
+    group.profile("S", "Group").set("Name", L"Cursor");
+    group.node("Cross").type(L"Radio").set("Value", 0);
+    group.node("Box").type(L"Radio").set("Value", 1);
+    show();
+    dialog->searchEdit->setText("Cursor");
+    QTest::keyClick(dialog->searchEdit, Qt::Key_Return);
+    ASSERT_EQ(labelOf("Group"), mark("Cursor") + " [Cross]");
+    dialog->searchEdit->setText("Box");
+    QTest::keyClick(dialog->searchEdit, Qt::Key_Return);
+    ASSERT_EQ(labelOf("Box"), mark("Box"));
+    editor<QRadioButton>("Box")->click();
+    EXPECT_EQ(labelOf("Group"), "Cursor [Box]");
+    EXPECT_EQ(row("Group")->label()->toolTip(), "Cursor [Box]");
+    dialog->searchEdit->setText("Cursor");
+    QTest::keyClick(dialog->searchEdit, Qt::Key_Return);
+    ASSERT_EQ(labelOf("Group"), mark("Cursor") + " [Box]");
+    editor<QRadioButton>("Cross")->click();
+    EXPECT_EQ(labelOf("Group"), "Cursor [Cross]");
 }
 
 class SearchedCombo : public OptionsFixture {};

@@ -64,7 +64,11 @@ TEST_F(Collapse, IsEnabledByExpandingADirectChildOfRoot) {
 }
 
 TEST_F(Collapse, OnlyDirectChildrenOfRootCount) {
+    display->setExpanded(true);
     colours->setExpanded(true);
+    ASSERT_TRUE(collapseEnabled());
+    display->setExpanded(false);
+    ASSERT_TRUE(colours->isExpanded());
     EXPECT_FALSE(collapseEnabled());
 }
 
@@ -108,6 +112,7 @@ TEST_F(Collapse, CurrentRootStaysCurrent) {
     expandEverything();
     window.tree->setCurrentItem(window.root);
     clickCollapse();
+    ASSERT_FALSE(display->isExpanded());
     EXPECT_EQ(window.tree->currentItem(), window.root);
 }
 
@@ -160,6 +165,19 @@ TEST_F(Collapse, ExpandAfterCollapsingByHandHasNothingStored) {
     EXPECT_EQ(window.tree->currentItem(), files);
     EXPECT_FALSE(files->isExpanded());
     EXPECT_TRUE(expandVisible());
+}
+
+TEST_F(Collapse, ExpandKnowsNothingOfAnEarlierCollapse) {
+    window.search("Background");
+    clickCollapse();
+    clickExpand();
+    ASSERT_TRUE(display->isExpanded());
+    window.search("Autosave");
+    ASSERT_TRUE(display->isHidden());
+    clickCollapse();
+    clickExpand();
+    EXPECT_TRUE(files->isExpanded());
+    EXPECT_FALSE(display->isExpanded()) << "it was hidden at the click";
 }
 
 TEST_F(Collapse, ExpandBearsACurrentItemThatIsGone) {

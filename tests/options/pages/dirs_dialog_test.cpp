@@ -84,6 +84,15 @@ TEST_F(DirsDialogs, AMissingPathThatIsTheOldOneClosesTheDialogAndKeepsTheOldOne)
     EXPECT_TRUE(host.messages.empty());
 }
 
+TEST_F(DirsDialogs, AnExistingDirectoryIsTakenThoughItDiffersFromTheOldPathInLetterCaseOnly) {
+    ASSERT_TRUE(QDir(folder.path()).mkdir("name"));
+    QString path = folder.filePath("NAME");
+    DirsDialog dialog(path, nullptr);
+    enter(dialog, folder.filePath("name"));
+    EXPECT_EQ(path, folder.filePath("name"));
+    EXPECT_EQ(dialog.QDialog::result(), QDialog::Accepted);
+}
+
 TEST_F(DirsDialogs, AMissingPathIsAskedAboutUnderTheDialogsTitle) {
     QString path;
     DirsDialog dialog(path, nullptr);

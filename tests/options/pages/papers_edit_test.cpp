@@ -31,6 +31,8 @@ TEST_F(PaperEdits, UncheckingARowReachesTheStoreOnlyOnApply) {
     EXPECT_EQ(static_cast<int>(valueOf(host.papers(), "Paper00000002", "Used")), 0);
     EXPECT_EQ(valueOf(host.papers(), "Paper00000002", "Used").vt, kVtInt);
     EXPECT_EQ(static_cast<int>(valueOf(host.papers(), "Paper00000001", "Used")), 1);
+    click(checkBoxOf(row(rowB)));
+    EXPECT_EQ(preferences->paperFormats[1]->used, 1) << "not the 2 of a checked box";
 }
 
 TEST_F(PaperEdits, CheckingSetsTheFlagOfUsedOnARecordThatHadNoneOfItsOwn) {
@@ -105,12 +107,14 @@ TEST_F(PaperEdits, AStoreWithoutDialogsOfItsOwnAddsAndModifiesNothing) {
 
 TEST_F(PaperEdits, AddThatIsTurnedDownLeavesRowsAndSelectionAsTheyWere) {
     openWithThree();
-    host.papers().onAdd = [](QWidget*) { return false; };
+    int asked = 0;
+    host.papers().onAdd = [&asked](QWidget*) { return ++asked, false; };
     TreeItem* before = row(rowB);
     select(before);
     click(checkBoxOf(before));
     select(before);
     click(preferences->addButton);
+    EXPECT_EQ(asked, 1);
     EXPECT_EQ(current(), before);
     EXPECT_FALSE(checkBoxOf(before)->isChecked());
     EXPECT_EQ(page()->childCount(), 3);
@@ -126,6 +130,26 @@ TEST_F(PaperEdits, AddThatLeavesNoPaperAtAllIsHarmless) {
     click(preferences->addButton);
     EXPECT_EQ(page()->childCount(), 0);
     EXPECT_TRUE(preferences->paperFormats.empty());
+    EXPECT_EQ(current(), page());
+}
+
+TEST_F(PaperEdits, TheFirstPaperOfAllBecomesCurrent) {
+    open();
+    host.papers().onAdd = [this](QWidget*) { return addPaper("P", L"A", 1, 1), true; };
+    select(page());
+    click(preferences->addButton);
+    EXPECT_EQ(current(), row(rowA));
+}
+
+TEST_F(PaperEdits, AddAndModifyAreDroppedWhenTheStoreIsGone) {
+    openWithThree();
+    TreeItem* before = row(rowB);
+    select(before);
+    host.withhold(typeid(IStdPapersParam));
+    click(preferences->addButton);
+    EXPECT_TRUE(chooseInMenu(before, "Modify"));
+    EXPECT_EQ(current(), before);
+    EXPECT_EQ(names(), (QStringList{"A", "B", "C"}));
 }
 
 TEST_F(PaperEdits, ADoubleClickLetsTheHostModifyThePaperOfThatRow) {
@@ -200,6 +224,7 @@ TEST_F(PaperEdits, DeletingIsDroppedOnNo) {
     host.answer(EV_MB_NO);
     select(row(rowB));
     click(preferences->deleteButton);
+    EXPECT_EQ(host.messages.size(), 1u);
     EXPECT_EQ(page()->childCount(), 3);
     EXPECT_EQ(childrenOf(host.papers()), (QStringList{"P", "Q", "R"}));
 }
@@ -212,6 +237,7 @@ TEST_F(PaperEdits, DeletingARecordThatTheDialogDoesNotHoldChangesNothing) {
     host.answer(EV_MB_YES);
     deletePaperFormat(*preferences, item);
     item->payload = own;
+    EXPECT_EQ(host.messages.size(), 1u);
     EXPECT_EQ(page()->childCount(), 3);
     EXPECT_EQ(names().size(), 3);
 }
@@ -249,6 +275,19 @@ TEST_F(PaperEdits, AMovedRowTakesItsRecordAlong) {
     EXPECT_EQ(names(), (QStringList{"B", "A", "C"}));
     apply();
     EXPECT_EQ(storedNames(), (QStringList{"B", "A", "C"}));
+    click(preferences->upButton);
+    EXPECT_EQ(names(), (QStringList{"A", "B", "C"}));
+}
+
+TEST_F(PaperEdits, ARecordThatTheDialogDoesNotHoldDoesNotMove) {
+    openWithThree();
+    PaperFormat stray;
+    TreeItem* item = row(rowB);
+    void* own = std::exchange(item->payload, &stray);
+    movePaperFormat(*preferences, item, -1);
+    movePaperFormat(*preferences, item, 1);
+    item->payload = own;
+    EXPECT_EQ(names(), (QStringList{"A", "B", "C"}));
 }
 
 TEST_F(PaperEdits, AMovedRowKeepsAWorkingCheckBox) {
@@ -270,8 +309,9 @@ TEST_F(PaperEdits, ARecordDoesNotMovePastTheEnds) {
 TEST_F(PaperEdits, AReloadLeavesNoTraceOfTheRowsThatWent) {
     openWithThree();
     const int rowsBefore = preferences->rowWidgets.size();
+    host.papers().removeEntry("Q");
     reloadPaperRows(*preferences);
-    EXPECT_EQ(preferences->rowWidgets.size(), rowsBefore);
+    EXPECT_EQ(preferences->rowWidgets.size(), rowsBefore - 1);
     EXPECT_EQ(preferences->optionItems.size(), 2) << "the page and the root section";
 }
 
@@ -292,6 +332,7 @@ TEST_F(PaperEdits, AStoreThatRefusesInTheMiddleOfApplyDoesNotStopTheDialog) {
     host.rules(host.papers()).mayChange = [&changes] { return ++changes < 6; };
     apply();
     EXPECT_EQ(names(), (QStringList{"A", "B", "C"})) << "nothing is lost in the dialog";
+    EXPECT_GE(changes, 6);
     host.rules(host.papers()).mayChange = nullptr;
     apply();
     EXPECT_EQ(storedNames(), (QStringList{"A", "B", "C"}));

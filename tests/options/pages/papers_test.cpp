@@ -3,6 +3,7 @@
 #include "options/pages/paper_format.h"
 #include "options/pages/paper_page.h"
 #include "tests/options/pages/paper_fixture.h"
+#include "tests/support/comma_locale.h"
 
 #include <QIcon>
 #include <QLocale>
@@ -13,12 +14,23 @@ namespace {
 
 using Papers = PaperFixture;
 
-// A store that names a section and doesn't open it.
+// A store that names a section and doesn't open it, or names none.
 struct LockedPapers : standin::ParamOf<IStdPapersParam> {
     IParam* openSection(const char* name, int create) override {
         return locked && CXString("Locked").Compare(name) == 0 ? nullptr : ParamOf::openSection(name, create);
     }
+    IParamEnum* newEnum() override { return hasNames ? ParamOf::newEnum() : nullptr; }
     bool locked = false;
+    bool hasNames = true;
+};
+
+// A section that notes the order in which values are set in it.
+struct NotingSection : standin::MemParam {
+    int setValue(const char* name, const tagKWVARIANT* in) override {
+        written << QString(name);
+        return standin::MemParam::setValue(name, in);
+    }
+    QStringList written;
 };
 
 PaperFormat filled(tagRSIZE size) {
@@ -81,6 +93,9 @@ TEST_F(Papers, TheDecimalPointIsAPointInEveryLocale) {
     QLocale::setDefault(QLocale(QLocale::German));
     EXPECT_EQ(filled({1.5, 2}).rowText(), "<<Unnamed paper>> (1.50 x 2.00 mm)");
     QLocale::setDefault(before);
+    const CommaLocale comma;
+    ASSERT_TRUE(comma.isInForce());
+    EXPECT_EQ(filled({1.5, 2}).rowText(), "<<Unnamed paper>> (1.50 x 2.00 mm)");
 }
 
 TEST_F(Papers, UnitsAreShownTranslatedAndKeptAsTheyAre) {
@@ -145,6 +160,7 @@ TEST_F(Papers, TheRootOffersAddAndItsRowsOfferEverything) {
     EXPECT_EQ(paper->payload, preferences->paperFormats[0]);
     EXPECT_EQ(iconOf(paper).cacheKey(), iconOf(page()).cacheKey());
     EXPECT_FALSE(iconOf(paper).isNull());
+    EXPECT_TRUE(checkBoxStandsBeforeLabel(page()->childItem(0)));
 }
 
 TEST_F(Papers, RowsStandInTheOrderOfTheStore) {
@@ -242,6 +258,29 @@ TEST_F(Papers, ASectionThatCannotBeOpenedIsPassedOver) {
     theOnlyIApp = host.application();
     EXPECT_EQ(names(), QStringList{"C"});
     EXPECT_EQ(page()->childCount(), 1);
+}
+
+TEST_F(Papers, AStoreThatCannotBeListedLeavesThePageEmpty) {
+    addPaper("P", L"A", 1, 1);
+    open();
+    const auto store = Ref<LockedPapers>::share(new LockedPapers);
+    host.load(*store, "C: {Name: !wide \"C\"}");
+    store->hasNames = false;
+    const auto hub = Ref<standin::ServiceHub>::share(new standin::ServiceHub);
+    hub->add(store);
+    theOnlyIApp = hub.get();
+    reloadPaperRows(*preferences);
+    theOnlyIApp = host.application();
+    EXPECT_EQ(page()->childCount(), 0);
+    EXPECT_TRUE(preferences->paperFormats.empty());
+    EXPECT_TRUE(host.messages.empty());
+}
+
+TEST_F(Papers, TheValuesOfAPaperAreWrittenInTheirOrder) {
+    const auto written = Ref<NotingSection>::share(new NotingSection);
+    PaperFormat().writeTo(written.get());
+    EXPECT_EQ(written->written, (QStringList{"Used", "Name", "Size", "Units", "InternalFrame", "PortraitSize",
+                                             "LandscapeSize", "PaperOriginPoint"}));
 }
 
 TEST_F(Papers, AMissingRecordLeavesAnEmptySectionAndAGapInNothing) {

@@ -5,6 +5,7 @@
 #include "tests/options/pages/raster_fixture.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QTranslator>
 
 namespace {
@@ -55,6 +56,27 @@ TEST_F(RasterDialogs, LabelsAndButtonsReadAsTheyShould) {
     EXPECT_EQ(dialog.okButton->text(), "OK");
     EXPECT_EQ(dialog.cancelButton->text(), "Cancel");
     EXPECT_EQ(dialog.optionsButton->text(), "Options...");
+}
+
+TEST_F(RasterDialogs, EachEditStandsBehindItsLabelAndTheButtonsStandInAColumnBehindTheEdits) {
+    RasterFormat format = make();
+    RasterDialog dialog(nullptr, &format, true);
+    dialog.show();
+    const QList<QLabel*> labels = dialog.findChildren<QLabel*>();
+    const QList<QLineEdit*> edits{dialog.nameEdit, dialog.descriptionEdit, dialog.extensionEdit};
+    const QList<QPushButton*> buttons{dialog.okButton, dialog.cancelButton, dialog.optionsButton};
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_LT(labels[i]->geometry().right(), edits[i]->geometry().left());
+        EXPECT_TRUE(labels[i]->geometry().intersects(edits[i]->geometry().adjusted(-400, 0, 0, 0)));
+        EXPECT_GT(buttons[i]->geometry().left(), edits[i]->geometry().right());
+        if (i == 0)
+            continue;
+        EXPECT_EQ(edits[i]->geometry().left(), edits[0]->geometry().left());
+        EXPECT_GT(edits[i]->geometry().top(), edits[i - 1]->geometry().bottom());
+        EXPECT_GT(buttons[i]->geometry().top(), buttons[i - 1]->geometry().bottom());
+    }
+    const QLayout* column = dialog.layout()->itemAt(1)->layout();
+    EXPECT_TRUE(column->itemAt(3)->spacerItem()) << "the buttons stay at the top";
 }
 
 TEST_F(RasterDialogs, ItsWordsAreTranslatedAsThoseOfAPlainDialog) {
@@ -208,6 +230,30 @@ TEST_F(RasterDialogs, OptionsMakesItsSectionAndShowsNothing) {
     EXPECT_EQ(dialog.result(), 0);
 }
 
+TEST_F(RasterDialogs, OptionsLooksUpTheFormatAndKeepsNothing) {
+    // A node that is its own section "Options" and notes what is read from it.
+    struct NotingOptions : standin::MemParam {
+        IParam* openSection(const char* name, int) override {
+            opened << QString(name);
+            return Ref<IParam>::share(this).detach();
+        }
+        int getValue(const char* name, tagKWVARIANT* out) override {
+            read << QString(name);
+            return standin::MemParam::getValue(name, out);
+        }
+        QStringList opened, read;
+    };
+    const auto node = Ref<NotingOptions>::share(new NotingOptions);
+    RasterFormat format("old", Ref<IParam>::share(node.get()));
+    RasterDialog dialog(nullptr, &format, false);
+    node->read.clear();
+    press(dialog, "optionsButton");
+    EXPECT_EQ(node->opened, QStringList{"Options"});
+    EXPECT_EQ(node->read, QStringList{"Format"});
+    EXPECT_EQ(node->AddRef(), 3) << "of this test, the format and this call";
+    node->Release();
+}
+
 TEST_F(RasterDialogs, TheModuleOfTheSettingsIsFoundInAnyLetterCase) {
     EXPECT_STREQ(rasterSettingsModule("JPG"), "jpegqt.dll");
     EXPECT_STREQ(rasterSettingsModule("jpeg"), "jpegqt.dll");
@@ -224,6 +270,7 @@ TEST_F(RasterDialogs, ANewFormatStartsWithWordsThatTellWhatToType) {
     select(row("tif"));
     whenDialogOpens([this](QDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Add Raster Format");
+        EXPECT_EQ(dialog.parentWidget(), preferences.get());
         EXPECT_EQ(editText(dialog, "nameEdit"), "<< Name >>");
         EXPECT_EQ(editText(dialog, "descriptionEdit"), "<< Put new format description here >>");
         EXPECT_EQ(editText(dialog, "extensionEdit"), "tif");

@@ -67,11 +67,14 @@ TEST_F(SearchBox, IsIdleAtTheStart) {
     EXPECT_FALSE(clearAction()->isVisible());
     EXPECT_EQ(clearAction()->toolTip(), "Clear");
     EXPECT_EQ(box->statusLabel->text(), "");
+    EXPECT_EQ(box->statusLabel->objectName(), "statusLabel");
 }
 
 TEST_F(SearchBox, FocusPrimesItWithAStarBehindTheCursor) {
     QSignalSpy gained(box, &SearchingLineEdit::focusGained);
+    QSignalSpy changed(box, &QLineEdit::textChanged);
     enter();
+    EXPECT_EQ(changed.count(), 0);
     EXPECT_EQ(box->text(), "*");
     EXPECT_EQ(box->cursorPosition(), 0);
     EXPECT_EQ(box->placeholderText(), "");
@@ -93,8 +96,25 @@ TEST_F(SearchBox, FocusOnATypedTextChangesNothing) {
     box->setText("grid");
     QSignalSpy gained(box, &SearchingLineEdit::focusGained);
     box->setFocus();
+    ASSERT_TRUE(box->hasFocus());
     EXPECT_EQ(box->text(), "grid");
     EXPECT_EQ(gained.count(), 0);
+}
+
+TEST_F(SearchBox, TabIntoATypedTextSelectsItAsInAnyField) {
+    box->setText("grid");
+    box->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(box->selectedText(), "grid");
+}
+
+TEST_F(SearchBox, LossOfFocusEndsTheEditAsInAnyFieldBeforeItIsTold) {
+    box->setText("grid");
+    box->setFocus();
+    QStringList order;
+    QObject::connect(box, &QLineEdit::editingFinished, &window, [&] { order << "edited"; });
+    QObject::connect(box, &SearchingLineEdit::focusOut, &window, [&] { order << "told"; });
+    leave();
+    EXPECT_EQ(order, (QStringList{"edited", "told"}));
 }
 
 TEST_F(SearchBox, BareStarIsIdleAgainWhenTheFocusLeaves) {
@@ -213,6 +233,7 @@ TEST_F(SearchBox, BareStarIsNothingSpecialForTheDescription) {
 TEST_F(SearchBox, EmptyBoxTakesTheMarksOutOfTheDescription) {
     box->setText("grid");
     showDescription(grid);
+    ASSERT_EQ(marks(), "....####.....####......");
     box->clear();
     EXPECT_EQ(marks(), ".......................");
     EXPECT_EQ(window.description->toPlainText(), "The grid has grid lines");
@@ -222,6 +243,7 @@ TEST_F(SearchBox, EmptyBoxTakesTheMarksOutAlsoWhereTheRootHasNoDescription) {
     window.root->description.clear(); // so that nothing of the root can match
     box->setText("grid");
     showDescription(grid);
+    ASSERT_EQ(marks(), "....####.....####......");
     box->clear();
     EXPECT_EQ(marks(), ".......................");
 }

@@ -1,51 +1,21 @@
-// A search over the tree: what stays visible, what is expanded and marked, and how it ends.
-#include "tests/options/pages/option_window.h"
-#include "tests/support/fixture_host.h"
+// A search over the tree: what stays visible, what is expanded and marked. How it ends is in
+// search_end_test.cpp.
+#include "tests/options/pages/search_fixture.h"
 
 #include <QSignalSpy>
-#include <QTextCursor>
-#include <gtest/gtest.h>
 
 namespace {
 
-const QString kOpen = "<span style=\"background-color: green\"><font color=\"white\">";
-const QString kClose = "</font></span>";
-
-QString marked(const QString& text) { return kOpen + text + kClose; }
-
-class Search : public testing::Test {
-protected:
-    void SetUp() override {
-        window.root->description = "All options of this program";
-        display = window.add(window.root, "Display", "How the drawing is shown");
-        colours = window.add(display, "Colours", "Colours of the canvas");
-        background = window.add(colours, "Background colour", "Colour behind the drawing");
-        grid = window.add(display, "Grid", "Lines of the grid");
-        files = window.add(window.root, "Files", "Folders and files");
-        autosave = window.add(files, "Autosave interval", "Minutes between two savings");
-        folder = window.add(files, "Folder", "Where the copies go");
-        window.open();
-        window.tree->setCurrentItem(window.root);
-    }
-
-    bool shown(TreeItem* item) const { return !item->isHidden(); }
-    QString status() const { return window.searchEdit->statusLabel->text(); }
-    QString label(TreeItem* item) const { return window.labelText(item); }
-    void setLabel(TreeItem* item, const QString& text) {
-        static_cast<QPrefWidget*>(window.tree->itemWidget(item, 0))->label()->setText(text);
-    }
-
-    FixtureHost host;
-    OptionWindow window;
-    TreeItem *display = nullptr, *colours = nullptr, *background = nullptr, *grid = nullptr, *files = nullptr,
-             *autosave = nullptr, *folder = nullptr;
-};
-
 TEST_F(Search, TypingAloneChangesNothing) {
-    window.searchEdit->setText("Autosave");
+    window.search("nothing");
+    QTest::keyClicks(window.searchEdit, " Autosave");
+    ASSERT_EQ(window.searchEdit->text(), "nothing Autosave");
+    EXPECT_FALSE(shown(files));
+    EXPECT_EQ(status(), "No matches!!!");
+    window.searchEdit->clear();
+    QTest::keyClicks(window.searchEdit, "Autosave");
     EXPECT_TRUE(shown(display));
     EXPECT_EQ(label(autosave), "Autosave interval");
-    EXPECT_EQ(status(), "");
 }
 
 TEST_F(Search, HidesTopBranchesWithoutAHit) {
@@ -63,8 +33,10 @@ TEST_F(Search, EnterSearchesAsReturnDoes) {
 
 TEST_F(Search, ShowsEverythingBelowAKeptBranchMatchingOrNot) {
     window.search("Autosave");
+    ASSERT_FALSE(shown(display));
     EXPECT_TRUE(shown(folder)); // beside the hit, below the kept "Files"
     window.search("Display");
+    ASSERT_FALSE(shown(files));
     for (TreeItem* item : {display, colours, background, grid})
         EXPECT_TRUE(shown(item)) << label(item).toStdString();
 }
@@ -77,6 +49,7 @@ TEST_F(Search, HiddenBranchKeepsAFlagOfItsOwnOnEachItem) {
 
 TEST_F(Search, ExpandsTheParentsOfAHit) {
     window.search("Background");
+    EXPECT_TRUE(shown(display));
     EXPECT_TRUE(display->isExpanded());
     EXPECT_TRUE(colours->isExpanded());
     EXPECT_FALSE(background->isExpanded());
@@ -107,6 +80,7 @@ TEST_F(Search, NestsTheMarksOfAnItemThatMatchesInBoth) {
 
 TEST_F(Search, LeavesTheLabelOfAnAncestorOfAHitUnmarked) {
     window.search("interval");
+    ASSERT_EQ(label(autosave), "Autosave " + marked("interval"));
     EXPECT_EQ(label(files), "Files");
 }
 
@@ -123,7 +97,7 @@ TEST_F(Search, ThirdMarkOfAShortLabelIsMissing) {
 }
 
 TEST_F(Search, ThirdMarkOfALongLabelStandsOutOfPlaceAndOverwritesText) {
-    const int growth = kOpen.size() + kClose.size();
+    const int growth = opening.size() + closing.size();
     const QString tail = QString(2 * growth, 'z');
     setLabel(folder, "a b a c a " + tail);
     window.search("a");
@@ -133,13 +107,13 @@ TEST_F(Search, ThirdMarkOfALongLabelStandsOutOfPlaceAndOverwritesText) {
 }
 
 TEST_F(Search, NextSearchRemovesEveryMarkEvenOneOutOfPlace) {
-    const int growth = kOpen.size() + kClose.size();
+    const int growth = opening.size() + closing.size();
     const QString tail = QString(2 * growth, 'z');
     setLabel(folder, "a b a c a " + tail);
     window.search("a");
     window.search("nothing");
-    EXPECT_FALSE(label(folder).contains(kOpen));
-    EXPECT_FALSE(label(folder).contains(kClose));
+    EXPECT_FALSE(label(folder).contains(opening));
+    EXPECT_FALSE(label(folder).contains(closing));
     EXPECT_EQ(label(folder).size(), 10 + tail.size()); // one letter of the tail is lost for good
     EXPECT_EQ(label(folder).count('z'), tail.size() - 1);
 }
@@ -164,12 +138,22 @@ TEST_F(Search, WithoutAMatchHidesEveryItemBelowRoot) {
 
 TEST_F(Search, WithAMatchTellsSoAndEmptiesTheStatus) {
     window.search("nothing");
+    ASSERT_EQ(status(), "No matches!!!");
+    window.search("nothing");
     QSignalSpy none(window.searchEdit, &SearchingLineEdit::noFound);
     QSignalSpy some(window.searchEdit, &SearchingLineEdit::smthFound);
     window.search("Grid");
     EXPECT_EQ(status(), "");
     EXPECT_EQ(none.count(), 0);
     EXPECT_EQ(some.count(), 1);
+}
+
+TEST_F(Search, WithoutAMatchTellsSoAlsoAfterASearchThatHadOne) {
+    window.search("Grid");
+    QSignalSpy none(window.searchEdit, &SearchingLineEdit::noFound);
+    window.search("nothing");
+    EXPECT_EQ(status(), "No matches!!!");
+    EXPECT_EQ(none.count(), 1);
 }
 
 TEST_F(Search, TellsOfTheResultBeforeItTellsOfTheStart) {
@@ -194,6 +178,7 @@ TEST_F(Search, OtherTopLevelItemsAreNeitherMarkedNorHidden) {
     window.setRow(second, nullptr);
     TreeItem* below = window.add(second, "Grid of the second");
     window.search("Grid");
+    ASSERT_EQ(label(grid), marked(marked("Grid")));
     EXPECT_EQ(label(below), "Grid of the second");
     window.search("nothing");
     EXPECT_FALSE(second->isHidden());
@@ -201,10 +186,28 @@ TEST_F(Search, OtherTopLevelItemsAreNeitherMarkedNorHidden) {
 }
 
 TEST_F(Search, RootWithoutChildrenKeepsTheStatus) {
+    window.search("Grid");
+    qDeleteAll(window.root->takeChildren());
+    window.search("nothing");
+    EXPECT_EQ(status(), "") << "of the search that found the grid";
+}
+
+TEST_F(Search, RootWithoutChildrenLosesTheStatusByAReset) {
     window.search("nothing");
     qDeleteAll(window.root->takeChildren());
     window.search("Grid");
+    ASSERT_EQ(status(), "No matches!!!");
+    window.searchEdit->clear();
+    EXPECT_EQ(status(), "");
+}
+
+TEST_F(Search, BlanksAroundTheTextAreSearchedToo) {
+    window.search(" interval");
+    EXPECT_EQ(label(autosave), "Autosave" + marked(" interval"));
+    window.search(" Autosave");
     EXPECT_EQ(status(), "No matches!!!");
+    window.search("Autosave ");
+    EXPECT_EQ(label(autosave), marked("Autosave ") + "interval");
 }
 
 TEST_F(Search, PassesOverItemsWithoutARowButSearchesBelowThem) {
@@ -236,75 +239,6 @@ TEST_F(Search, DeepTreeIsSearchedToTheBottom) {
     EXPECT_FALSE(shown(display));
 }
 
-TEST_F(Search, ResetShowsEverythingAndTakesTheMarksAway) {
-    window.search("colour");
-    window.searchEdit->clear();
-    for (TreeItem* item : {display, colours, background, grid, files, autosave, folder})
-        EXPECT_TRUE(shown(item)) << label(item).toStdString();
-    EXPECT_EQ(label(background), "Background colour");
-    EXPECT_EQ(status(), "");
-}
-
-TEST_F(Search, ResetMakesRootCurrentWhereNoExpansionChanges) {
-    window.search("nothing");
-    window.tree->setCurrentItem(files);
-    window.searchEdit->clear();
-    EXPECT_EQ(window.tree->currentItem(), window.root);
-}
-
-TEST_F(Search, ResetThatCollapsesAnItemLeavesThatItemCurrent) {
-    window.search("interval");
-    window.searchEdit->clear();
-    EXPECT_EQ(window.tree->currentItem(), files); // the rule for collapsed items runs during the reset too
-}
-
-TEST_F(Search, ResetPutsTheSavedExpansionBack) {
-    files->setExpanded(true);
-    window.search("Background");
-    ASSERT_TRUE(colours->isExpanded());
-    window.searchEdit->clear();
-    EXPECT_FALSE(display->isExpanded());
-    EXPECT_FALSE(colours->isExpanded());
-    EXPECT_TRUE(files->isExpanded());
-}
-
-TEST_F(Search, ResetTellsThatNothingIsFoundAndThenThatItIsFinished) {
-    window.search("Background");
-    QStringList order;
-    QObject::connect(window.searchEdit, &SearchingLineEdit::noFound, &window, [&] { order << "none"; });
-    QObject::connect(window.searchEdit, &SearchingLineEdit::searchFinished, &window,
-                     [&] { order << "finished"; });
-    window.searchEdit->clear();
-    EXPECT_EQ(order, (QStringList{"none", "finished"}));
-}
-
-TEST_F(Search, ResetHasPutTheExpansionBackWhenItTellsThatItIsFinished) {
-    window.search("Background");
-    ASSERT_TRUE(colours->isExpanded());
-    bool expandedThen = true;
-    QObject::connect(window.searchEdit, &SearchingLineEdit::searchFinished, &window,
-                     [&] { expandedThen = display->isExpanded() || colours->isExpanded(); });
-    window.searchEdit->clear();
-    EXPECT_FALSE(expandedThen);
-}
-
-TEST_F(Search, SecondReturnOverwritesTheSavedExpansionWithThatOfTheFirstSearch) {
-    window.search("Background");
-    QTest::keyClick(window.searchEdit, Qt::Key_Return);
-    window.searchEdit->clear();
-    EXPECT_TRUE(display->isExpanded());
-    EXPECT_TRUE(colours->isExpanded());
-}
-
-TEST_F(Search, ItemHiddenAtReturnKeepsTheExpansionThatTheSearchLeft) {
-    window.search("Autosave"); // hides "Display", whose expansion the next Return cannot save
-    window.search("Background");
-    ASSERT_TRUE(display->isExpanded());
-    window.searchEdit->clear();
-    EXPECT_TRUE(display->isExpanded());
-    EXPECT_TRUE(files->isExpanded()); // as the first search left it
-}
-
 TEST_F(Search, ReturnOnAnEmptyBoxSearchesNothingButSavesAndTells) {
     for (const char* text : {"", "*"}) {
         display->setExpanded(true);
@@ -331,6 +265,7 @@ TEST_F(Search, ReturnDoesNotFireTheDefaultButtonAndIsNoEndOfEditing) {
     window.search("Grid");
     EXPECT_EQ(clicked.count(), 0);
     EXPECT_EQ(pressed.count(), 0);
+    EXPECT_FALSE(shown(files)) << "it has searched";
     EXPECT_TRUE(window.isVisible());
 }
 
@@ -344,16 +279,16 @@ TEST_F(Search, RemoveHighlightGivesTheTextOfTheLabelBack) {
 
 TEST_F(Search, RemoveHighlightTakesOpeningTextsFirstAndLooksAtTheCase) {
     QString hiddenOpening =
-        kOpen.left(5) + kClose + kOpen.mid(5); // only a removed closing text would join it
+        opening.left(5) + closing + opening.mid(5); // only a removed closing text would join it
     window.searchEdit->removeHighlight(hiddenOpening);
-    EXPECT_EQ(hiddenOpening, kOpen);
+    EXPECT_EQ(hiddenOpening, opening);
     QString upper = marked("x").toUpper();
     window.searchEdit->removeHighlight(upper);
     EXPECT_EQ(upper, marked("x").toUpper());
 }
 
 TEST_F(Search, ClearingForTheNextSearchTakesClosingTextsFirst) {
-    setLabel(folder, kOpen.left(5) + kClose + kOpen.mid(5) + "x");
+    setLabel(folder, opening.left(5) + closing + opening.mid(5) + "x");
     window.search("nothing");
     EXPECT_EQ(label(folder), "x");
 }

@@ -112,6 +112,14 @@ TYPED_TEST(SmallEditor, SelectsOnlyAfterTheFocusEventHasEnded) {
     EXPECT_TRUE(waitUntil([line] { return line->selectedText() == line->text(); }));
 }
 
+TYPED_TEST(SmallEditor, TabIntoItSelectsAtOnceAsInAnyField) {
+    QLineEdit* const line = inner(this->editor);
+    line->deselect();
+    QFocusEvent focusIn(QEvent::FocusIn, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(this->editor, &focusIn);
+    EXPECT_EQ(line->selectedText(), line->text());
+}
+
 TYPED_TEST(SmallEditor, WithoutItemOrTreeFocusChangesNoCurrentItem) {
     this->window.tree->setCurrentItem(this->window.root);
     TypeParam* const withoutTree = makeEditor<TypeParam>(this->item, nullptr, &this->window);
@@ -188,7 +196,7 @@ TEST_F(TextEditor, IsTrimmedWhenReturnTakesTheFocusAway) {
 
 TEST_F(TextEditor, KeepsInnerSpaces) {
     takeFocus();
-    editor->setText("a  b");
+    editor->setText(" a  b ");
     window.okButton->setFocus();
     EXPECT_EQ(editor->text(), "a  b");
 }

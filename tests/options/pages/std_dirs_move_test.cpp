@@ -33,6 +33,8 @@ TEST_F(StdDirMoves, UpExchangesTheRowWithTheOneBefore) {
     click(preferences->upButton);
     EXPECT_EQ(rows(), (QStringList{"/1", "/3", "/2"}));
     EXPECT_EQ(held(), (QStringList{"/1", "/3", "/2"}));
+    click(preferences->upButton);
+    EXPECT_EQ(rows(), (QStringList{"/3", "/1", "/2"}));
 }
 
 TEST_F(StdDirMoves, TheEndsStay) {

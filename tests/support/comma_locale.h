@@ -1,0 +1,42 @@
+// A C library whose numbers have a comma for the decimal point, as in much of Europe; no such locale need be
+// installed.
+#pragma once
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <clocale>
+#include <string>
+
+// In force while it lives, for LC_NUMERIC alone.
+class CommaLocale {
+public:
+    CommaLocale() : former(std::setlocale(LC_NUMERIC, nullptr)), formerPath(qgetenv("LOCPATH")) {
+        // The compiled form of a locale that has "," as decimal point and "." between thousands.
+        static const char numeric[] =
+            "\x14\x11\x03\x20\x06\0\0\0\x20\0\0\0\x22\0\0\0\x24\0\0\0\x28\0\0\0\x2c\0\0\0\x30\0\0\0"
+            ",\0.\0\x03\x03\0\0,\0\0\0.\0\0\0UTF-8";
+        QDir(folder.path()).mkdir(QStringLiteral("comma"));
+        QFile file(folder.filePath(QStringLiteral("comma/LC_NUMERIC")));
+        if (file.open(QFile::WriteOnly))
+            file.write(numeric, sizeof numeric);
+        file.close();
+        qputenv("LOCPATH", folder.path().toLocal8Bit());
+        std::setlocale(LC_NUMERIC, "comma");
+    }
+    ~CommaLocale() {
+        std::setlocale(LC_NUMERIC, former.c_str());
+        if (formerPath.isNull())
+            qunsetenv("LOCPATH");
+        else
+            qputenv("LOCPATH", formerPath);
+    }
+    CommaLocale(const CommaLocale&) = delete;
+    CommaLocale& operator=(const CommaLocale&) = delete;
+    // False where the C library has another form of locales.
+    bool isInForce() const { return std::string(std::localeconv()->decimal_point) == ","; }
+
+private:
+    QTemporaryDir folder;
+    std::string former;
+    QByteArray formerPath;
+};
