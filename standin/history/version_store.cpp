@@ -114,17 +114,25 @@ void VersionStore::note(const QString& drawing, const QString& name, const QStri
     version->setValue("Reason", &(value = hostqt::cxStringW(reason)));
 }
 
-void VersionStore::removeOldest(const QString& drawing, int maximum) {
+QStringList VersionStore::forgetOldest(const QString& drawing, int maximum) {
     std::vector<FileVersion> versions = versionsOf(drawing);
     const int surplus = std::max(0, static_cast<int>(versions.size()) - maximum);
     versions.resize(static_cast<std::size_t>(surplus));
     const Ref<IParam> entry = openChild(index.get(), folderName(drawing).toUtf8().constData(), 1);
+    QStringList files;
     for (const FileVersion& version : versions) {
         entry->removeEntry(QFileInfo(version.file).fileName().toUtf8().constData());
-        QFile file(version.file);
+        files << version.file;
+    }
+    return files;
+}
+
+void VersionStore::removeFiles(const QStringList& files) const {
+    for (const QString& name : files) {
+        QFile file(name);
         if (file.exists() && !file.remove())
             io.report(tr("The former version %1 cannot be removed: %2")
-                          .arg(QDir::toNativeSeparators(version.file), file.errorString()));
+                          .arg(QDir::toNativeSeparators(name), file.errorString()));
     }
 }
 
@@ -151,8 +159,11 @@ bool VersionStore::keep(const QString& drawing, const QString& reason, int maxim
     if (name.isEmpty())
         return false;
     note(drawing, name, reason);
-    removeOldest(drawing, maximum);
-    index->flush(); // tells of a failure itself; the version stays, without its reason
+    const QStringList surplus = forgetOldest(drawing, maximum);
+    // Tells of a failure itself; the version stays, without its reason. The files go last, so that the index
+    // never names one that is gone, whenever the process ends.
+    if (index->flush())
+        removeFiles(surplus);
     return true;
 }
 

@@ -31,7 +31,9 @@ private:
     void tellIfVanished(const QString& drawing) const;
     QString copyOf(const QString& drawing) const;
     void note(const QString& drawing, const QString& name, const QString& reason);
-    void removeOldest(const QString& drawing, int maximum);
+    // Takes the oldest versions past `maximum` out of the index; their files are still there.
+    QStringList forgetOldest(const QString& drawing, int maximum);
+    void removeFiles(const QStringList& files) const;
 
     QString root;
     StoreIo io;

@@ -5,6 +5,7 @@
 #include "standin/params/yaml_tree.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
@@ -28,6 +29,22 @@ QString lockReason(const QLockFile& lock) {
     if (lock.error() == QLockFile::LockFailedError)
         return FileStore::tr("another program is writing it");
     return FileStore::tr("its folder cannot be written");
+}
+
+// A holder signs its lock with a line for its process and more for its machine.
+bool isSigned(const QString& lockFile) {
+    QString unread;
+    const QByteArray lines = readWhole(lockFile, unread).value_or(QByteArray());
+    return lines.endsWith('\n') && lines.count('\n') >= 3;
+}
+
+// A process that was killed while it made its lock leaves one that names nobody. Who holds a lock signs it at
+// once, so one that stayed unsigned for as long as we wait has no holder.
+bool takeLock(QLockFile& lock, const QString& path, int timeout) {
+    if (lock.tryLock(timeout))
+        return true;
+    const qint64 age = QFileInfo(path).lastModified().msecsTo(QDateTime::currentDateTime());
+    return !isSigned(path) && age >= timeout && lock.removeStaleLockFile() && lock.tryLock(timeout);
 }
 
 // A path is in a section when it is the section's own or goes on below it.
@@ -152,8 +169,9 @@ bool FileStore::write(QString& reason) {
         reason = tr("its folder cannot be made");
         return false;
     }
-    QLockFile lock(files.user + QStringLiteral(".lock"));
-    if (!lock.tryLock(io.lockTimeout)) {
+    const QString lockFile = files.user + QStringLiteral(".lock");
+    QLockFile lock(lockFile);
+    if (!takeLock(lock, lockFile, io.lockTimeout)) {
         reason = lockReason(lock);
         return false;
     }

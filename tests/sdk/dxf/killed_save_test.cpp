@@ -1,51 +1,64 @@
-// A process that is killed while it saves leaves the old drawing or the new one.
+// A process that is killed at any call of a save leaves the old drawing or the new one.
 #include "tests/sdk/dxf/drawing_texts.h"
+#include "tests/support/kill_at_call.h"
 
+#include <QDir>
 #include <QTemporaryDir>
-#include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
-// Saves two states of a drawing in turn until it is killed; says when the first one stands.
-[[noreturn]] void saveForEver(OdDbDatabase& small, OdDbDatabase& large, const OdString& path, int started) {
-    small.writeFile(path);
-    if (write(started, "x", 1) != 1)
-        _exit(1);
-    while (true) {
-        large.writeFile(path);
-        small.writeFile(path);
+OdDbDatabasePtr drawingWithLines(int count) {
+    OdDbDatabasePtr database = OdDbDatabase::readBytes(sampleDrawing());
+    for (int i = 0; i < count; ++i) {
+        OdDbLinePtr line(new OdDbLine);
+        modelSpaceOf(*database, OdDb::kForWrite)->appendOdDbEntity(line.get());
     }
+    return database;
+}
+
+std::string faultOf(const OdString& path, const std::string& before, std::size_t linesAfter) {
+    const OdDbDatabasePtr found = OdDbDatabase::readFile(path);
+    if (found->writeBytes() == before)
+        return "";
+    const std::size_t count = modelSpaceOf(*found)->entityIds().size();
+    return count == linesAfter
+               ? ""
+               : "neither the old drawing nor the new one, but " + std::to_string(count) + " entities";
 }
 
 } // namespace
 
-TEST(KilledSave, AHundredTimesNothingIsLost) {
+TEST(KilledSave, EveryCallLeavesTheOldDrawingOrTheNewOne) {
     QTemporaryDir folder;
     const OdString path = folder.filePath("plan.dxf").toStdWString();
     const OdDbDatabasePtr small = OdDbDatabase::readBytes(sampleDrawing());
-    const OdDbDatabasePtr large = OdDbDatabase::readBytes(sampleDrawing());
-    for (int i = 0; i < 2000; ++i) {
-        OdDbLinePtr line(new OdDbLine);
-        modelSpaceOf(*large, OdDb::kForWrite)->appendOdDbEntity(line.get());
-    }
-    for (int round = 0; round < 100; ++round) {
-        int started[2];
-        ASSERT_EQ(pipe(started), 0);
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0)
-            saveForEver(*small, *large, path, started[1]);
-        char sign = 0;
-        ASSERT_EQ(read(started[0], &sign, 1), 1);
-        // The moment is part of the test: each round kills somewhere else in a save.
-        usleep(static_cast<useconds_t>(round * 337 % 20000));
-        kill(child, SIGKILL);
-        ASSERT_EQ(waitpid(child, nullptr, 0), child);
-        close(started[0]);
-        close(started[1]);
-        const std::size_t count = modelSpaceOf(*OdDbDatabase::readFile(path))->entityIds().size();
-        ASSERT_TRUE(count == 3 || count == 2003) << count;
-    }
+    const OdDbDatabasePtr large = drawingWithLines(5000);
+    const std::size_t linesBefore = modelSpaceOf(*small)->entityIds().size();
+    std::string before;
+    int places = 0;
+    EXPECT_EQ(testing_kills::faultOfKills(
+                  [&] {
+                      small->writeFile(path);
+                      before = OdDbDatabase::readFile(path)->writeBytes();
+                  },
+                  [&] { large->writeFile(path); }, [&] { return faultOf(path, before, linesBefore + 5000); },
+                  places),
+              "");
+    EXPECT_GE(places, 6) << "a save writes, syncs and moves";
+}
+
+TEST(KilledSave, TheFirstSaveOfADrawingLeavesTheWholeOfItOrNothing) {
+    QTemporaryDir folder;
+    const QString file = folder.filePath("new.dxf");
+    const OdDbDatabasePtr drawing = drawingWithLines(100);
+    const std::size_t lines = modelSpaceOf(*drawing)->entityIds().size();
+    int places = 0;
+    EXPECT_EQ(testing_kills::faultOfKills(
+                  [&] { QFile::remove(file); }, [&] { drawing->writeFile(file.toStdWString()); },
+                  [&]() -> std::string {
+                      return QFile::exists(file) ? faultOf(file.toStdWString(), "", lines) : "";
+                  },
+                  places),
+              "");
+    EXPECT_GE(places, 6);
 }
