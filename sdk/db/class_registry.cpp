@@ -71,6 +71,13 @@ const Classes& objectClasses() {
 
 OdRxClass* odDbEntityClass() { return OdDbEntity::desc(); }
 
+std::vector<std::string_view> odDbEntityNames() {
+    std::vector<std::string_view> names;
+    for (const auto& entry : entityClasses())
+        names.push_back(entry.first);
+    return names;
+}
+
 OdRxClass* odDbClassForDxfName(std::string_view name, bool isEntity) {
     const Classes& classes = isEntity ? entityClasses() : objectClasses();
     const auto found = classes.find(name);

@@ -12,8 +12,5 @@ public:
     // The length of the arrow head by the leader's own override or its dimension style, scale included.
     double arrowSize() const;
     void addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const override;
-
-private:
-    double dimensionValue(int code, double otherwise) const;
 };
 using OdDbLeaderPtr = OdSmartPtr<OdDbLeader>;

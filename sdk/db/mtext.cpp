@@ -70,7 +70,7 @@ void OdDbMText::setContents(const OdString& text) {
 
 OdString OdDbMText::plainText() const {
     std::wstring plain;
-    for (const OdDbTextPiece& piece : odDbTextPieces(contents().wide(), textHeight()))
+    for (const OdDbTextPiece& piece : odDbTextPieces(contents().wide(), {}))
         plain += plainPiece(piece);
     return plain;
 }

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cwchar>
 #include <cwctype>
+#include <iterator>
 
 namespace {
 
@@ -13,12 +14,24 @@ constexpr wchar_t kNoBreakSpace = 0xa0;
 
 bool isDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
 
+bool isSignFont(const std::wstring& font) {
+    std::wstring name = font.substr(0, 3);
+    for (wchar_t& letter : name)
+        letter = static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(letter)));
+    return name == L"gdt";
+}
+
+// The letters of the font of tolerances, from a on.
+wchar_t signOf(wchar_t letter) {
+    static const wchar_t signs[] = L"\x2220\x27c2\x23e5\x2313\x25cb\x2225\x232d\x2197\x232f\x2316\x2312\x24c1"
+                                   L"\x24c2\x2300o\x24c5q\x25ce\x24c8\x2330\x23e4";
+    const int place = static_cast<int>(letter) - 'a';
+    return place >= 0 && place < static_cast<int>(std::size(signs)) - 1 ? signs[place] : letter;
+}
+
 class CodeReader {
 public:
-    CodeReader(const std::wstring& contents, double height) : text(contents) {
-        formats.emplace_back();
-        formats.back().height = height;
-    }
+    CodeReader(const std::wstring& contents, const OdDbTextFormat& usual) : text(contents), formats{usual} {}
     std::vector<OdDbTextPiece> read() {
         while (at < text.size())
             readNext();
@@ -48,7 +61,7 @@ private:
         else if (c == L'\t')
             put(OdDbTextPiece::kTab);
         else if (c != L'\r')
-            word += c;
+            word += format().isOfSigns ? signOf(c) : c;
     }
 
     void leaveBraces() {
@@ -175,6 +188,7 @@ private:
     void readFont(const std::wstring& font) {
         if (font.empty() || font.front() == L'|')
             return;
+        format().isOfSigns = isSignFont(font);
         format().isBold = font.find(L"|b1") != std::wstring::npos;
         format().isItalic = font.find(L"|i1") != std::wstring::npos;
     }
@@ -264,8 +278,8 @@ private:
 
 } // namespace
 
-std::vector<OdDbTextPiece> odDbTextPieces(const std::wstring& contents, double height) {
-    return CodeReader(contents, height).read();
+std::vector<OdDbTextPiece> odDbTextPieces(const std::wstring& contents, const OdDbTextFormat& usual) {
+    return CodeReader(contents, usual).read();
 }
 
 wchar_t odDbPercentSign(const std::wstring& text, std::size_t& at) {

@@ -27,6 +27,7 @@ struct OdDbTextFormat {
     ColorSource colorSource = kOfText;
     std::uint32_t color = 0; // an index of the palette, or 0x00RRGGBB
     bool isBold = false, isItalic = false;
+    bool isOfSigns = false; // letters stand for the signs of tolerances, which the pieces have in their place
     bool isUnderlined = false, isOverlined = false, isStruck = false;
     VerticalPlace place = kBaseLine; // of stacks, and of letters beside larger ones
     OdDbParagraphFormat paragraph{};
@@ -41,8 +42,8 @@ struct OdDbTextPiece {
     OdDbTextFormat format{};
 };
 
-// `height` is that of letters that no code changes. Codes that nobody knows stand for themselves.
-std::vector<OdDbTextPiece> odDbTextPieces(const std::wstring& contents, double height);
+// `usual` is the format of letters that no code changes. Codes that nobody knows stand for themselves.
+std::vector<OdDbTextPiece> odDbTextPieces(const std::wstring& contents, const OdDbTextFormat& usual);
 
 // The sign that a code of the form %%x or %%nnn at `at` stands for, with `at` moved behind it; 0 when there
 // is none there. %%u, %%o and %%k, which switch lines on and off, are none.

@@ -40,11 +40,11 @@ const std::vector<Kind> table{
     {"LOFTEDSURFACE", nullptr, missed},
     {"LWPOLYLINE", draw::polyline},
     {"MESH", draw::mesh},
-    {"MLEADER", nullptr, missed},
+    {"MLEADER", draw::multiLeader},
     {"MLINE", draw::mline},
     {"MPOLYGON", draw::hatch},
     {"MTEXT", draw::mtext},
-    {"MULTILEADER", nullptr, missed},
+    {"MULTILEADER", draw::multiLeader},
     {"NURBSURFACE", nullptr, missed},
     {"OLE2FRAME", draw::ole},
     {"OLEFRAME", nullptr, missed},
@@ -66,7 +66,7 @@ const std::vector<Kind> table{
     {"SURFACE", nullptr, missed},
     {"SWEPTSURFACE", nullptr, missed},
     {"TEXT", draw::text},
-    {"TOLERANCE", nullptr, missed},
+    {"TOLERANCE", draw::tolerance},
     {"TRACE", draw::solid},
     {"VERTEX"},   // drawn by its polyline
     {"VIEWPORT"}, // a window of a layout

@@ -27,7 +27,7 @@ public:
         const bool isJustified = line.format.paragraph.alignment == OdDbParagraphFormat::kJustified &&
                                  !line.endsParagraph && line.width > 0;
         const double stretch = isJustified && free > 0 ? free / std::max(1, gapsIn(line)) : 0;
-        for (std::size_t i = 0; i < line.atoms.size(); ++i)
+        for (std::size_t i = 0; i < solidAtoms(line); ++i)
             setAtom(line, i, stretch);
     }
 
@@ -44,13 +44,17 @@ private:
             return 0;
         }
     }
-    static int gapsIn(const TextLine& line) {
+    // Blanks at the end are not set.
+    static std::size_t solidAtoms(const TextLine& line) {
         std::size_t solid = line.atoms.size();
         while (solid > 0 && line.atoms[solid - 1].kind == TextAtom::Blank)
             --solid;
-        return static_cast<int>(std::count_if(line.atoms.begin(),
-                                              line.atoms.begin() + static_cast<std::ptrdiff_t>(solid),
-                                              [](const TextAtom& a) { return a.kind == TextAtom::Blank; }));
+        return solid;
+    }
+    static int gapsIn(const TextLine& line) {
+        const auto end = line.atoms.begin() + static_cast<std::ptrdiff_t>(solidAtoms(line));
+        return static_cast<int>(std::count_if(
+            line.atoms.begin(), end, [](const TextAtom& atom) { return atom.kind == TextAtom::Blank; }));
     }
 
     void setAtom(const TextLine& line, std::size_t number, double stretch) {

@@ -1,34 +1,52 @@
 // Single lines of text, and definitions of attributes, which show their tag where they are not filled in.
 #include "sdk/db/text.h"
 
-#include "host/text.h"
-#include "standin/display/flat.h"
 #include "standin/display/kinds.h"
-#include "standin/display/text_lines.h"
+#include "standin/display/line_text.h"
 
 namespace standin {
 
 namespace {
 
+constexpr int kBackwards = 2, kUpsideDown = 4; // in the flags of generation
+constexpr double kDegree = M_PI / 180;
+
+// What a text says itself comes before what its style says.
+LineText lineOf(const OdDbText& text, const OdString& content, const Pencil& pencil) {
+    const TextStyle& style = pencil.looks().textStyles().of(text.textStyle());
+    const DxfTagList& tags = text.tags();
+    const DxfTagList::Range part = tags.subclass("AcDbText");
+    const std::int64_t usualTurns = (style.backwards ? kBackwards : 0) | (style.upsideDown ? kUpsideDown : 0);
+    const std::int64_t turns = tags.integer(part, 71, usualTurns);
+    LineText line;
+    line.content = content.wide();
+    line.height = text.height();
+    line.widthFactor = text.widthFactor() > 0 ? text.widthFactor() : 1;
+    line.oblique = tags.find(51, part) == DxfTagList::npos ? style.oblique : tags.real(part, 51) * kDegree;
+    line.isBackwards = (turns & kBackwards) != 0;
+    line.isUpsideDown = (turns & kUpsideDown) != 0;
+    line.isVertical = style.vertical;
+    return line;
+}
+
 void drawText(const OdDbText& text, const OdString& content, const Pencil& pencil) {
+    enum { Aligned = 3, Middle = 4, Fit = 5 };
     const int across = text.horizontalMode(), up = text.verticalMode();
-    const bool isAligned = across != 0 || up != 0;
-    const bool betweenPoints = across == 3 || across == 5; // the left end is given as well
-    const OdGePoint3d place = isAligned && !betweenPoints ? text.alignmentPoint() : text.position();
-    const OdGeMatrix3d matrix = pencil.plane(text) * OdGeMatrix3d::translation(place.asVector()) *
-                                OdGeMatrix3d::rotation(text.rotation(), OdGeVector3d::kZAxis);
-    const double wide = text.height() * (text.widthFactor() > 0 ? text.widthFactor() : 1);
-    const QPointF before(across == 1 || across == 4 ? 0.5
-                         : across == 2              ? 1
-                                                    : 0,
-                         up == 3                  ? 1
-                         : up == 2 || across == 4 ? 0.5
-                                                  : 0);
-    pencil.draw({Shape::Text,
-                 {},
-                 {flat(matrix * OdGePoint3d()), flat(matrix * OdGeVector3d(wide, 0, 0)),
-                  flat(matrix * OdGeVector3d(0, text.height(), 0)), before},
-                 shownText(hostqt::qString(content))});
+    const OdGePoint3d left = text.position(), hung = text.alignmentPoint();
+    LineText line = lineOf(text, content, pencil);
+    line.before = {across == 1 || across == Middle ? 0.5
+                   : across == 2                   ? 1
+                                                   : 0,
+                   up == 3                       ? 1
+                   : up == 2 || across == Middle ? 0.5
+                                                 : 0};
+    line.rotation = text.rotation();
+    line.place = across != 0 || up != 0 ? hung : left;
+    if ((across == Aligned || across == Fit) && left != hung)
+        line.fitBetween(left, hung, across == Aligned);
+    else if (across == Aligned || across == Fit)
+        line.place = left;
+    drawLineText(line, pencil.plane(text), pencil);
 }
 
 } // namespace
