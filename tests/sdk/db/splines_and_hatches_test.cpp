@@ -78,13 +78,15 @@ TEST(Splines, NumbersThatMakeNoSplineGiveTheControlPoints) {
     EXPECT_EQ(curve.path(), curve.controls);
 }
 
-TEST(Splines, FitPointsAloneAreJoined) {
+TEST(Splines, FitPointsAloneAreJoinedByACurveThroughAllOfThem) {
     const OdDbDatabasePtr database =
         drawingWith("0\nSPLINE\n5\nA1\n100\nAcDbEntity\n8\n0\n100\nAcDbSpline\n70\n1\n71\n3\n"
                     "11\n0.0\n21\n0.0\n31\n0.0\n11\n4.0\n21\n0.0\n31\n0.0\n11\n4.0\n21\n4.0\n31\n0.0\n");
     const std::vector<OdGePoint3d> path = onlyEntity<OdDbSpline>(*database)->path();
-    ASSERT_EQ(path.size(), 4u);
+    ASSERT_EQ(path.size(), 37u); // twelve pieces between any two
     EXPECT_EQ(path.front(), path.back());
+    EXPECT_EQ(path[12], OdGePoint3d(4, 0, 0));
+    EXPECT_EQ(path[24], OdGePoint3d(4, 4, 0));
 }
 
 TEST(Hatches, PolylineBorderTakesItsBulges) {
