@@ -80,26 +80,15 @@ template <class IntoBuffer> void writeVariable(const CXString& key, IntoBuffer i
     HostDocManager()->varService()->setVar(name, buffer.get(), nullptr, 0);
 }
 
-void writeProfile(const Place& place, const CKWVariant& value) {
-    if (const Ref<IParam> section = profileSection(place.section, 1))
-        section->setValue(place.key, &value);
-}
-
-template <class IntoBuffer>
-void writeOption(IParam* node, IParam* parent, const CKWVariant& value, IntoBuffer intoBuffer) {
+template <class Value, class IntoBuffer>
+void writeOption(IParam* node, IParam* parent, const Value& value, IntoBuffer intoBuffer) {
     Place place;
     if (!findPlace(node, parent, place))
         return;
     if (place.isVariable())
         writeVariable(place.key, intoBuffer);
     else if (place.isProfile())
-        writeProfile(place, value);
-}
-
-template <class Value> CKWVariant variantOf(const Value& value) {
-    CKWVariant variant;
-    variant = value;
-    return variant;
+        writeValue(profileSection(place.section, 1).get(), place.key, value);
 }
 
 // A variable of a class that isn't named here goes back unchanged, which is meant.
@@ -164,31 +153,31 @@ unsigned int colorOrDefault(IParam* node, IParam* parent) {
 }
 
 void writeIntOption(IParam* node, IParam* parent, int value) {
-    writeOption(node, parent, variantOf(value), [=](OdResBuf& buffer) { setInteger(buffer, value); });
+    writeOption(node, parent, value, [=](OdResBuf& buffer) { setInteger(buffer, value); });
 }
 
 void writeDoubleOption(IParam* node, IParam* parent, double value) {
-    writeOption(node, parent, variantOf(value), [=](OdResBuf& buffer) { buffer.setDouble(value); });
+    writeOption(node, parent, value, [=](OdResBuf& buffer) { buffer.setDouble(value); });
 }
 
 void writeTextOption(IParam* node, IParam* parent, const CXString& value) {
-    writeOption(node, parent, variantOf(value),
+    writeOption(node, parent, value,
                 [&](OdResBuf& buffer) { buffer.setString(OdString(value, CP_LOCAL_8BIT)); });
 }
 
 void writeStringOption(IParam* node, IParam* parent, const CXStringW& value) {
-    writeOption(node, parent, variantOf(value), leaveUnchanged);
+    writeOption(node, parent, value, leaveUnchanged);
 }
 
 void writeColorOption(IParam* node, IParam* parent, unsigned int value) {
-    writeOption(node, parent, variantOf(value),
+    writeOption(node, parent, value,
                 [=](OdResBuf& buffer) { buffer.setInt32(static_cast<std::int32_t>(value)); });
 }
 
 void writePaletteOption(IParam* node, IParam* parent, unsigned short index) {
-    writeOption(node, parent, variantOf(index), [=](OdResBuf& buffer) { setInteger(buffer, index); });
+    writeOption(node, parent, index, [=](OdResBuf& buffer) { setInteger(buffer, index); });
 }
 
 void writeSaveFormatOption(IParam* node, IParam* parent, int number) {
-    writeOption(node, parent, CKWVariant(number, kVtInt), leaveUnchanged);
+    writeOption(node, parent, number, leaveUnchanged);
 }

@@ -52,13 +52,7 @@ void hostInsertExternalReferenceDialog::loadAttachSettings() {
 
 void hostInsertExternalReferenceDialog::saveAttachSettings() const {
     const Ref<IParam> store = settingsStore();
-    const auto save = [&store](const char* key, int number) {
-        CKWVariant value;
-        value = number;
-        if (store)
-            store->setValue(key, &value);
-    };
     for (const auto& [key, button] : settingButtons(*this))
-        save(key, button->isChecked());
-    save(kPathTypeKey, pathTypeCombo->currentIndex());
+        writeValue(store.get(), key, int(button->isChecked()));
+    writeValue(store.get(), kPathTypeKey, pathTypeCombo->currentIndex());
 }

@@ -61,19 +61,14 @@ void PaperFormat::writeTo(IParam* section) {
 }
 
 void PaperFormat::writeValues(IParam* section) const {
-    const auto write = [section](const char* valueName, const auto& field) {
-        CKWVariant value;
-        value = field;
-        section->setValue(valueName, &value);
-    };
-    write("Used", int(used != 0));
-    write("Name", name);
-    write("Size", size);
-    write("Units", units);
-    write("InternalFrame", internalFrame);
-    write("PortraitSize", portraitSize);
-    write("LandscapeSize", landscapeSize);
-    write("PaperOriginPoint", paperOriginPoint);
+    writeValue(section, "Used", int(used != 0));
+    writeValue(section, "Name", name);
+    writeValue(section, "Size", size);
+    writeValue(section, "Units", units);
+    writeValue(section, "InternalFrame", internalFrame);
+    writeValue(section, "PortraitSize", portraitSize);
+    writeValue(section, "LandscapeSize", landscapeSize);
+    writeValue(section, "PaperOriginPoint", paperOriginPoint);
 }
 
 QString PaperFormat::rowText() const {

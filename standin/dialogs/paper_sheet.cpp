@@ -9,12 +9,6 @@ namespace standin {
 
 namespace {
 
-template <class T> void set(IParam* section, const char* name, const T& value) {
-    CKWVariant variant;
-    variant = value;
-    section->setValue(name, &variant);
-}
-
 CXStringW nameOf(IParam* section) {
     CXStringW name;
     if (!readValue(section, "Name", &name))
@@ -60,16 +54,16 @@ PaperSheet readPaper(IParam* section) {
 
 void writePaper(IParam* section, const PaperSheet& sheet) {
     const bool reshaped = !sheet.sameShape(readPaper(section));
-    set(section, "Used", sheet.used ? 1 : 0);
-    set(section, "Name", hostqt::cxStringW(sheet.name));
+    writeValue(section, "Used", sheet.used ? 1 : 0);
+    writeValue(section, "Name", hostqt::cxStringW(sheet.name));
     if (!reshaped)
         return;
     const tagRSIZE printable{sheet.width - sheet.left - sheet.right, sheet.height - sheet.top - sheet.bottom};
-    set(section, "Size", tagRSIZE{sheet.width, sheet.height});
-    set(section, "Units", sheet.units.toLocal8Bit().constData());
-    set(section, "PortraitSize", printable);
-    set(section, "LandscapeSize", tagRSIZE{printable.cy, printable.cx});
-    set(section, "PaperOriginPoint", tagRPOINT{sheet.left, sheet.bottom});
+    writeValue(section, "Size", tagRSIZE{sheet.width, sheet.height});
+    writeValue(section, "Units", sheet.units.toLocal8Bit().constData());
+    writeValue(section, "PortraitSize", printable);
+    writeValue(section, "LandscapeSize", tagRSIZE{printable.cy, printable.cx});
+    writeValue(section, "PaperOriginPoint", tagRPOINT{sheet.left, sheet.bottom});
 }
 
 QString paperRowText(IParam* section) {

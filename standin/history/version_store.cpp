@@ -108,10 +108,9 @@ void VersionStore::tellIfVanished(const QString& drawing) const {
 
 void VersionStore::note(const QString& drawing, const QString& name, const QString& reason) {
     const Ref<IParam> entry = openChild(index.get(), folderName(drawing).toUtf8().constData(), 1);
-    CKWVariant value;
-    entry->setValue("Drawing", &(value = hostqt::cxStringW(realPath(drawing))));
+    writeValue(entry.get(), "Drawing", hostqt::cxStringW(realPath(drawing)));
     const Ref<IParam> version = openChild(entry.get(), name.toUtf8().constData(), 1);
-    version->setValue("Reason", &(value = hostqt::cxStringW(reason)));
+    writeValue(version.get(), "Reason", hostqt::cxStringW(reason));
 }
 
 QStringList VersionStore::forgetOldest(const QString& drawing, int maximum) {

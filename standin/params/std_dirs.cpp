@@ -16,12 +16,6 @@ namespace {
 const QLatin1String escape("$"), escaped("$$");
 const char pathValue[] = "path", keyValue[] = "key", editableValue[] = "editable";
 
-template <class T> void setValue(IParam* node, const char* name, const T& value) {
-    CKWVariant variant;
-    variant = value;
-    node->setValue(name, &variant);
-}
-
 Ref<IParam> copyOf(IParam* node) {
     auto copy = Ref<IParam>::take(new_MemParam());
     Param_CopyTo(node, copy.get());
@@ -78,9 +72,9 @@ Origin takeOrigin(std::vector<Origin>& left, IStdDirInfo& element) {
 Ref<IParam> newEntry(IStdDirInfo& element, const Origin& origin, const PathWords& words) {
     auto entry = Ref<IParam>::take(new_MemParam());
     const QString path = words.contracted(QString::fromWCharArray(element.GetPath()));
-    setValue(entry.get(), pathValue, hostqt::cxStringW(path));
-    setValue(entry.get(), keyValue, origin.key.c_str());
-    setValue(entry.get(), editableValue, origin.editable);
+    writeValue(entry.get(), pathValue, hostqt::cxStringW(path));
+    writeValue(entry.get(), keyValue, origin.key.c_str());
+    writeValue(entry.get(), editableValue, origin.editable);
     return entry;
 }
 

@@ -8,11 +8,7 @@ namespace {
 class TypedReadsTest : public testing::Test {
 protected:
     Ref<IParam> node = Ref<IParam>::take(new_MemParam());
-    template <class T> void set(const T& value) {
-        CKWVariant variant;
-        variant = value;
-        node->setValue("V", &variant);
-    }
+    template <class T> void set(const T& value) { EXPECT_EQ(writeValue(node.get(), "V", value), 1); }
     void setCode(unsigned short code) {
         const CKWVariant variant(7, code);
         node->setValue("V", &variant);
@@ -135,6 +131,24 @@ TEST_F(TypedReadsTest, ANullNodeReadsAsNothing) {
     EXPECT_STREQ(text, L"before");
     EXPECT_TRUE(childNames(nullptr).empty());
     EXPECT_FALSE(openChild(nullptr, "Child"));
+    EXPECT_EQ(writeValue(nullptr, "V", 1), 0);
+}
+
+TEST_F(TypedReadsTest, AWriteSetsTheTypeCodeOfItsValue) {
+    const auto codeOf = [this](const auto& value) {
+        set(value);
+        CKWVariant stored;
+        node->getValue("V", &stored);
+        return int(stored.vt);
+    };
+    EXPECT_EQ(codeOf(7), kVtInt);
+    EXPECT_EQ(codeOf(7u), kVtUInt);
+    EXPECT_EQ(codeOf(static_cast<unsigned short>(7)), kVtUInt16);
+    EXPECT_EQ(codeOf(7.0), kVtDouble);
+    EXPECT_EQ(codeOf(CXString("seven")), kVtString);
+    EXPECT_EQ(codeOf(CXStringW(L"seven")), kVtWideString);
+    EXPECT_EQ(codeOf(tagSIZE{7, 7}), kVtSize);
+    EXPECT_EQ(codeOf(CKWVariant(7, kVtInt8)), kVtInt8);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // Writes an option tree into the host's configuration, node by node.
 #pragma once
 
-#include "host/param.h"
+#include "host/typed_reads.h"
 
 class OptionTreeWriter {
 public:
@@ -12,9 +12,7 @@ public:
         return OptionTreeWriter(Ref<IParam>::take(section->openSection(name, 1)));
     }
     template <class Value> const OptionTreeWriter& set(const char* name, const Value& value) const {
-        CKWVariant variant;
-        variant = value;
-        section->setValue(name, &variant);
+        writeValue(section.get(), name, value);
         return *this;
     }
     const OptionTreeWriter& type(const wchar_t* name) const { return set("Type", name); }

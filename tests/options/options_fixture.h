@@ -63,9 +63,7 @@ protected:
 
     // The profile.
     template <class Value> void store(const char* section, const char* key, const Value& value) {
-        CKWVariant variant;
-        variant = value;
-        sectionOf(host.profile(), section)->setValue(key, &variant);
+        writeValue(sectionOf(host.profile(), section).get(), key, value);
     }
     CKWVariant stored(const char* section, const char* key) {
         CKWVariant value;
