@@ -81,11 +81,9 @@ double timeFill(Preferences& preferences, const std::function<void(TreeItem*)>& 
     auto* parent = new TreeItem(preferences.tree->topLevelItem(0));
     parent->setIcon(0, preferences.tree->topLevelItem(0)->icon(0));
     const double seconds = timing::secondsOf([&] { fill(parent); });
-    releaseStdDirs(preferences);
     preferences.forgetItem(parent);
     delete parent;
-    releaseRasterFormats(preferences);
-    releasePaperFormats(preferences);
+    preferences.releasePages();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return seconds;
 }

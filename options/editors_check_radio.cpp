@@ -49,9 +49,10 @@ void radioClicked(Preferences& preferences, TreeItem* item) {
 } // namespace
 
 void Preferences::buildCheck(TreeItem* item, IParam* node) {
+    const bool checked = isChecked(node, intOrDefault(node, parentNode(item)));
     auto* checkBox = new QCheckBox;
     nameEditor(checkBox, item);
-    checkBox->setChecked(isChecked(node, intOrDefault(node, parentNode(item))));
+    checkBox->setChecked(checked);
     item->state = checkBox->isChecked();
     connect(
         checkBox, &QCheckBox::stateChanged, checkBox,
@@ -79,14 +80,14 @@ void Preferences::buildRadio(TreeItem* item, IParam* node) {
         current &= mask;
     auto* button = new QRadioButton;
     nameEditor(button, item);
-    radioButtons[item] = button;
     item->state = 0;
     item->numberValue = value;
-    radioLists[item->parentItem()] += button;
     connect(
         button, &QRadioButton::clicked, button, [this, item] { radioClicked(*this, item); },
         Qt::DirectConnection);
     makeRow(0, item, button, false, 1);
+    radioButtons[item] = button;
+    radioLists[item->parentItem()] += button;
     if (value != current)
         return;
     button->setChecked(true);

@@ -6,16 +6,29 @@
 #include "options/option_values.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
+#include <QTime>
 #include <QToolButton>
 
 namespace {
 
 constexpr auto kAllTabs = static_cast<OdCm::DialogTabs>(3);
 
-// The swatch of the last single click, of any dialog; it is only ever compared.
-QElapsedTimer sinceClick;
+// The swatch of the last single click, of any dialog, and its time of day; the pointer is only ever compared.
+QTime lastClick;
 QToolButton* armedSwatch = nullptr;
+
+// Qt advises against a clock that can be set, but a time of day is what all swatches share: meant.
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+void arm(QToolButton* button) {
+    lastClick.start();
+    armedSwatch = button;
+}
+
+bool isDoubleClick(const QToolButton* button) {
+    return armedSwatch == button && lastClick.elapsed() < QApplication::doubleClickInterval();
+}
+QT_WARNING_POP
 
 std::uint8_t redOf(std::uint32_t color) { return static_cast<std::uint8_t>(color); }
 std::uint8_t greenOf(std::uint32_t color) { return static_cast<std::uint8_t>(color >> 8); }
@@ -54,11 +67,11 @@ void runColorDialog(Preferences& preferences, QToolButton* button, TreeItem* ite
 } // namespace
 
 void Preferences::buildColor(TreeItem* item, IParam* node, int nodeType) {
-    auto* button = new QToolButton;
-    nameEditor(button, item);
     item->colorValue = nodeType == kNodeAcColor ? storedPaletteColor(node, parentNode(item))
                                                 : colorOrDefault(node, parentNode(item));
     item->buttonMask = kMaskModify;
+    auto* button = new QToolButton;
+    nameEditor(button, item);
     showColor(button, item->colorValue);
     connect(
         button, &QToolButton::clicked, this, [this, button, item] { pickColor(button, item); },
@@ -67,12 +80,11 @@ void Preferences::buildColor(TreeItem* item, IParam* node, int nodeType) {
 }
 
 void Preferences::pickColor(QToolButton* button, TreeItem* item) {
-    if (armedSwatch == button && sinceClick.elapsed() < QApplication::doubleClickInterval()) {
+    if (isDoubleClick(button)) {
         tree->setCurrentItem(item);
         runColorDialog(*this, button, item);
         armedSwatch = nullptr;
         return;
     }
-    sinceClick.start();
-    armedSwatch = button;
+    arm(button);
 }

@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <memory>
 
 namespace {
 
@@ -65,7 +66,8 @@ void acceptFiles(const FileRow& row) {
 
 void Preferences::buildFileEdit(TreeItem* item, IParam* node, int id) {
     const QString value = hostqt::qString(textOrDefault(node, parentNode(item)));
-    auto* edit = new LineEdit(item, tree, value, nullptr);
+    auto owned = std::make_unique<LineEdit>(item, tree, value, nullptr);
+    LineEdit* const edit = owned.get();
     nameEditor(edit, item);
     edit->setToolTip(hostqt::plainToolTip(value));
     item->textValue = value;
@@ -78,5 +80,5 @@ void Preferences::buildFileEdit(TreeItem* item, IParam* node, int id) {
     connect(browse, &QAction::triggered, edit, [row] { pickFiles(row); });
     connect(
         edit, &QLineEdit::editingFinished, edit, [row] { acceptFiles(row); }, Qt::DirectConnection);
-    makeRow(1, item, edit, false, 1);
+    makeRow(1, item, owned.release(), false, 1);
 }

@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QStandardPaths>
+#include <memory>
 
 using host_qt_ui_core::QHostMessageBox;
 
@@ -121,7 +122,8 @@ void Preferences::buildEdit(TreeItem* item, IParam* node) {
 // What the value stands for is what Apply writes: the store loses the percent signs. That is meant.
 void Preferences::buildDirEdit(TreeItem* item, IParam* node) {
     const QString text = expandEnvironment(hostqt::qString(textOrDefault(node, parentNode(item))));
-    auto* edit = new LineEdit(item, tree, text, nullptr);
+    auto owned = std::make_unique<LineEdit>(item, tree, text, nullptr);
+    LineEdit* const edit = owned.get();
     nameEditor(edit, item);
     edit->setCursorPosition(0);
     edit->setToolTip(hostqt::plainToolTip(text));
@@ -131,5 +133,5 @@ void Preferences::buildDirEdit(TreeItem* item, IParam* node) {
     auto* browse = new QAction(this);
     addBrowseAction(*this, edit, browse);
     connectDirectory(*this, edit, browse, item);
-    makeRow(1, item, edit, false, 1);
+    makeRow(1, item, owned.release(), false, 1);
 }

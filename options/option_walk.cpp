@@ -17,6 +17,7 @@
 #include <QButtonGroup>
 #include <QRadioButton>
 #include <QTreeWidget>
+#include <utility>
 
 namespace {
 
@@ -55,6 +56,31 @@ NodeFacts readFacts(IParam* node, const char* nodeName, const TreeItem* parentIt
     return facts;
 }
 
+// Tells the host of the walk, and of its end on every path.
+class OpenOptionTree {
+public:
+    OpenOptionTree(HostVarService* told, IParam* walked) : variables(told), tree(walked) {
+        variables->openOptionTree(tree);
+    }
+    ~OpenOptionTree() {
+        try {
+            close();
+        } catch (...) { // an exception is on its way already
+        }
+    }
+    OpenOptionTree(const OpenOptionTree&) = delete;
+    OpenOptionTree& operator=(const OpenOptionTree&) = delete;
+
+    void close() {
+        if (HostVarService* const open = std::exchange(variables, nullptr))
+            open->closeOptionTree(tree);
+    }
+
+private:
+    HostVarService* variables; // null once the tree is closed
+    IParam* tree;
+};
+
 } // namespace
 
 void Preferences::rebuildTree(bool fromConfiguration) {
@@ -80,10 +106,9 @@ TreeItem* Preferences::makeRoot() {
 void Preferences::walkConfiguration(TreeItem* root) {
     const Ref<IConfigParam> configuration = appService<IConfigParam>();
     const Ref<IParam> prefTree = openChild(configuration.get(), "PrefTree");
-    HostVarService* const variables = HostDocManager()->varService();
-    variables->openOptionTree(prefTree.get());
+    OpenOptionTree walk(HostDocManager()->varService(), prefTree.get());
     buildNode(prefTree.get(), "", root);
-    variables->closeOptionTree(prefTree.get());
+    walk.close();
 }
 
 void Preferences::groupRadioButtons() {

@@ -6,10 +6,7 @@
 #include "options/configuration_name.h"
 #include "options/icon_numbers.h"
 #include "options/pages/collapse_widget.h"
-#include "options/pages/paper_page.h"
-#include "options/pages/raster_page.h"
 #include "options/pages/searching_line_edit.h"
-#include "options/pages/std_dirs_page.h"
 
 #include <QComboBox>
 #include <QHeaderView>
@@ -29,7 +26,10 @@ template <class Control> Control* named(Control* control, const char* name) {
 
 } // namespace
 
-Preferences::Preferences(QWidget* parent, Qt::WindowFlags flags) : QDialog(parent, flags) {
+Preferences::Preferences(Unbuilt, QWidget* parent, Qt::WindowFlags flags) : QDialog(parent, flags) {}
+
+// The dialog is built in a second step, which the destructor follows also when the host throws on the way.
+Preferences::Preferences(QWidget* parent, Qt::WindowFlags flags) : Preferences(Unbuilt(), parent, flags) {
     build();
     layOut();
     okButton->setDefault(true);
@@ -37,14 +37,15 @@ Preferences::Preferences(QWidget* parent, Qt::WindowFlags flags) : QDialog(paren
     connectAll();
 }
 
-// The tree goes while the rest of the dialog still stands: an editor that loses the focus by being destroyed
-// still reports to it.
+// What acts on the tree goes before it, or the search box would reset a tree that is gone when the dialog,
+// hidden last, takes the focus from it. The tree goes while the rest of the dialog still stands: an editor
+// that loses the focus by being destroyed still reports to it.
 Preferences::~Preferences() {
-    disconnect(tree, nullptr, this, nullptr);
-    releaseStdDirs(*this);
+    delete collapseWidget;
+    delete searchEdit;
+    if (tree)
+        tree->disconnect(this);
     delete tree;
-    releaseRasterFormats(*this);
-    releasePaperFormats(*this);
 }
 
 void Preferences::build() {
@@ -113,6 +114,7 @@ void Preferences::buildSearch() {
     searchEdit = named(
         new SearchingLineEdit(tree, description, this, QStringLiteral("green"), QStringLiteral("white")),
         "searchEdit");
+    searchEdit->statusLabel->setParent(this); // until the layout takes it
     searchEdit->setClearIcon(treeIcon(kIconClear));
     collapseWidget = named(new CollapseWidget(tree, searchEdit, this), "collapseWidget");
 }

@@ -3,6 +3,7 @@
 
 #include "host/ref.h"
 #include "host/xstring.h"
+#include "options/pages/page_records.h"
 #include "options/pages/std_dir_item.h"
 #include "options/tree_item.h"
 
@@ -37,9 +38,11 @@ public:
     // The walk (option_walk.cpp), and what stands on which item (tree_rows.cpp).
     void rebuildTree(bool fromConfiguration);
     void buildNode(IParam* node, const char* nodeName, TreeItem* parentItem);
+    // Takes the editor over, also when it throws.
     QPrefWidget* makeRow(int position, TreeItem* item, QWidget* editor, bool cutAtAngleBracket,
                          int doubleClickEnabled);
     void forgetItem(TreeItem* item); // takes a row that goes away, and all below it, out of every map
+    void releasePages();             // the data of the pages, whose rows have gone
     IParam* parentNode(TreeItem* item) const; // node of the parent item, null if the map has none
 
     // The rules (preferences_rules.cpp, row_operations.cpp, row_moves.cpp).
@@ -95,10 +98,11 @@ public:
     CXString cursorSection;
     TreeItem* cursorColorItem = nullptr;
     TreeItem* paperRootItem = nullptr;
-    QList<RasterFormat*> rasterFormats; // owned
+    QList<RasterFormat*> rasterFormats; // of pageRecords, as the payloads of the rows are
     std::vector<CStdDirItem> stdDirs;
-    std::vector<PaperFormat*> paperFormats; // owned
+    std::vector<PaperFormat*> paperFormats; // of pageRecords
     QMap<TreeItem*, IParam*> optionItems;   // borrowed: the configuration tree owns the nodes
+    PageRecords pageRecords;
 
 signals:
     void themeChanged();
@@ -107,6 +111,8 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    struct Unbuilt {};
+    Preferences(Unbuilt, QWidget* parent, Qt::WindowFlags flags);
     // Construction (preferences.cpp, preferences_layout.cpp, preferences_connections.cpp).
     void build();
     void buildTree();

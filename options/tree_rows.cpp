@@ -3,14 +3,12 @@
 
 #include "host/typed_reads.h"
 #include "options/pages/clickable_label.h"
-#include "options/pages/paper_page.h"
 #include "options/pages/pref_widget.h"
-#include "options/pages/raster_page.h"
-#include "options/pages/std_dirs_page.h"
 
 #include <QButtonGroup>
 #include <QRadioButton>
 #include <QTreeWidget>
+#include <memory>
 
 namespace {
 
@@ -22,8 +20,10 @@ const int kStateDisabled = 8; // bit of a node's `State`
 // polished a second time with its own style sheets, which takes longer than all the rest.
 QPrefWidget* Preferences::makeRow(int position, TreeItem* item, QWidget* editor, bool cutAtAngleBracket,
                                   int doubleClickEnabled) {
+    std::unique_ptr<QWidget> owned(editor);
     auto* const row =
         new QPrefWidget(item, position, editor, cutAtAngleBracket, doubleClickEnabled, tree->viewport());
+    owned.release(); // the row has it
     ClickableLabel* const label = row->label();
     connect(label, &QWidget::customContextMenuRequested, this,
             [this, label](const QPoint& clicked) { showContextMenu(label, clicked); });
@@ -47,13 +47,11 @@ void Preferences::startDisabledWhereTold(TreeItem* item, QPrefWidget* row) {
 }
 
 void Preferences::clearTree() {
-    releaseStdDirs(*this); // while the path items, which hold references, are there
     tree->clear();
     qDeleteAll(buttonGroups);
     qDeleteAll(radioButtons);
     qDeleteAll(rowWidgets);
-    releasePaperFormats(*this);
-    releaseRasterFormats(*this);
+    releasePages();
     expandedItems.clear();
     buttonGroups.clear();
     rowWidgets.clear();
@@ -65,6 +63,13 @@ void Preferences::clearTree() {
 }
 
 IParam* Preferences::parentNode(TreeItem* item) const { return optionItems.value(item->parentItem()); }
+
+void Preferences::releasePages() {
+    rasterFormats.clear();
+    stdDirs.clear();
+    paperFormats.clear();
+    pageRecords.clear();
+}
 
 // A new item may come to lie at the address of one that is gone, so nothing may remember that.
 void Preferences::forgetItem(TreeItem* item) {

@@ -22,20 +22,19 @@ namespace {
 PaperFormat* paperOf(const TreeItem* item) { return static_cast<PaperFormat*>(item->payload); }
 
 void readPapers(Preferences& preferences, IStdPapersParam& store) {
-    releasePaperFormats(preferences);
     for (const std::string& name : childNames(&store)) {
         const Ref<IParam> section = openChild(&store, name.c_str());
         if (!section)
             continue;
         const auto copy = Ref<IParam>::take(new_MemParam());
         Param_CopyTo(section.get(), copy.get());
-        preferences.paperFormats.push_back(new PaperFormat);
+        preferences.paperFormats.push_back(preferences.pageRecords.keep(std::make_unique<PaperFormat>()));
         preferences.paperFormats.back()->readFrom(copy);
     }
 }
 
-QTreeWidgetItem* newPaperItem(const TreeItem& root, const QIcon& icon, PaperFormat* paper) {
-    auto* item = new TreeItem;
+std::unique_ptr<TreeItem> newPaperItem(const TreeItem& root, const QIcon& icon, PaperFormat* paper) {
+    auto item = std::make_unique<TreeItem>();
     item->setText(0, paper->rowText());
     item->setIcon(0, icon);
     item->description = root.description;
@@ -55,13 +54,20 @@ void makePaperRow(Preferences& preferences, TreeItem* item) {
     QObject::connect(check, &QCheckBox::stateChanged, check, setUsed, Qt::DirectConnection);
 }
 
+std::vector<std::unique_ptr<TreeItem>> newPaperItems(const Preferences& preferences, const TreeItem& root) {
+    const QIcon icon = iconOf(&root);
+    std::vector<std::unique_ptr<TreeItem>> items;
+    for (PaperFormat* paper : preferences.paperFormats)
+        items.push_back(newPaperItem(root, icon, paper));
+    return items;
+}
+
 // All items go in at once: with the page open on the screen the tree lays itself out, and every row widget in
 // it, after each insertion.
 void makePaperRows(Preferences& preferences, TreeItem* root) {
-    const QIcon icon = iconOf(root);
     QList<QTreeWidgetItem*> items;
-    for (PaperFormat* paper : preferences.paperFormats)
-        items.append(newPaperItem(*root, icon, paper));
+    for (std::unique_ptr<TreeItem>& item : newPaperItems(preferences, *root))
+        items.append(item.release());
     root->addChildren(items);
     for (QTreeWidgetItem* item : qAsConst(items))
         makePaperRow(preferences, static_cast<TreeItem*>(item));
@@ -71,6 +77,7 @@ void makePaperRows(Preferences& preferences, TreeItem* root) {
 
 void loadPaperFormats(Preferences& preferences, TreeItem* paperRootItem) {
     paperRootItem->buttonMask = kMaskAdd;
+    preferences.paperFormats.clear();
     const Ref<IStdPapersParam> store = appService<IStdPapersParam>();
     if (!store)
         return;
@@ -84,14 +91,9 @@ void reloadPaperRows(Preferences& preferences) {
         preferences.forgetItem(static_cast<TreeItem*>(row));
         delete row;
     }
-    releasePaperFormats(preferences);
+    for (const PaperFormat* paper : preferences.paperFormats)
+        preferences.pageRecords.drop(paper);
     loadPaperFormats(preferences, preferences.paperRootItem);
-}
-
-void releasePaperFormats(Preferences& preferences) {
-    for (PaperFormat* paper : preferences.paperFormats)
-        delete paper;
-    preferences.paperFormats.clear();
 }
 
 void storePaperFormats(IKWUnknown* app, std::vector<PaperFormat*>& paperFormats) {
@@ -148,7 +150,7 @@ void deletePaperFormat(Preferences& preferences, TreeItem* item) {
         return;
     papers.erase(place);
     takeOffRow(preferences, item);
-    delete paper;
+    preferences.pageRecords.drop(paper);
     delete item;
     // Meant: a deleted paper is gone from the store at once, and with it goes all that stands in the rows.
     if (theOnlyIApp)

@@ -12,7 +12,6 @@ struct PaperFormat;
 void loadPaperFormats(Preferences& preferences, TreeItem* paperRootItem);
 void reloadPaperRows(Preferences& preferences); // in-memory changes not yet in the store are lost
 void storePaperFormats(IKWUnknown* app, std::vector<PaperFormat*>& paperFormats); // `app` may be null
-void releasePaperFormats(Preferences& preferences); // deletes the records; for use without rows
 
 // The operations on a paper row (node type 3); add takes `paperRootItem` too.
 void addPaperFormat(Preferences& preferences, TreeItem* item);

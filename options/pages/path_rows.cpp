@@ -1,4 +1,4 @@
-// Makes the rows of paths and keeps count of the references in their payloads.
+// Makes the rows of paths.
 #include "options/pages/path_rows.h"
 
 #include "host/std_dirs.h"
@@ -9,7 +9,6 @@
 #include "options/preferences.h"
 
 #include <QIcon>
-#include <utility>
 
 TreeItem* makePathItem(Preferences& preferences, TreeItem* section, const QIcon& icon,
                        const Ref<IStdDirInfo>& info, int doubleClickEnabled) {
@@ -20,7 +19,7 @@ TreeItem* makePathItem(Preferences& preferences, TreeItem* section, const QIcon&
     item->buttonMask = kMaskDelete | kMaskModify | kMaskAdd | kMaskUp | kMaskDown;
     item->numberValue = section->numberValue;
     item->description = section->description;
-    item->payload = Ref<IStdDirInfo>(info).detach();
+    item->payload = preferences.pageRecords.keep(info);
     makePathRow(preferences, item, doubleClickEnabled);
     return item;
 }
@@ -36,7 +35,3 @@ void showPath(QPrefWidget& row, const QString& path) {
 }
 
 IStdDirInfo* payloadOf(const TreeItem* item) { return static_cast<IStdDirInfo*>(item->payload); }
-
-void releasePayload(TreeItem* item) {
-    Ref<IStdDirInfo>::take(static_cast<IStdDirInfo*>(std::exchange(item->payload, nullptr)));
-}

@@ -1,5 +1,5 @@
-// The rows of the page of standard directories: an item for each path, with a counted reference in its
-// payload.
+// The rows of the page of standard directories: an item for each path, whose payload is the element of the
+// list.
 #pragma once
 
 #include "host/ref.h"
@@ -16,5 +16,4 @@ TreeItem* makePathItem(Preferences& preferences, TreeItem* section, const QIcon&
                        const Ref<IStdDirInfo>& info, int doubleClickEnabled);
 void makePathRow(Preferences& preferences, TreeItem* item, int doubleClickEnabled); // over the item's text
 void showPath(QPrefWidget& row, const QString& path); // in a row that is there; the tool tip is never markup
-IStdDirInfo* payloadOf(const TreeItem* item);         // not counted
-void releasePayload(TreeItem* item);
+IStdDirInfo* payloadOf(const TreeItem* item);         // the dialog's records hold a reference for each row

@@ -42,7 +42,8 @@ void readFormats(Preferences& preferences, IParam* store, IParam* raster) {
             continue; // meant: such a name is dropped, from the numbering too on the next Apply
         const auto copy = Ref<IParam>::take(new_MemParam());
         Param_CopyTo(section.get(), copy.get());
-        preferences.rasterFormats.append(new RasterFormat(name, copy));
+        preferences.rasterFormats.append(
+            preferences.pageRecords.keep(std::make_unique<RasterFormat>(name, copy)));
     }
 }
 
@@ -60,22 +61,14 @@ void makeFormatRow(Preferences& preferences, TreeItem* parent, const QIcon& icon
         [format](int state) { format->enabled = state == Qt::Checked ? 1 : 0; }, Qt::DirectConnection);
 }
 
-void setValue(IParam* node, const char* name, const CKWVariant& value) { node->setValue(name, &value); }
-
-CKWVariant variantOf(const CXString& text) {
-    CKWVariant value;
-    value = text;
-    return value;
-}
-
 // A format that begins as a copy of `model`.
 std::unique_ptr<RasterFormat> newFormatFrom(const RasterFormat& model) {
     const auto params = Ref<IParam>::take(new_MemParam());
     Param_CopyTo(model.params.get(), params.get());
     const CXString name(Supp_Translate("<< Put new format name here >>"));
     const CXStringW description(Supp_Translate("<< Put new format description here >>"));
-    setValue(params.get(), "Description", description);
-    setValue(params.get(), "Generic", CKWVariant(0, kVtInt));
+    writeValue(params.get(), "Description", description);
+    writeValue(params.get(), "Generic", 0);
     return std::make_unique<RasterFormat>(name, params);
 }
 
@@ -96,10 +89,10 @@ void storeFormat(IParam* store, const RasterFormat& format) {
     if (!section)
         return;
     Param_CopyTo(format.params.get(), section.get());
-    setValue(section.get(), "Description", format.description);
-    setValue(section.get(), "DefExt", variantOf(format.defExt));
-    setValue(section.get(), "Enabled", CKWVariant(format.enabled != 0, kVtInt));
-    setValue(section.get(), "CanDelete", CKWVariant(format.canDelete != 0, kVtInt));
+    writeValue(section.get(), "Description", format.description);
+    writeValue(section.get(), "DefExt", format.defExt);
+    writeValue(section.get(), "Enabled", int(format.enabled != 0));
+    writeValue(section.get(), "CanDelete", int(format.canDelete != 0));
 }
 
 } // namespace
@@ -127,15 +120,10 @@ void storeRasterFormats(Preferences& preferences, IKWUnknown* app) {
         if (format->deleted) {
             store->removeEntry(format->sectionPath());
         } else {
-            setValue(raster.get(), numberKey(number++), variantOf(format->name));
+            writeValue(raster.get(), numberKey(number++), format->name);
             storeFormat(store.get(), *format);
         }
     }
-}
-
-void releaseRasterFormats(Preferences& preferences) {
-    qDeleteAll(preferences.rasterFormats);
-    preferences.rasterFormats.clear();
 }
 
 void addRasterFormat(Preferences& preferences, TreeItem* item) {
@@ -146,7 +134,7 @@ void addRasterFormat(Preferences& preferences, TreeItem* item) {
         return;
     format->enabled = 1;
     format->canDelete = 1;
-    preferences.rasterFormats.append(format.release());
+    preferences.rasterFormats.append(preferences.pageRecords.keep(std::move(format)));
     makeFormatRow(preferences, item->parentItem(), iconOf(item), preferences.rasterFormats.last());
 }
 

@@ -7,7 +7,6 @@ class TreeItem;
 
 void loadRasterFormats(Preferences& preferences, TreeItem* rasterRootItem);
 void storeRasterFormats(Preferences& preferences, IKWUnknown* app); // `app` may be null
-void releaseRasterFormats(Preferences& preferences); // deletes the records; for use without rows
 
 // The operations on a format row (node type 6).
 void addRasterFormat(Preferences& preferences, TreeItem* item); // copies the format of the row

@@ -1,4 +1,4 @@
-// Reading the standard directories into the option tree, and giving them back.
+// Reading the standard directories into the option tree.
 #include "host/app.h"
 #include "host/text.h"
 #include "host/typed_reads.h"
@@ -82,13 +82,4 @@ void loadStdDirs(Preferences& preferences, QTreeWidgetItem* parent) {
         section->description = descriptionOf(host.get(), item.key);
         makePathItems(preferences, section, icon, item.list);
     }
-}
-
-void releaseStdDirs(Preferences& preferences) {
-    for (QTreeWidgetItemIterator it(preferences.tree); *it; ++it) {
-        auto* item = static_cast<TreeItem*>(*it);
-        if (item->nodeType == kNodePath)
-            releasePayload(item);
-    }
-    preferences.stdDirs.clear();
 }

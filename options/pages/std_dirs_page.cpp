@@ -106,7 +106,7 @@ void deletePath(Preferences& preferences, TreeItem* item) {
     removeFrom(listOf(preferences, sectionIndexOf(item)), payloadOf(item));
     takeOffRow(preferences, item);
     makeCurrent(preferences, section);
-    releasePayload(item);
+    preferences.pageRecords.drop(item->payload);
     delete item;
 }
 

@@ -10,8 +10,6 @@ class TreeItem;
 // Builds the sections and paths under `parent`; leaves the page out when the host doesn't offer the lists.
 void loadStdDirs(Preferences& preferences, QTreeWidgetItem* parent);
 void storeStdDirs(Preferences& preferences);
-// Gives back the lists, and the references that the path items hold; call it before the tree is cleared.
-void releaseStdDirs(Preferences& preferences);
 
 // The operations on a row. `path` has node type 14; `item` of addPath may be a path or a section (15). A move
 // does the whole of it: texts, rows, current item and focus.

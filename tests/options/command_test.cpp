@@ -1,6 +1,9 @@
 // The command that opens the Options dialog, run as the host runs it.
 #include "options/qpref_command.h"
+
+#include "options/pages/searching_line_edit.h"
 #include "tests/options/option_data.h"
+#include "tests/support/poll.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -101,6 +104,34 @@ TEST_F(QprefCommand, TakesTheFirstTopLevelWidgetAsParent) {
     EXPECT_TRUE(opened);
 }
 
+TEST_F(QprefCommand, TakesTheFirstOfSeveralTopLevelWidgetsAsParent) {
+    host.openDocument();
+    std::vector<std::unique_ptr<QWidget>> windows;
+    for (int i = 0; i < 4; ++i)
+        windows.push_back(std::make_unique<QWidget>());
+    const QWidgetList before = QApplication::topLevelWidgets();
+    ASSERT_NE(before.first(), before.last());
+    run([&before](Preferences& dialog) {
+        EXPECT_EQ(dialog.parentWidget(), before.first());
+        click(dialog, "cancelButton");
+    });
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(QprefCommand, GoesQuietlyWhenTheProgramEndsWithTheSearchBoxInFocus) {
+    host.openDocument();
+    QTimer::singleShot(0, qApp, [this] {
+        run([](Preferences& dialog) {
+            dialog.searchEdit->setFocus();
+            EXPECT_TRUE(waitUntil([&dialog] { return dialog.searchEdit->hasFocus(); }));
+            QCoreApplication::quit();
+        });
+    });
+    QCoreApplication::exec();
+    EXPECT_TRUE(opened);
+    EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
+}
+
 TEST_F(QprefCommand, HasNoParentWhenThereIsNoTopLevelWidget) {
     host.openDocument();
     ASSERT_TRUE(QApplication::topLevelWidgets().isEmpty());
@@ -112,8 +143,16 @@ TEST_F(QprefCommand, HasNoParentWhenThereIsNoTopLevelWidget) {
 }
 
 TEST_F(QprefCommand, NeverSetsItsStatus) {
+    host.openDocument();
     const auto command = Ref<ICmdProcess>::share(new QPREF);
+    QTimer::singleShot(0, qApp, [this] {
+        auto* const dialog = qobject_cast<Preferences*>(QApplication::activeModalWidget());
+        opened = dialog != nullptr;
+        if (dialog)
+            click(*dialog, "okButton");
+    });
     EXPECT_EQ(command->Run(nullptr), 0);
+    EXPECT_TRUE(opened);
     EXPECT_EQ(command->getStatus(), 0);
 }
 

@@ -120,7 +120,6 @@ TEST_F(StdDirs, AnIconThatIsNoIconGivesAnEmptyOne) {
     page()->setData(0, Qt::DecorationRole, QColor(Qt::red));
     loadStdDirs(*preferences, page());
     EXPECT_TRUE(iconOf(section(1)).isNull());
-    releaseStdDirs(*preferences);
 }
 
 TEST_F(StdDirs, ASectionWithNoListShowsNoPathsAndNoDescription) {
