@@ -12,7 +12,6 @@
 #include "sdk/rx/color.h"
 
 #include <QComboBox>
-#include <QStringList>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
@@ -116,11 +115,11 @@ void writeEnabled(const TreeItem& item, const RowNodes& row) {
     }
 }
 
-QStringList expandedNames(QTreeWidget* tree) {
-    QStringList names;
+QList<QByteArray> expandedNames(QTreeWidget* tree) {
+    QList<QByteArray> names;
     for (QTreeWidgetItemIterator it(tree); *it; ++it)
         if ((*it)->isExpanded())
-            names += QString::fromUtf8(static_cast<TreeItem*>(*it)->nodeName);
+            names += static_cast<TreeItem*>(*it)->nodeName;
     return names;
 }
 
@@ -174,24 +173,16 @@ void Preferences::applyItem(TreeItem* item) {
 
 void Preferences::writeCursorFlag(bool value) {
     const Ref<IParam> section = openChild(appService<IProfile>().get(), cursorSection, 1);
-    if (!section)
-        return;
-    CKWVariant flag;
-    flag = static_cast<int>(value);
-    section->setValue(cursorColorKey, &flag);
+    writeValue(section.get(), cursorColorKey, static_cast<int>(value));
 }
 
 void Preferences::saveExpandedSections() {
-    const QStringList names = expandedNames(tree);
+    const QList<QByteArray> names = expandedNames(tree);
     const Ref<IParam> section = dialogSection();
     if (!section)
         return;
     section->removeEntry(kExpandedSections);
     const Ref<IParam> saved = openChild(section.get(), kExpandedSections, 1);
-    if (!saved)
-        return;
-    CKWVariant one;
-    one = 1;
-    for (const QString& name : names)
-        saved->setValue(name.toUtf8().constData(), &one);
+    for (const QByteArray& name : names)
+        writeValue(saved.get(), name, 1);
 }

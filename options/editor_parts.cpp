@@ -11,7 +11,7 @@
 #include <QTreeWidget>
 
 void nameEditor(QWidget* editor, const TreeItem* item) {
-    editor->setObjectName(QString::fromUtf8(item->nodeName));
+    editor->setObjectName(QString::fromLocal8Bit(item->nodeName));
 }
 
 void addBrowseAction(Preferences& preferences, LineEdit* edit, QAction* action) {

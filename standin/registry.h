@@ -28,7 +28,7 @@ struct HostRegistry {
     // Asked before a box or a colour dialog is shown; when set, nothing is shown.
     std::function<EV_MB_RET(MessageKind, const QString& title, const QString& text, EV_MB_RET buttons)>
         messageBox;
-    std::function<int(OdCmColor& color)> colorDialog;
+    std::function<decltype(hostQtSetColorDialogTrueColor)> colorDialog;
     std::function<void()> updateDisplay;
     std::function<void(const OdDbObjectId& id)> zoomObject;
     OdEdCommandContext* commandContext = nullptr; // the one last given to setCtx

@@ -63,10 +63,10 @@ QColor ColorDialog::color() const { return trueColorPage->currentColor(); }
 
 } // namespace standin
 
-int hostQtSetColorDialogTrueColor(OdCmColor& color, bool, const OdCmColor&, OdCm::DialogTabs tabs,
-                                  QWidget* parent) {
+int hostQtSetColorDialogTrueColor(OdCmColor& color, bool flag, const OdCmColor& previous,
+                                  OdCm::DialogTabs tabs, QWidget* parent) {
     if (standin::registry().colorDialog)
-        return standin::registry().colorDialog(color);
+        return standin::registry().colorDialog(color, flag, previous, tabs, parent);
     standin::ColorDialog dialog(host_qt_ui::toQColor(color), tabs, parent);
     if (!runModal(dialog))
         return 0;

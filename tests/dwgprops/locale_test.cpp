@@ -1,25 +1,11 @@
 // Characters that the local 8-bit code page cannot express are lost on the way into the drawing, and only
 // those.
 #include "tests/dwgprops/dialog_driver.h"
+#include "tests/support/local_code_page.h"
 
 #include <QProcess>
-#include <QTextCodec>
 
 namespace {
-
-// Makes another code page the local one for a while.
-class LocalCodePage {
-public:
-    explicit LocalCodePage(const char* name) : former(QTextCodec::codecForLocale()) {
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName(name));
-    }
-    ~LocalCodePage() { QTextCodec::setCodecForLocale(former); }
-    LocalCodePage(const LocalCodePage&) = delete;
-    LocalCodePage& operator=(const LocalCodePage&) = delete;
-
-private:
-    QTextCodec* former;
-};
 
 class TextOnItsWay : public DrawingProperties {
 protected:

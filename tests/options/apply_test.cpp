@@ -78,6 +78,8 @@ TEST_F(Apply, ADisabledValueRowIsNotWritten) {
     open();
     store("S", "Radio", 5); // so that a write would show
     apply();
+    EXPECT_EQ(storedInt("S", "Off"), 0);
+    EXPECT_TRUE(isStored("S", "Off")) << "the row that is on above them is written";
     for (const char* key : {"Check", "Edit", "Int", "Real", "Dir", "File", "Files"})
         EXPECT_FALSE(isStored("S", key)) << key;
     EXPECT_EQ(storedInt("S", "Radio"), 5);
@@ -154,10 +156,12 @@ TEST_F(Apply, AnyOtherCursorChoiceWritesNoFlagAndKeepsTheColor) {
 
 TEST_F(Apply, TheCursorColorRowDoesNotWriteItself) {
     addCursorColor(0x0000FF);
+    node("Other").type(L"Color").profile("Display", "Other").set("Default", 7u);
     open();
     store("Display", "CursorColor", 1u);
     apply();
     EXPECT_EQ(storedColor("Display", "CursorColor"), 1u);
+    EXPECT_EQ(storedColor("Display", "Other"), 7u);
 }
 
 TEST_F(Apply, CursorRadiosWithoutTheColorRowWriteTheirNumberAlone) {
@@ -172,9 +176,11 @@ TEST_F(Apply, CursorRadiosWithoutTheColorRowWriteTheirNumberAlone) {
 TEST_F(Apply, TheCursorFlagNeedsAProfile) {
     addCursorColor(0);
     open();
-    host.withhold(typeid(IProfile));
     dialog->writeCursorFlag(true);
-    EXPECT_FALSE(openChild(&host.profile(), "Cursor"));
+    EXPECT_EQ(storedInt("Cursor", "Color3D"), 1);
+    host.withhold(typeid(IProfile));
+    dialog->writeCursorFlag(false);
+    EXPECT_EQ(storedInt("Cursor", "Color3D"), 1) << "it stays as it was";
 }
 
 TEST_F(Apply, AcColorWritesThePaletteColorNearestToTheOneShown) {
@@ -253,9 +259,12 @@ TEST_F(Apply, AnUnknownStoreShowsTheDefaultAndIsNotWritten) {
     node("Int").type(L"EditInt").profile("S", "Int").set("IFace", "INowhere").set("Default", 9);
     open();
     EXPECT_EQ(editor<QSpinBox>("Int")->value(), 9);
+    node("Known").type(L"EditInt").profile("Elsewhere", "Known");
+    open();
     editor<QSpinBox>("Int")->setValue(10);
     apply();
     EXPECT_FALSE(openChild(&host.profile(), "S"));
+    EXPECT_TRUE(isStored("Elsewhere", "Known"));
 }
 
 TEST_F(Apply, EverythingUnchangedIsStillWritten) {

@@ -293,7 +293,11 @@ TEST_F(OptionsDialog, LeavesOnCancelWhatApplyHasWritten) {
 
 TEST_F(OptionsDialog, WritesNothingWhenItIsDestroyedOpen) {
     addCheck();
-    { OpenDialog dialog; }
+    {
+        OpenDialog dialog;
+        dialog.rowWidgets.value(itemOf(dialog, "grid"))->findChild<QCheckBox*>()->click();
+        ASSERT_EQ(itemOf(dialog, "grid")->state, 1);
+    }
     EXPECT_TRUE(childNames(&host.profile()).empty());
 }
 

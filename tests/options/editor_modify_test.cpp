@@ -20,7 +20,7 @@ protected:
 
 TEST_F(ModifyEditor, ASwatchOpensItsColorDialog) {
     int shown = 0;
-    standin::registry().colorDialog = [&shown](OdCmColor&) { return ++shown, 0; };
+    standin::registry().colorDialog = [&shown](OdCmColor&, auto&&...) { return ++shown, 0; };
     node("Color").type(L"Color");
     node("AcColor").type(L"AcColor");
     show();

@@ -181,8 +181,8 @@ TEST_F(RadioEditor, GroupsOfDifferentParentsAreIndependent) {
     EXPECT_EQ(item("Q2")->state, 1);
 }
 
-TEST_F(RadioEditor, TheGroupNameIsCutAtItsFirstBracketOnly) {
-    addGroup().set("Name", L"Size [mm] of grips");
+TEST_F(RadioEditor, TheGroupNameIsCutAtItsFirstBracket) {
+    addGroup().set("Name", L"Size [mm] of [all] grips");
     open();
     editor<QRadioButton>("R1")->click();
     EXPECT_EQ(labelOf("Group"), "Size [R1]");
@@ -206,6 +206,39 @@ TEST_F(RadioEditor, MarksOfASearchDoNotReachTheGroupName) {
     ASSERT_TRUE(labelOf("R1").contains("<span"));
     editor<QRadioButton>("R1")->click();
     EXPECT_EQ(labelOf("Group"), "Units [Metres]");
+    EXPECT_EQ(row("Group")->label()->toolTip(), "Units [Metres]");
+}
+
+TEST_F(RadioEditor, MarksOfASearchInTheGroupNameGoWithTheNextChoice) {
+    addGroup().set("Name", L"Units");
+    show();
+    auto* search = dialog->findChild<QLineEdit*>("searchEdit");
+    search->setText("Units");
+    QTest::keyClick(search, Qt::Key_Return);
+    ASSERT_TRUE(labelOf("Group").contains("<span"));
+    editor<QRadioButton>("R1")->click();
+    EXPECT_EQ(labelOf("Group"), "Units [R1]");
+}
+
+TEST_F(RadioEditor, TheChosenRowIsCurrentBeforeWhatLiesBelowItIsOnAndTheGroupHasItsName) {
+    const OptionTreeWriter group = addGroup();
+    group.node("R0").node("Below0").type(L"Edit");
+    group.node("R1").node("Below1").type(L"Edit");
+    open();
+    QStringList seen;
+    QObject::connect(dialog->tree, &QTreeWidget::currentItemChanged, dialog->tree,
+                     [&](QTreeWidgetItem* current) {
+                         EXPECT_EQ(current, item("R1"));
+                         EXPECT_EQ(item("R0")->state, 0) << "the former choice is off";
+                         EXPECT_FALSE(item("Below0")->isEnabled());
+                         EXPECT_EQ(item("R1")->state, 1) << "the new one is on";
+                         EXPECT_FALSE(item("Below1")->isEnabled()) << "but not yet what lies below it";
+                         seen << labelOf("Group");
+                     });
+    editor<QRadioButton>("R1")->click();
+    EXPECT_EQ(seen, QStringList("Group [R0]")) << "once, with the former name";
+    EXPECT_TRUE(item("Below1")->isEnabled());
+    EXPECT_EQ(labelOf("Group"), "Group [R1]");
 }
 
 } // namespace

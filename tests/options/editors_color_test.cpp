@@ -8,9 +8,15 @@ namespace {
 class ColorEditor : public OptionsFixture {
 protected:
     void SetUp() override {
-        standin::registry().colorDialog = [this](OdCmColor& color) {
+        standin::registry().colorDialog = [this](OdCmColor& color, bool flag, const OdCmColor& before,
+                                                 OdCm::DialogTabs shownTabs, QWidget* parentWidget) {
             ++dialogsShown;
-            offered = std::uint32_t(color.red() | color.green() << 8 | color.blue() << 16);
+            offered = bytesOf(color);
+            flagged = flag;
+            previous = bytesOf(before);
+            tabs = shownTabs;
+            parent = parentWidget;
+            currentMeanwhile = dialog->tree->currentItem();
             color.setRGB(0x11, 0x22, 0x33);
             return accepts ? 1 : 0;
         };
@@ -25,8 +31,17 @@ protected:
         swatch(name)->click();
     }
 
+    static std::uint32_t bytesOf(const OdCmColor& color) {
+        return std::uint32_t(color.red() | color.green() << 8 | color.blue() << 16);
+    }
+
     int dialogsShown = 0;
-    std::uint32_t offered = 0;
+    // What the dialog was shown with, and the row that was current then.
+    std::uint32_t offered = 0, previous = 0;
+    bool flagged = true;
+    int tabs = 0;
+    QWidget* parent = nullptr;
+    QTreeWidgetItem* currentMeanwhile = nullptr;
     bool accepts = true;
 };
 
@@ -76,6 +91,23 @@ TEST_F(ColorEditor, ASingleClickOnlyArms) {
     open();
     swatch("A")->click();
     EXPECT_EQ(dialogsShown, 0);
+    swatch("A")->click();
+    EXPECT_EQ(dialogsShown, 1) << "it was armed";
+}
+
+TEST_F(ColorEditor, TheRowIsCurrentBeforeTheDialogComesUpAndTheDialogGetsItsArguments) {
+    addColor("A", 0x0080FF);
+    addColor("B", 0);
+    open();
+    dialog->tree->setCurrentItem(item("B"));
+    clickTwice("A");
+    ASSERT_EQ(dialogsShown, 1);
+    EXPECT_EQ(currentMeanwhile, item("A"));
+    EXPECT_EQ(offered, 0x0080FFu);
+    EXPECT_FALSE(flagged);
+    EXPECT_EQ(previous, bytesOf(OdCmColor()));
+    EXPECT_EQ(tabs, 3);
+    EXPECT_EQ(parent, dialog.get());
 }
 
 TEST_F(ColorEditor, TwoClicksOpenTheDialogOnTheColorAndTakeTheNewOne) {
@@ -108,6 +140,8 @@ TEST_F(ColorEditor, ClicksFurtherApartThanADoubleClickOpenNothing) {
     clickTwice("A");
     QApplication::setDoubleClickInterval(interval);
     EXPECT_EQ(dialogsShown, 0);
+    swatch("A")->click();
+    EXPECT_EQ(dialogsShown, 1) << "the second of them has armed it again";
 }
 
 TEST_F(ColorEditor, CancellingLeavesTheColorAndDisarms) {

@@ -132,6 +132,10 @@ TEST_F(ComboEditor, TheWheelDoesNotChangeIt) {
                      Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(box(), &turn);
     EXPECT_EQ(box()->currentIndex(), 0);
+    QComboBox plain;
+    plain.addItems({"first", "second"});
+    QApplication::sendEvent(&plain, &turn);
+    EXPECT_EQ(plain.currentIndex(), 1) << "another combo box would follow it";
 }
 
 TEST_F(ComboEditor, ChoicesThatAreNotHiddenAppearAsRowsToo) {

@@ -54,6 +54,16 @@ TEST_F(NumberEditor, LimitsAndStepOfAReal) {
     EXPECT_EQ(editor<QDoubleSpinBox>("A")->singleStep(), 0.25);
 }
 
+TEST_F(NumberEditor, OfReversedLimitsAnIntTakesTheLatterAndARealTheFormerForBoth) {
+    node("Int").type(L"EditInt").set("Limits", tagSIZE{50, 10});
+    node("Real").type(L"EditReal").set("Limits", tagRSIZE{2.5, 0.5});
+    open();
+    EXPECT_EQ(editor<QSpinBox>("Int")->minimum(), 10);
+    EXPECT_EQ(editor<QSpinBox>("Int")->maximum(), 10);
+    EXPECT_EQ(editor<QDoubleSpinBox>("Real")->minimum(), 2.5);
+    EXPECT_EQ(editor<QDoubleSpinBox>("Real")->maximum(), 2.5);
+}
+
 TEST_F(NumberEditor, LimitsAndStepOfTheOtherKindAreNotRead) {
     node("Int").type(L"EditInt").set("Limits", tagRSIZE{-1, 2}).set("Step", 2.0);
     node("Real").type(L"EditReal").set("Limits", tagSIZE{-1, 2}).set("Step", 2).set("Default", 3);

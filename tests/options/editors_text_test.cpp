@@ -136,9 +136,8 @@ TEST_F(DirectoryEditor, TheToolTipFollowsTheTypedText) {
     EXPECT_EQ(item("Dir")->textValue, known); // until the edit is finished
 }
 
-TEST_F(DirectoryEditor, AMissingDirectoryIsAskedAboutAndNoPutsTheLastOneBack) {
+TEST_F(DirectoryEditor, AMissingDirectoryIsAskedAbout) {
     addAndOpen(known);
-    host.answer(EV_MB_NO);
     typeAndReturn("/missing/dir");
     ASSERT_EQ(host.messages.size(), 1u);
     EXPECT_EQ(host.messages[0].kind, standin::MessageKind::Question);
@@ -146,9 +145,20 @@ TEST_F(DirectoryEditor, AMissingDirectoryIsAskedAboutAndNoPutsTheLastOneBack) {
     EXPECT_EQ(host.messages[0].text,
               "Path \"/missing/dir\" does not exist. Do you want to specify another value?");
     EXPECT_EQ(host.messages[0].buttons, EV_MB_YES | EV_MB_NO);
-    EXPECT_EQ(edit()->text(), known);
-    EXPECT_EQ(edit()->toolTip(), known);
-    EXPECT_EQ(item("Dir")->textValue, known);
+}
+
+TEST_F(DirectoryEditor, AnyAnswerButYesPutsTheLastOneBack) {
+    addAndOpen(known);
+    for (const EV_MB_RET answer : {EV_MB_NO, EV_MB_OK, EV_MB_RET(0)}) {
+        host.answer(answer);
+        FileDialogDriver user(folder.path());
+        typeAndReturn("/missing/dir");
+        EXPECT_FALSE(user.shown) << answer;
+        EXPECT_EQ(edit()->text(), known) << answer;
+        EXPECT_EQ(edit()->toolTip(), known) << answer;
+        EXPECT_EQ(item("Dir")->textValue, known) << answer;
+    }
+    EXPECT_EQ(host.messages.size(), 3u);
 }
 
 TEST_F(DirectoryEditor, YesOffersTheDirectoryAboveTheMissingOne) {
@@ -167,17 +177,36 @@ TEST_F(DirectoryEditor, YesOffersTheDirectoryAboveTheMissingOne) {
     EXPECT_EQ(item("Dir")->textValue, known + "/other");
 }
 
-TEST_F(DirectoryEditor, TheWalkUpEndsWhereTheDirectoryAboveIsMissingToo) {
+// An environment variable for a while.
+class Variable {
+public:
+    Variable(const char* variable, const QString& value)
+        : name(variable), wasSet(qEnvironmentVariableIsSet(variable)), before(qgetenv(variable)) {
+        qputenv(name, value.toUtf8());
+    }
+    ~Variable() {
+        if (wasSet)
+            qputenv(name, before);
+        else
+            qunsetenv(name);
+    }
+
+private:
+    const char* name;
+    bool wasSet;
+    QByteArray before;
+};
+
+TEST_F(DirectoryEditor, WhereTheDirectoryAboveIsMissingTooTheChoiceStartsAtTheDesktop) {
+    const Variable home("HOME", folder.path());
+    const Variable settings("XDG_CONFIG_HOME", folder.path() + "/no settings");
+    QDir(folder.path()).mkdir("Desktop");
     addAndOpen(known);
     host.answer(EV_MB_YES);
     FileDialogDriver user;
     typeAndReturn(known + "/missing/twice");
     ASSERT_TRUE(user.shown);
-    const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
-    if (QDir(desktop).exists())
-        EXPECT_EQ(user.directory, desktop);
-    else
-        EXPECT_FALSE(user.directory.startsWith(known));
+    EXPECT_EQ(user.directory, folder.path() + "/Desktop");
 }
 
 TEST_F(DirectoryEditor, CancellingTheChoiceAfterYesPutsTheLastOneBack) {
@@ -335,6 +364,36 @@ TEST_F(Environment, HistoryIsOnlyItselfWhenItIsTheWholeText) {
     EXPECT_EQ(expandEnvironment("%HISTORY%/x"), "/x");
     EXPECT_EQ(expandEnvironment("%HISTORY%"), host.rootDir() + "/UnsavedFiles");
     EXPECT_EQ(expandEnvironment("%HISTORY%"), host.rootDir() + "/UnsavedFiles"); // it exists now
+}
+
+TEST_F(Environment, OnlyTheLastLevelOfTheHistoryFolderIsMade) {
+    EXPECT_EQ(expandEnvironment("%HISTORY%"), host.rootDir() + "/UnsavedFiles");
+    EXPECT_TRUE(QDir(host.rootDir() + "/UnsavedFiles").exists());
+    ASSERT_TRUE(QDir(host.rootDir()).removeRecursively());
+    EXPECT_EQ(expandEnvironment("%HISTORY%"), host.rootDir() + "/UnsavedFiles");
+    EXPECT_FALSE(QDir(host.rootDir()).exists());
+}
+
+TEST_F(Environment, ManyNamesAndLongValuesAreReplaced) {
+    QString many, expected;
+    for (int i = 0; i < 1000; ++i) {
+        const QByteArray name = "OPTION_TEST_" + QByteArray::number(i);
+        set(name, QByteArray::number(i));
+        many += "/%" + name + "%";
+        expected += "/" + QString::number(i);
+    }
+    EXPECT_EQ(expandEnvironment(many), expected);
+    const QString text(70000, QLatin1Char('x'));
+    set("OPTION_TEST_LONG", text.toUtf8());
+    EXPECT_EQ(expandEnvironment("%OPTION_TEST_LONG%"), text);
+    EXPECT_EQ(expandEnvironment("%OPTION_TEST_LONG%%OPTION_TEST_7%"), text + "7");
+}
+
+TEST_F(Environment, OfValuesThatNameOthersAHundredAreFollowed) {
+    for (int i = 0; i < 100; ++i)
+        set("OPTION_TEST_" + QByteArray::number(i), "%OPTION_TEST_" + QByteArray::number(i + 1) + "%");
+    set("OPTION_TEST_100", "/end");
+    EXPECT_EQ(expandEnvironment("%OPTION_TEST_0%"), "/end");
 }
 
 } // namespace

@@ -89,6 +89,8 @@ TEST_F(RowMoves, DoesNothingPastTheEnds) {
     dialog.clickRow(itemOf(dialog, "three"));
     dialog.moveCurrent(1);
     EXPECT_EQ(namesBelow(rootItem(dialog)), QStringList({"one", "two", "three"}));
+    dialog.moveCurrent(-1);
+    EXPECT_EQ(namesBelow(rootItem(dialog)), QStringList({"one", "three", "two"})) << "there is room upwards";
 }
 
 TEST_F(RowMoves, DoesNothingWithoutACurrentRowAndOnTheRoot) {

@@ -198,6 +198,7 @@ TEST_F(DialogRules, DoesNothingOnAddAndDeleteOfAPlainSection) {
     OpenDialog dialog;
     itemOf(dialog, "row0")->buttonMask = 31;
     dialog.clickRow(itemOf(dialog, "row0"));
+    ASSERT_TRUE(dialog.addButton->isEnabled() && dialog.deleteButton->isEnabled());
     dialog.click("addButton");
     dialog.click("deleteButton");
     EXPECT_EQ(namesBelow(rootItem(dialog)), QStringList({"row0", "row1"}));
@@ -217,6 +218,8 @@ TEST_F(DialogRules, DoesNotScrollForABranchThatIsInView) {
         tree.node(QStringLiteral("below%1").arg(i).toLocal8Bit());
     OpenDialog dialog;
     itemOf(dialog, "group")->setExpanded(true);
+    ASSERT_GT(dialog.tree->verticalScrollBar()->maximum(), 0) << "there is something to scroll";
+    EXPECT_EQ(dialog.tree->currentItem(), itemOf(dialog, "group"));
     EXPECT_EQ(dialog.tree->verticalScrollBar()->value(), 0);
 }
 
@@ -297,6 +300,21 @@ TEST_F(DialogRules, TellsItsRowsOfANewTheme) {
     EXPECT_NE(label->styleSheet(), dark);
     host.setTheme(7);
     EXPECT_EQ(label->styleSheet(), "");
+}
+
+TEST_F(DialogRules, HasTheNewIconsBeforeItTellsOfTheNewTheme) {
+    optionTree(host).node("group").set("Image", 5);
+    OpenDialog dialog;
+    const QImage darkRow = rowPicture(itemOf(dialog, "group"));
+    bool told = false;
+    QObject::connect(&dialog, &Preferences::themeChanged, &dialog, [&] {
+        told = true;
+        EXPECT_NE(rowPicture(itemOf(dialog, "group")), darkRow);
+        EXPECT_EQ(picture(dialog.addButton->icon()), picture(toolIcon(32)));
+        EXPECT_EQ(picture(dialog.control<QAction>("clearAction")->icon()), picture(treeIcon(29)));
+    });
+    host.setTheme(1);
+    EXPECT_TRUE(told);
 }
 
 TEST_F(DialogRules, PassesOverARowThatHasGoneOnAChangeOfTheme) {

@@ -31,7 +31,7 @@ ShippedTree::ShippedTree() {
     host.stdDirs().dirs["AppDataDir"] = folder.path().toStdWString();
     qputenv("HOME", folder.path().toUtf8());
     QDir(folder.path()).mkdir("other");
-    standin::registry().colorDialog = [](OdCmColor& color) {
+    standin::registry().colorDialog = [](OdCmColor& color, auto&&...) {
         // Two colours of the palette, so that one of them is a change for every row.
         const std::uint32_t chosen = OdCmEntityColor::lookUpRGB(color.red() == 255 ? 104 : 30);
         color.setRGB(std::uint8_t(chosen >> 16), std::uint8_t(chosen >> 8), std::uint8_t(chosen));

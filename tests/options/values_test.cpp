@@ -182,6 +182,47 @@ TEST_F(OptionValues, AnotherStoreIsNeitherReadNorWritten) {
     EXPECT_EQ(int(stored()), 4);
 }
 
+TEST_F(OptionValues, AStoreIsKnownByItsExactName) {
+    inProfile();
+    store(4);
+    host.vars.set("Key", 5);
+    const std::pair<const char*, int> stores[] = {
+        {"IProfile", 4}, {"iprofile", -77}, {"IPROFILE", -77}, {"SysVar", 5}, {"sysvar", -77}};
+    for (const auto& [name, value] : stores) {
+        option.set("IFace", name);
+        EXPECT_EQ(readInt(), value) << name;
+    }
+}
+
+// Keeps the buffers that it has handed out and taken.
+class BufferWatch : public FixtureVars {
+public:
+    int getVar(const OdString& name, OdResBufPtr* out, OdRxObject* context, int reserved) override {
+        const int status = FixtureVars::getVar(name, out, context, reserved);
+        given = *out;
+        return status;
+    }
+    int setVar(const OdString& name, OdResBuf* value, OdRxObject* context, int reserved) override {
+        taken.push_back(value == given.get());
+        return FixtureVars::setVar(name, value, context, reserved);
+    }
+    OdResBufPtr given;
+    std::vector<bool> taken;
+};
+
+TEST_F(OptionValues, AWriteGivesBackTheBufferThatItHasRead) {
+    inVariable();
+    BufferWatch watch;
+    watch.set("VAR", 1);
+    host.documents.vars = &watch;
+    writeIntOption(node(), nullptr, 2);
+    writeDoubleOption(node(), nullptr, 2);
+    writeStringOption(node(), nullptr, CXStringW(L"2"));
+    writeColorOption(node(), nullptr, 2);
+    EXPECT_EQ(watch.taken, std::vector<bool>(4, true));
+    host.documents.vars = &host.vars;
+}
+
 TEST_F(OptionValues, WithoutAProfileNothingIsReadOrWritten) {
     inProfile();
     store(4);
@@ -309,6 +350,7 @@ TEST_F(OptionValues, AVariableThatCannotBeReadIsNotWritten) {
     writeIntOption(node(), nullptr, 7);
     writeDoubleOption(node(), nullptr, 7);
     writeStringOption(node(), nullptr, CXStringW(L"7"));
+    EXPECT_EQ(host.vars.reads.size(), 3u);
     EXPECT_TRUE(host.vars.writes.empty());
 }
 

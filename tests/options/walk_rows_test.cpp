@@ -48,21 +48,21 @@ TEST_F(WalkedRows, MakesEachKindOfRowWithItsEditor) {
     }
 }
 
-TEST_F(WalkedRows, PutsRadioAndCheckBeforeTheLabelAndOtherEditorsBehindIt) {
-    tree.node("check").type(L"Check");
-    tree.node("edit").type(L"Edit");
-    tree.node("color").type(L"Color");
+TEST_F(WalkedRows, PutsButtonsBeforeTheLabelAndOtherEditorsBehindIt) {
+    const std::pair<const wchar_t*, bool> kinds[] = {
+        {L"Check", true},   {L"Radio", true},          {L"RadioCursor", true}, {L"Color", true},
+        {L"AcColor", true}, {L"EditInt", false},       {L"EditReal", false},   {L"EditFile", false},
+        {L"Edit", false},   {L"EditMultiFile", false}, {L"EditDir", false},    {L"Combo", false}};
+    for (const auto& kind : kinds)
+        tree.node(QString::fromWCharArray(kind.first).toLatin1()).type(kind.first);
     OpenDialog dialog;
-    const auto firstOf = [&dialog](const char* name) {
-        return rowOf(dialog, name)->layout()->itemAt(0)->widget();
-    };
-    const auto left = [&dialog](const char* name) {
+    for (const auto& [type, isBefore] : kinds) {
+        const QByteArray name = QString::fromWCharArray(type).toLatin1();
         const QWidget* const label = dialog.labelOf(itemOf(dialog, name));
-        return label->x();
-    };
-    EXPECT_GT(left("check"), firstOf("check")->x());
-    EXPECT_LT(left("edit"), editorOf<QLineEdit>(dialog, "edit")->x());
-    EXPECT_GT(left("color"), editorOf<QToolButton>(dialog, "color")->x());
+        const auto* const editor = rowOf(dialog, name)->findChild<QWidget*>(name);
+        ASSERT_NE(editor, nullptr) << name.constData();
+        EXPECT_EQ(editor->x() < label->x(), isBefore) << name.constData();
+    }
 }
 
 TEST_F(WalkedRows, TakesATypeInAnotherCaseAsASection) {
@@ -74,6 +74,15 @@ TEST_F(WalkedRows, TakesATypeInAnotherCaseAsASection) {
         EXPECT_EQ(itemOf(dialog, name)->nodeType, int(kNodeSection)) << name;
         EXPECT_EQ(editorOf<QAbstractButton>(dialog, name), nullptr) << name;
     }
+}
+
+TEST_F(WalkedRows, TakesTheTypeUntranslated) {
+    host.translations = {{L"Check", L"Radio"}, {L"Schalter", L"Check"}};
+    tree.node("check").type(L"Check");
+    tree.node("foreign").type(L"Schalter");
+    OpenDialog dialog;
+    EXPECT_EQ(itemOf(dialog, "check")->nodeType, int(kNodeCheck));
+    EXPECT_EQ(itemOf(dialog, "foreign")->nodeType, int(kNodeSection));
 }
 
 TEST_F(WalkedRows, CutsOnlyColourRowsAtTheAngleBracket) {
@@ -174,6 +183,9 @@ TEST_F(WalkedRows, GroupsTheRadiosOfOneParentExclusively) {
     QButtonGroup* const buttons = dialog.buttonGroups.value(itemOf(dialog, "group"));
     ASSERT_NE(buttons, nullptr);
     EXPECT_TRUE(buttons->exclusive());
+    EXPECT_EQ(buttons->parent(), &dialog);
+    for (QAbstractButton* button : buttons->buttons())
+        EXPECT_LT(buttons->id(button), -1) << "no number of its own";
     EXPECT_EQ(buttons->buttons().size(), 2);
     EXPECT_EQ(dialog.buttonGroups.value(itemOf(dialog, "other"))->buttons().size(), 1);
     EXPECT_EQ(dialog.buttonGroups.size(), 2);

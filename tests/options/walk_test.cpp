@@ -155,10 +155,12 @@ TEST_F(OptionWalk, ReadsAValueWithTheTransparentNodeOfThatMoment) {
 }
 
 TEST_F(OptionWalk, LoadsNothingForATransparentNodeWithAPage) {
-    tree.node("papers").set("Name", L"").set("ID", int(kIdPapers));
+    OptionTreeWriter(openChild(&host.papers(), "Paper00000001", 1)).set("Name", L"A4");
+    tree.node("papers").set("Name", L"").set("ID", int(kIdPapers)).node("inner");
     OpenDialog dialog;
     EXPECT_EQ(dialog.paperRootItem, nullptr);
     EXPECT_NE(rootItem(dialog)->nodeType, int(kNodePaperRoot));
+    EXPECT_EQ(namesBelow(rootItem(dialog)), QStringList({"inner"}));
 }
 
 TEST_F(OptionWalk, InheritsTheIconThroughATransparentNode) {
@@ -228,6 +230,8 @@ TEST_F(OptionWalk, DoesNotScrollWhileItRestoresTheExpansion) {
         rememberExpanded(name, 1);
     }
     OpenDialog dialog;
+    ASSERT_TRUE(itemOf(dialog, "group59")->isExpanded());
+    ASSERT_GT(dialog.tree->verticalScrollBar()->maximum(), 0) << "there is something to scroll";
     EXPECT_EQ(dialog.tree->currentItem(), rootItem(dialog));
     EXPECT_EQ(dialog.tree->verticalScrollBar()->value(), 0);
 }

@@ -79,7 +79,7 @@ TEST_F(ColorDialogTest, PageOfThePresentColourIsInFront) {
 }
 
 TEST_F(ColorDialogTest, HookAnswersInPlaceOfTheDialog) {
-    standin::registry().colorDialog = [](OdCmColor& color) {
+    standin::registry().colorDialog = [](OdCmColor& color, auto&&...) {
         color.setRGB(7, 8, 9);
         return 1;
     };
