@@ -9,12 +9,6 @@
 
 namespace {
 
-// What stands behind the first "/" of the full name, unless the name begins with it.
-QString profileNameOf(const QString& fullName) {
-    const int slash = fullName.indexOf(QLatin1Char('/'));
-    return slash > 0 ? fullName.mid(slash + 1) : fullName;
-}
-
 Ref<IParam> openProfiles() {
     const Ref<IAppInterior> interior = appService<IAppInterior>();
     if (!interior)
@@ -28,7 +22,7 @@ Ref<IParam> openProfiles() {
 void Preferences::fillProfiles() {
     profileCombo->clear();
     const Ref<IParam> profiles = openProfiles();
-    currentProfile = profileNameOf(QStringLiteral("default"));
+    currentProfile = QStringLiteral("default");
     profileCombo->addItem(currentProfile);
     for (const std::string& child : childNames(profiles.get())) {
         const QString name = QString::fromLocal8Bit(child.c_str());

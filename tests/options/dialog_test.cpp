@@ -6,6 +6,7 @@
 #include "options/pages/searching_line_edit.h"
 #include "sdk/db/application_variables.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
@@ -111,6 +112,7 @@ TEST_F(OptionsDialog, GivesEveryToolAnIcon) {
     OpenDialog dialog;
     for (const char* name : {"addButton", "deleteButton", "upButton", "downButton", "profileButton"})
         EXPECT_FALSE(dialog.button(name)->icon().isNull()) << name;
+    EXPECT_FALSE(dialog.control<QAction>("clearAction")->icon().isNull());
 }
 
 TEST_F(OptionsDialog, StandsInItsToldOrder) {
@@ -129,6 +131,9 @@ TEST_F(OptionsDialog, StandsInItsToldOrder) {
     const QLayout* const rows = outer->itemAt(1)->widget()->layout();
     ASSERT_EQ(rows->count(), 2);
     EXPECT_EQ(rows->itemAt(1)->layout()->itemAt(4)->sizeHint(), QSize(30, 0)) << "the gap before OK";
+    for (const QLayout* inner : {columns->itemAt(0)->widget()->layout(), right->layout(), rows})
+        EXPECT_EQ(inner->contentsMargins(), QMargins())
+            << "the columns and rows have no margins of their own";
     EXPECT_EQ(controlsOf(rows), QStringList({dialog.searchEdit->statusLabel->objectName(), "searchEdit",
                                              dialog.collapseWidget->collapseButton->objectName(),
                                              dialog.collapseWidget->expandButton->objectName(), "applyButton",
@@ -154,6 +159,7 @@ TEST_F(OptionsDialog, OpensWithAnEmptyDescriptionAndNoToolEnabled) {
 TEST_F(OptionsDialog, GivesOkTheFocusAndTheDefaultWhenItOpens) {
     optionTree(host);
     EXPECT_EQ(Preferences(nullptr).focusWidget()->objectName(), "okButton") << "even before it is shown";
+    EXPECT_TRUE(Preferences(nullptr).okButton->isDefault());
     OpenDialog dialog;
     EXPECT_TRUE(dialog.okButton->isDefault());
     EXPECT_EQ(dialog.focusWidget(), dialog.okButton);
@@ -185,6 +191,8 @@ TEST_F(OptionsDialog, ShowsDefaultForAMissingConfiguration) {
     EXPECT_EQ(dialog.control<QLabel>("configurationLabel")->text(), "Current configuration:");
     EXPECT_EQ(dialog.control<QLabel>("configurationValue")->text(), "Default");
     EXPECT_EQ(dialog.control<QLabel>("configurationValue")->styleSheet(), "font-weight: bold;");
+    for (const char* name : {"configurationLabel", "configurationValue"})
+        EXPECT_TRUE(dialog.control<QLabel>(name)->wordWrap()) << name << ": the column is narrow";
 }
 
 TEST_F(OptionsDialog, ShowsTheConfigurationOfTheCurrentDrawing) {

@@ -220,6 +220,19 @@ TEST_F(RadioEditor, MarksOfASearchInTheGroupNameGoWithTheNextChoice) {
     EXPECT_EQ(labelOf("Group"), "Units [R1]");
 }
 
+TEST_F(RadioEditor, TheChosenRowIsCurrentInTheEndWhateverHappensMeanwhile) {
+    addGroup();
+    open();
+    bool movedAway = false;
+    QObject::connect(dialog->tree, &QTreeWidget::currentItemChanged, dialog->tree, [&] {
+        if (!std::exchange(movedAway, true))
+            dialog->tree->setCurrentItem(item("Group"));
+    });
+    editor<QRadioButton>("R1")->click();
+    EXPECT_TRUE(movedAway);
+    EXPECT_EQ(dialog->tree->currentItem(), item("R1"));
+}
+
 TEST_F(RadioEditor, TheChosenRowIsCurrentBeforeWhatLiesBelowItIsOnAndTheGroupHasItsName) {
     const OptionTreeWriter group = addGroup();
     group.node("R0").node("Below0").type(L"Edit");

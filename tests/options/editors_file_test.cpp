@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QFile>
 #include <QLineEdit>
+#include <QPointer>
 #include <QStandardPaths>
 
 namespace {
@@ -15,8 +16,9 @@ namespace {
 // The host's standard directories: one folder for each key that the test names.
 class Directories : public CKWUnknownImpl<IStdDirs> {
 public:
-    bool GetDir(const char* key, tagKWVARIANT* out, int) override {
+    bool GetDir(const char* key, tagKWVARIANT* out, int flag) override {
         asked << QString(key);
+        EXPECT_EQ(flag, 1);
         presetWide = out->vt == kVtWideString;
         const auto found = folders.find(key);
         if (found == folders.end())
@@ -157,6 +159,16 @@ TEST_F(FileEditor, ShowsTheStoredValueElseTheDefault) {
     EXPECT_EQ(edit()->cursorPosition(), 0);
     EXPECT_EQ(item("File")->textValue, "/x/a.dwt");
     EXPECT_EQ(item("File")->buttonMask, unsigned(kMaskModify));
+}
+
+TEST_F(FileEditor, TheBrowseActionGoesWithItsField) {
+    addAndOpen("");
+    const QPointer<QAction> action = browse();
+    ASSERT_TRUE(action);
+    EXPECT_EQ(action->objectName(), "browseAction");
+    EXPECT_EQ(action->parent(), nullptr);
+    dialog.reset();
+    EXPECT_FALSE(action);
 }
 
 TEST_F(FileEditor, SeveralFilesMayBePickedAndTheirSlashesAreTurned) {

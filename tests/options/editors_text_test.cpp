@@ -389,11 +389,22 @@ TEST_F(Environment, ManyNamesAndLongValuesAreReplaced) {
     EXPECT_EQ(expandEnvironment("%OPTION_TEST_LONG%%OPTION_TEST_7%"), text + "7");
 }
 
-TEST_F(Environment, OfValuesThatNameOthersAHundredAreFollowed) {
-    for (int i = 0; i < 100; ++i)
+TEST_F(Environment, OfValuesThatNameOthersTwoHundredAndFiftySixAreFollowed) {
+    for (int i = 0; i < 300; ++i)
         set("OPTION_TEST_" + QByteArray::number(i), "%OPTION_TEST_" + QByteArray::number(i + 1) + "%");
-    set("OPTION_TEST_100", "/end");
+    EXPECT_EQ(expandEnvironment("%OPTION_TEST_0%"), "%OPTION_TEST_256%");
+    set("OPTION_TEST_256", "/end");
     EXPECT_EQ(expandEnvironment("%OPTION_TEST_0%"), "/end");
+}
+
+TEST_F(Environment, ValuesWithPercentSignsMayLengthenTheTextBySixtyFourThousandCharacters) {
+    const QString name = "%OPTION_TEST_A%";
+    QString value(name.size() + 65536, QLatin1Char('x'));
+    value[0] = '%';
+    set("OPTION_TEST_A", value.toUtf8());
+    EXPECT_EQ(expandEnvironment(name), value);
+    set("OPTION_TEST_A", (value + "x").toUtf8());
+    EXPECT_EQ(expandEnvironment(name), name);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "options/pages/searching_line_edit.h"
 
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QToolButton>
 #include <gtest/gtest.h>
@@ -124,6 +125,10 @@ TEST_F(RowMoves, KeepsTheWholeTextOfAMovedRow) {
     EXPECT_EQ(shownText(dialog, "lines"), "Grid <lines>");
     EXPECT_EQ(dialog.labelOf(itemOf(dialog, "lines"))->toolTip(), "Grid <lines>");
     EXPECT_EQ(itemOf(dialog, "lines")->text(0), "") << "the row alone paints it";
+    const auto* const grid =
+        qobject_cast<QGridLayout*>(dialog.rowWidgets.value(itemOf(dialog, "lines"))->layout());
+    EXPECT_TRUE(grid->itemAtPosition(0, 1)) << "the label stands where it does behind a button";
+    EXPECT_FALSE(grid->itemAtPosition(0, 0));
 }
 
 TEST_F(RowMoves, ForgetsTheButtonOfAMovedRadio) {

@@ -146,8 +146,12 @@ TEST_F(DialogRules, TitlesTheContextMenuAndOrdersItsActions) {
     addGroups(optionTree(host), 1);
     OpenDialog dialog;
     dialog.clickRow(itemOf(dialog, "row0"));
-    dialog.withContextMenu(itemOf(dialog, "row0"), [](QMenu& menu) {
+    const ClickableLabel* const label = dialog.labelOf(itemOf(dialog, "row0"));
+    const QPoint asked = label->mapToGlobal(label->rect().center());
+    dialog.withContextMenu(itemOf(dialog, "row0"), [asked](QMenu& menu) {
         EXPECT_EQ(menu.title(), "Context Menu");
+        EXPECT_EQ(menu.objectName(), "contextMenu");
+        EXPECT_EQ(menu.pos(), asked);
         ASSERT_EQ(menu.actions().size(), 3);
         EXPECT_EQ(menu.actions().at(0)->text(), "Add");
         EXPECT_EQ(menu.actions().at(1)->text(), "Modify");

