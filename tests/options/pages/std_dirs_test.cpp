@@ -184,8 +184,11 @@ TEST_F(StdDirs, APathThatIsNotEditableIsDisabledAndCannotBeSelected) {
     select(row("/a"));
     select(fixed);
     EXPECT_EQ(current(), row("/a"));
+    whenDialogOpens([](QDialog& dialog) { clickOn(dialog, "cancelButton"); });
     QTest::mouseDClick(labelOf(fixed), Qt::LeftButton);
     EXPECT_EQ(dialogsOpened, 0);
+    QTest::mouseDClick(labelOf(row("/a")), Qt::LeftButton);
+    EXPECT_EQ(dialogsOpened, 1) << "as on the row beside it";
 }
 
 TEST_F(StdDirs, APathThatIsNotEditableIsPassedOverByTheKeyboardAndOffersNoMenu) {

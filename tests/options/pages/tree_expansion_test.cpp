@@ -65,6 +65,7 @@ TEST_F(TreeExpansion, RestoresTheChildrenFirstAndTheItemLast) {
 TEST_F(TreeExpansion, SavesNoCurrentItem) {
     tree.setCurrentItem(leaf);
     state.save(top);
+    EXPECT_TRUE(state.expanded.contains(leaf));
     EXPECT_EQ(state.currentItem, nullptr);
 }
 
