@@ -131,7 +131,8 @@ TEST_F(OptionsDialog, StandsInItsToldOrder) {
     const QLayout* const rows = outer->itemAt(1)->widget()->layout();
     ASSERT_EQ(rows->count(), 2);
     EXPECT_EQ(rows->itemAt(1)->layout()->itemAt(4)->sizeHint(), QSize(30, 0)) << "the gap before OK";
-    for (const QLayout* inner : {columns->itemAt(0)->widget()->layout(), right->layout(), rows})
+    for (const QLayout* inner :
+         std::initializer_list<const QLayout*>{columns->itemAt(0)->widget()->layout(), right->layout(), rows})
         EXPECT_EQ(inner->contentsMargins(), QMargins())
             << "the columns and rows have no margins of their own";
     EXPECT_EQ(controlsOf(rows), QStringList({dialog.searchEdit->statusLabel->objectName(), "searchEdit",
