@@ -4,13 +4,6 @@
 #include "host/documents.h"
 #include "host/text.h"
 
-namespace {
-HostDocument* currentDocument() {
-    HostDocumentManager* const manager = HostDocManager();
-    return manager ? manager->currentDocument() : nullptr;
-}
-} // namespace
-
 OdDbDatabasePtr currentDrawing() {
     HostDocument* const document = currentDocument();
     return document ? document->database() : OdDbDatabasePtr();

@@ -32,11 +32,6 @@ QPushButton* newButton(const QString& text, const char* name, QWidget* parent) {
     return button;
 }
 
-void showHelp() {
-    if (const auto help = Ref<IHelpService>::take(Get_IHelpService()))
-        help->showTopic("IDH_DWGProps");
-}
-
 } // namespace
 
 dwgProps::dwgProps(QWidget* parent) : QDialog(parent, Qt::WindowFlags()) {
@@ -112,7 +107,7 @@ QHBoxLayout* dwgProps::buttonRow() const {
 void dwgProps::connectSignals() {
     connect(okButton, &QPushButton::clicked, this, &dwgProps::onOK);
     connect(cancelButton, &QPushButton::clicked, this, &dwgProps::onCancel);
-    connect(helpButton, &QPushButton::clicked, this, [] { showHelp(); });
+    connect(helpButton, &QPushButton::clicked, this, [] { showHelp("IDH_DWGProps"); });
 }
 
 int dwgProps::insertTab(int index, QWidget* page, const QString& label) {

@@ -2,11 +2,6 @@
 
 #include "host/qt_application.h"
 
-HostDocument* currentDocument() {
-    HostDocumentManager* const manager = HostDocManager();
-    return manager ? manager->currentDocument() : nullptr;
-}
-
 HostCommandIO* currentIO() {
     HostDocument* const document = currentDocument();
     return document ? document->commandIO() : HostDocManager()->fallbackIO();

@@ -7,7 +7,6 @@
 
 #include "sdk/db/database.h"
 
-HostDocument* currentDocument(); // null when none is open
 // The console of the current document, or the document manager's own one.
 HostCommandIO* currentIO();
 HostEditorSelection* currentEditor(); // null without a document

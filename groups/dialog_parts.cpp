@@ -1,8 +1,5 @@
 #include "groups/dialog_parts.h"
 
-#include "host/help.h"
-#include "host/ref.h"
-
 #include <QDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -43,12 +40,6 @@ int firstSelectedRow(const QTableWidget& table) {
 void scrollToRow(QTableWidget& table, int row) { table.scrollTo(table.model()->index(row, 0)); }
 
 QString yesOrNo(bool yes) { return yes ? QDialog::tr("Yes") : QDialog::tr("No"); }
-
-void showHelp() {
-    const Ref<IHelpService> help = Ref<IHelpService>::take(Get_IHelpService());
-    if (help)
-        help->showTopic("IDH_GroupCmd[1]");
-}
 
 void tighten(QLayout& layout) {
     constexpr int margin = 6, spacing = 4;

@@ -26,7 +26,7 @@ void setUpTable(QTableWidget& table, const QStringList& headers);
 int firstSelectedRow(const QTableWidget& table); // -1 without a selection
 void scrollToRow(QTableWidget& table, int row);
 QString yesOrNo(bool yes);
-void showHelp(); // the topic of the group dialogs
+constexpr const char* helpTopic = "IDH_GroupCmd[1]";
 // Little room around and between parts: the windows are of a fixed size.
 void tighten(QLayout& layout);
 QHBoxLayout* centredRow(std::initializer_list<QPushButton*> buttons);

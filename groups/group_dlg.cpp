@@ -2,6 +2,7 @@
 
 #include "groups/dialog_parts.h"
 #include "groups/highlight.h"
+#include "host/help.h"
 #include "host/selection.h"
 #include "host/text.h"
 
@@ -127,6 +128,6 @@ void CGroupDlg::updateHighlight() {
 }
 
 // Not connected: that is meant.
-void CGroupDlg::showHelp() { group_dialogs::showHelp(); }
+void CGroupDlg::showHelp() { ::showHelp(group_dialogs::helpTopic); }
 
 #include "moc_group_dlg.cpp"

@@ -1,6 +1,7 @@
 // The controls of the dialog "Order Group" and their places.
 #include "groups/dialog_parts.h"
 #include "groups/group_reorder_dlg.h"
+#include "host/help.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -97,5 +98,5 @@ void CGroupReorderDlg::connectControls() {
     connect(reverseButton, &QPushButton::clicked, this, &CGroupReorderDlg::reverseOrder);
     connect(okButton, &QPushButton::clicked, this, [this] { done(kAccepted); });
     connect(cancelButton, &QPushButton::clicked, this, [this] { done(kCancelled); });
-    connect(helpButton, &QPushButton::clicked, this, &group_dialogs::showHelp);
+    connect(helpButton, &QPushButton::clicked, this, [] { showHelp(group_dialogs::helpTopic); });
 }

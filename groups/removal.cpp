@@ -2,6 +2,7 @@
 
 #include "groups/group_messages.h"
 #include "groups/selection_step.h"
+#include "host/modal_runner.h"
 #include "host/transaction_guard.h"
 
 bool mayRemove(const OdDbGroupPtr& group, std::size_t count, const OdString& name, const QString& title,
@@ -10,8 +11,11 @@ bool mayRemove(const OdDbGroupPtr& group, std::size_t count, const OdString& nam
     group->allEntityIds(members);
     if (count != members.size() || count < 2)
         return true;
-    return QMessageBox::question(nullptr, title, group_messages::removingAll(name),
-                                 QMessageBox::Ok | QMessageBox::Cancel, defaultButton) != QMessageBox::Cancel;
+    QMessageBox box(QMessageBox::Question, title, group_messages::removingAll(name),
+                    QMessageBox::Ok | QMessageBox::Cancel);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(defaultButton);
+    return runModal(box) == QMessageBox::Ok;
 }
 
 void removeInTransaction(const OdDbDatabasePtr& database, const OdDbGroupPtr& group,

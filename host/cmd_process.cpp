@@ -9,25 +9,17 @@ int CKWUnknownImpl<ICmdProcess>::getHeld(IKWUnknown** out) {
     return 1;
 }
 
+// Stored before it is counted: inside its AddRef the new object is the one that getHeld gives.
 int CKWUnknownImpl<ICmdProcess>::setHeld(IKWUnknown* object) {
-    if (object != held.get())
-        held = Ref<IKWUnknown>::share(object);
+    if (object == held.get())
+        return 1;
+    const auto former = std::exchange(held, Ref<IKWUnknown>::take(object));
+    if (object)
+        object->AddRef();
     return 1;
-}
-
-std::int64_t CKWUnknownImpl<ICmdProcess>::internalRelease() {
-    const std::int64_t left = --refCount;
-    if (left == 0)
-        delete this;
-    return left;
 }
 
 // ICmdRun is not answered: that is meant.
 int CKWUnknownImpl<ICmdProcess>::internalQueryInterface(const std::type_info& type, void** out) {
-    const bool known = isInterface(type, typeid(IKWUnknown)) || isInterface(type, typeid(ICmdProcess));
-    if (out)
-        *out = known ? static_cast<ICmdProcess*>(this) : nullptr;
-    if (known && out)
-        AddRef();
-    return known ? 1 : 0;
+    return answer<IKWUnknown>(type, out) || answer<ICmdProcess>(type, out);
 }

@@ -17,13 +17,8 @@ public:
     virtual int setHeld(IKWUnknown* object) = 0;
 };
 
-template <> class CKWUnknownImpl<ICmdProcess> : public ICmdProcess {
+template <> class CKWUnknownImpl<ICmdProcess> : public CKWCounted<ICmdProcess> {
 public:
-    std::int64_t AddRef() override { return internalAddRef(); }
-    std::int64_t Release() override { return internalRelease(); }
-    int QueryInterface(const std::type_info& type, void** out) override {
-        return internalQueryInterface(type, out);
-    }
     std::int32_t getStatus() override { return status; }
     int constantZero() override { return 0; }
     int enableQuery() override { return 1; }
@@ -31,12 +26,8 @@ public:
     int setHeld(IKWUnknown* object) override;
 
 protected:
-    virtual ~CKWUnknownImpl() = default;
-    virtual std::int64_t internalAddRef() { return ++refCount; }
-    virtual std::int64_t internalRelease();
-    virtual int internalQueryInterface(const std::type_info& type, void** out);
+    int internalQueryInterface(const std::type_info& type, void** out) override;
 
-    std::int64_t refCount = 0;
     Ref<IKWUnknown> held;
     std::int32_t status = 0;
 };

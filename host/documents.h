@@ -40,6 +40,7 @@ public:
 };
 
 HostDocumentManager* HostDocManager();
+HostDocument* currentDocument(); // null when none is open, or there is no manager
 
 // Stores the context of the running command in the host; null clears it.
 void setCtx(OdEdCommandContext* ctx);

@@ -7,7 +7,8 @@ class IHelpService : public IKWUnknown {
 public:
     virtual void showTopic(const char* topicId) = 0;
 };
-IHelpService* Get_IHelpService(); // one reference for the caller, or null
+IHelpService* Get_IHelpService();   // one reference for the caller, or null
+void showHelp(const char* topicId); // nothing without a help service
 
 class IEvents : public IKWUnknown {
 public:

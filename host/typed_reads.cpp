@@ -50,11 +50,7 @@ int readValue(IParam* node, const char* name, CXString* out) {
 int readValue(IParam* node, const char* name, CXStringW* out) {
     CKWVariant value;
     value.vt = kVtWideString; // the request for wide text; whether one was found is told by the result alone
-    if (!fetch(node, name, value)) {
-        KWVariantInit(&value);
-        return 0;
-    }
-    if (value.vt == kVtEmpty)
+    if (!fetch(node, name, value) || value.vt == kVtEmpty)
         return 0;
     *out = wideTextOf(value);
     return out->isEmpty() ? 0 : 1;

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <cstring>
 #include <typeinfo>
 
 class IKWUnknown {
@@ -19,16 +18,12 @@ protected:
 };
 
 // Two libraries may carry a type_info of their own for one interface: equal names match, but for local types,
-// whose names begin with '*'.
-inline bool isInterface(const std::type_info& type, const std::type_info& wanted) {
-    const char* name = type.name();
-    return name == wanted.name() || (name[0] != '*' && std::strcmp(name, wanted.name()) == 0);
-}
+// which are only equal to themselves. std::type_info compares so; its name() hides the mark of a local type.
+inline bool isInterface(const std::type_info& type, const std::type_info& wanted) { return type == wanted; }
 
-// Counts references for an implementation of interface T and answers T and IKWUnknown. The count starts at 0.
-// AddRef, Release and QueryInterface only call their internal namesakes, so that a subclass may replace those
-// alone.
-template <class T> class CKWUnknownImpl : public T {
+// Counts references for an implementation of interface T, from 0. AddRef, Release and QueryInterface only
+// call their internal namesakes, so that a subclass may replace those alone.
+template <class T> class CKWCounted : public T {
 public:
     std::int64_t AddRef() override { return internalAddRef(); }
     std::int64_t Release() override { return internalRelease(); }
@@ -37,7 +32,7 @@ public:
     }
 
 protected:
-    virtual ~CKWUnknownImpl() = default;
+    virtual ~CKWCounted() = default;
     virtual std::int64_t internalAddRef() { return ++refCount; }
     virtual std::int64_t internalRelease() {
         const std::int64_t left = --refCount;
@@ -45,11 +40,7 @@ protected:
             delete this;
         return left;
     }
-    virtual int internalQueryInterface(const std::type_info& type, void** out) {
-        if (isInterface(type, typeid(IKWUnknown)))
-            return handOut(static_cast<IKWUnknown*>(this), out);
-        return answer<T>(type, out);
-    }
+    virtual int internalQueryInterface(const std::type_info& type, void** out) = 0;
 
     // One branch of internalQueryInterface: hands out this object as I when I is what is asked for.
     template <class I> int answer(const std::type_info& type, void** out) {
@@ -69,4 +60,12 @@ private:
         return 1;
     }
     std::int64_t refCount = 0;
+};
+
+// The common implementation: answers T and IKWUnknown.
+template <class T> class CKWUnknownImpl : public CKWCounted<T> {
+protected:
+    int internalQueryInterface(const std::type_info& type, void** out) override {
+        return this->template answer<IKWUnknown>(type, out) || this->template answer<T>(type, out);
+    }
 };

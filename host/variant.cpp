@@ -2,15 +2,16 @@
 #include "host/variant.h"
 
 #include "host/unknown.h"
+#include "sdk/rx/alloc.h"
 
-#include <cstdlib>
+#include <cstring>
 #include <cwchar>
 #include <new>
 
 namespace {
 
 template <class Char> Char* copyText(const Char* text, std::size_t length) {
-    auto* copy = static_cast<Char*>(std::malloc((length + 1) * sizeof(Char)));
+    auto* copy = static_cast<Char*>(odrxAlloc((length + 1) * sizeof(Char)));
     if (!copy)
         throw std::bad_alloc();
     std::memcpy(copy, text, length * sizeof(Char));
@@ -26,9 +27,9 @@ void KWVariantInit(tagKWVARIANT* variant) { std::memset(static_cast<void*>(varia
 
 void KWVariantClear(tagKWVARIANT* variant) {
     if (variant->vt == kVtString)
-        std::free(variant->text);
+        odrxFree(variant->text);
     else if (variant->vt == kVtWideString)
-        std::free(variant->wideText);
+        odrxFree(variant->wideText);
     else if (variant->vt == kVtUnknown && variant->unknown)
         variant->unknown->Release();
     KWVariantInit(variant);

@@ -2,13 +2,13 @@
 // spelled twice.
 #include "host/xstring.h"
 
+#include "sdk/rx/alloc.h"
 #include "sdk/rx/od_string.h"
 
 #include <QLocale>
 #include <QString>
 #include <cstdarg>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <cwchar>
 #include <new>
@@ -33,7 +33,7 @@ wchar_t* sharedEmpty(wchar_t) { return emptyWideText; }
 template <class Char> Char* copyOf(const Char* text, std::size_t length) {
     if (!text || length == 0)
         return sharedEmpty(Char());
-    auto* copy = static_cast<Char*>(std::malloc((length + 1) * sizeof(Char)));
+    auto* copy = static_cast<Char*>(odrxAlloc((length + 1) * sizeof(Char)));
     if (!copy)
         throw std::bad_alloc();
     std::memcpy(copy, text, length * sizeof(Char));
@@ -45,7 +45,7 @@ template <class Char> Char* copyOf(const Char* text) { return copyOf(text, text 
 
 template <class Char> void destroy(Char* buffer) {
     if (buffer != sharedEmpty(Char()))
-        std::free(buffer);
+        odrxFree(buffer);
 }
 
 template <class Char> void replace(Char*& buffer, Char* with) {

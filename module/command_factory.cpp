@@ -10,6 +10,8 @@
 #include "groups/group_cmd.h"
 #include "xref/attach_command.h"
 
+#include <cstring>
+
 namespace {
 
 template <class Command> ICmdProcess* make() { return Ref<Command>::share(new Command).detach(); }

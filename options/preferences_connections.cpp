@@ -8,15 +8,6 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
-namespace {
-
-void showHelp() {
-    if (const auto help = Ref<IHelpService>::take(Get_IHelpService()))
-        help->showTopic("IDH_PreferencesCMD");
-}
-
-} // namespace
-
 void Preferences::connectAll() {
     connect(tree, &QTreeWidget::itemExpanded, this, &Preferences::onItemExpanded, Qt::DirectConnection);
     connect(tree, &QTreeWidget::currentItemChanged, this, &Preferences::onCurrentItemChanged,
@@ -40,5 +31,5 @@ void Preferences::connectButtons() {
     onClicked(downButton, [this] { moveCurrent(1); });
     connect(hostGetQtStyleManager()->themeWatcher(), &hostui::qt::style::hostQtThemeChangeWatcher::clicked,
             this, &Preferences::onThemeClicked, Qt::DirectConnection);
-    onClicked(helpButton, [] { showHelp(); });
+    onClicked(helpButton, [] { showHelp("IDH_PreferencesCMD"); });
 }

@@ -17,7 +17,7 @@ QWidget* firstTopLevelWidget() {
 } // namespace
 
 int QPREF::Run(IParam*) {
-    if (!HostDocManager()->currentDocument())
+    if (!currentDocument())
         return 0;
     Preferences preferences(firstTopLevelWidget());
     preferences.setWindowFlags(Qt::Window | Qt::WindowCloseButtonHint);

@@ -8,16 +8,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-namespace {
-
-void showHelp() {
-    const Ref<IHelpService> help = Ref<IHelpService>::take(Get_IHelpService());
-    if (help)
-        help->showTopic("IDH_xattach");
-}
-
-} // namespace
-
 void hostInsertExternalReferenceDialog::connectSignals() {
     using Dialog = hostInsertExternalReferenceDialog;
     connect(nameCombo, QOverload<int>::of(&QComboBox::activated), this, [this] {
@@ -57,7 +47,7 @@ void hostInsertExternalReferenceDialog::connectButtons() {
     using Dialog = hostInsertExternalReferenceDialog;
     connect(okButton, &QPushButton::clicked, this, &Dialog::onOK);
     connect(cancelButton, &QPushButton::clicked, this, &Dialog::reject);
-    connect(helpButton, &QPushButton::clicked, this, &showHelp);
+    connect(helpButton, &QPushButton::clicked, this, [] { showHelp("IDH_xattach"); });
 }
 
 void hostInsertExternalReferenceDialog::setEnabledStates() {

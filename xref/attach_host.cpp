@@ -7,18 +7,13 @@
 
 namespace attach {
 
-HostDocument* document() {
-    HostDocumentManager* const manager = HostDocManager();
-    return manager ? manager->currentDocument() : nullptr;
-}
-
 OdDbDatabasePtr database() {
-    HostDocument* const current = document();
+    HostDocument* const current = currentDocument();
     return current ? current->database() : OdDbDatabasePtr();
 }
 
 HostCommandIO* io() {
-    HostDocument* const current = document();
+    HostDocument* const current = currentDocument();
     if (current)
         return current->commandIO();
     HostDocumentManager* const manager = HostDocManager();
@@ -26,7 +21,7 @@ HostCommandIO* io() {
 }
 
 QString documentFile() {
-    HostDocument* const current = document();
+    HostDocument* const current = currentDocument();
     return current ? hostqt::qString(current->fileName()) : QString();
 }
 

@@ -13,7 +13,6 @@ enum { kNoticeCancelled = 2 };
 
 namespace attach {
 
-HostDocument* document();           // null when none is open
 OdDbDatabasePtr database();         // null without a document
 HostCommandIO* io();                // the document's, or the manager's own one
 QString documentFile();             // empty for a drawing that was never saved

@@ -10,8 +10,7 @@ namespace standin {
 namespace {
 
 OdSmartPtr<OdDbDatabase> currentDatabaseObject() {
-    HostDocumentManager* documents = HostDocManager();
-    HostDocument* document = documents ? documents->currentDocument() : nullptr;
+    HostDocument* document = currentDocument();
     return document ? document->database() : OdSmartPtr<OdDbDatabase>();
 }
 

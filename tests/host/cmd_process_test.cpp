@@ -2,6 +2,7 @@
 // answers.
 #include "host/cmd_process.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace {
@@ -26,6 +27,28 @@ public:
 
 private:
     bool& gone;
+};
+
+// Asks the command for its held object while it is counted itself.
+class AskingWhenCounted : public Held {
+public:
+    AskingWhenCounted(bool& goneFlag, ICmdProcess& askedCommand) : Held(goneFlag), command(askedCommand) {}
+    bool isHeldNow = false;
+    std::function<void()> whenCounted;
+
+protected:
+    std::int64_t internalAddRef() override {
+        if (whenCounted) {
+            std::exchange(whenCounted, nullptr)();
+            IKWUnknown* given = nullptr;
+            isHeldNow = command.getHeld(&given) != 0 && given == this;
+            Ref<IKWUnknown>::take(given);
+        }
+        return Held::internalAddRef();
+    }
+
+private:
+    ICmdProcess& command;
 };
 
 // Replaces the internal operations alone.
@@ -121,6 +144,19 @@ TEST_F(CommandObject, LetsTheOldObjectGoWhenItTakesANewOneOrNone) {
     EXPECT_TRUE(nextGone);
     IKWUnknown* out = nullptr;
     EXPECT_EQ(command->getHeld(&out), 0);
+}
+
+TEST_F(CommandObject, StoresANewObjectBeforeItIsCountedAndLetsTheOldOneGoAfterThat) {
+    bool nextGone = false, goneTooEarly = true;
+    command->setHeld(new Held(gone));
+    const auto next = Ref<AskingWhenCounted>::share(new AskingWhenCounted(nextGone, *command));
+    next->whenCounted = [&] { goneTooEarly = gone; };
+    command->setHeld(next.get());
+    EXPECT_TRUE(next->isHeldNow);
+    EXPECT_FALSE(goneTooEarly);
+    EXPECT_TRUE(gone);
+    EXPECT_EQ(next->AddRef(), 3) << "the command's reference and the test's own two";
+    next->Release();
 }
 
 TEST_F(CommandObject, LetsItsObjectGoWhenItGoesItself) {

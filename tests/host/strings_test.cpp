@@ -1,6 +1,8 @@
 // The host's two string classes and the conversions between the texts of host, Qt and drawing.
 #include "host/text.h"
 
+#include "sdk/rx/alloc.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -10,6 +12,19 @@ TEST(CXStringTest, AnEmptyStringHasABuffer) {
     EXPECT_STREQ(CXString(static_cast<const char*>(nullptr)).c_str(), "");
     EXPECT_STREQ(CXStringW().c_str(), L"");
     EXPECT_STREQ(CXStringW(static_cast<const wchar_t*>(nullptr)).c_str(), L"");
+}
+
+TEST(CXStringTest, TheirBuffersComeFromTheDrawingAllocator) {
+    const std::uint64_t taken = odrxAllocCount(), given = odrxFreeCount();
+    { const CXString narrow("abc"), wide(L"abc"); }
+    { const CXStringW narrow("abc"), wide(L"abc"); }
+    EXPECT_EQ(odrxAllocCount() - taken, 4u);
+    EXPECT_EQ(odrxFreeCount() - given, 4u);
+    { const CXStringW empty(L""); }
+    EXPECT_EQ(odrxAllocCount() - taken, 4u) << "an empty string takes no memory";
+    odrxFailAllocations(true);
+    EXPECT_THROW(CXString("abc"), std::bad_alloc);
+    odrxFailAllocations(false);
 }
 
 TEST(CXStringTest, WideAndNarrowConvertInTheLocalCodePage) {
@@ -118,6 +133,12 @@ TEST(TextConversionTest, EveryCharacterComesBackByItselfAndBesideOneOfTwoUnits) 
         ASSERT_EQ(hostqt::qString(alone.c_str()).toStdWString(), alone) << code;
         ASSERT_EQ(hostqt::qString(OdString(beside)).toStdWString(), beside) << code;
     }
+}
+
+// Qt's own conversion takes it for a mark of the byte order.
+TEST(TextConversionTest, ALeadingZeroWidthSpaceStaysAlsoBeforeACharacterOfTwoUnits) {
+    for (const wchar_t* const text : {L"\uFEFFa", L"\uFEFF\U0001F3E0", L"\uFEFF", L"\uFEFF\uFEFF\U0010FFFF"})
+        EXPECT_EQ(hostqt::qString(OdString(text)).toStdWString(), text);
 }
 
 TEST(TextConversionTest, WhatIsNoCharacterIsHarmless) {

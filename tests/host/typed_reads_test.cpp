@@ -1,6 +1,8 @@
 // The typed reads: what each accepts, and what becomes of the target otherwise.
 #include "host/typed_reads.h"
 
+#include "standin/params/mem_param.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -102,6 +104,29 @@ TEST_F(TypedReadsTest, AMissingOrEmptyValueLeavesTheWideTargetAlone) {
     setCode(0);
     EXPECT_FALSE(reads(&target));
     EXPECT_STREQ(target, L"before");
+}
+
+// A store that has put an object into the variant before it found that it can't answer.
+class FailingStore : public standin::ParamOf<IParam> {
+public:
+    using ParamOf::ParamOf;
+    int getValue(const char*, tagKWVARIANT* out) override {
+        *static_cast<CKWVariant*>(out) = given.get();
+        return 0;
+    }
+    Ref<IParam> given = Ref<IParam>::take(new_MemParam());
+};
+
+TEST_F(TypedReadsTest, AFailedReadLeavesNothingOfItsVariantBehind) {
+    FailingStore store;
+    int number = 4;
+    CXStringW text(L"before");
+    EXPECT_EQ(readValue(&store, "V", &number), 0);
+    EXPECT_EQ(readValue(&store, "V", &text), 0);
+    EXPECT_EQ(number, 4);
+    EXPECT_STREQ(text, L"before");
+    EXPECT_EQ(store.given->AddRef(), 2) << "the references that the variants held were given back";
+    store.given->Release();
 }
 
 TEST_F(TypedReadsTest, RecordsAreReadFromTheirOwnCodeOnly) {

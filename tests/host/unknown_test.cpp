@@ -56,6 +56,22 @@ TEST(UnknownTest, AnUnknownInterfaceStoresNull) {
     EXPECT_EQ(found, nullptr);
 }
 
+// Type information as another library, or a local class of it, has it under a name.
+class TypeInfoOfAnother : public std::type_info {
+public:
+    explicit TypeInfoOfAnother(const char* markedName) : std::type_info(markedName) {}
+};
+
+TEST(UnknownTest, AnEqualNameFromAnotherLibraryMatchesButNotThatOfALocalType) {
+    const auto entry = Ref<Entry>::share(new Entry);
+    const std::string name = typeid(IStdDirInfo).name();
+    const std::string markedName = "*" + name;
+    const TypeInfoOfAnother library(name.c_str()), local(markedName.c_str());
+    EXPECT_STREQ(local.name(), name.c_str()) << "the mark of a local type does not show in its name";
+    EXPECT_EQ(entry->QueryInterface(library, nullptr), 1);
+    EXPECT_EQ(entry->QueryInterface(local, nullptr), 0);
+}
+
 TEST(UnknownTest, AReferenceCountsThroughCopiesAndMoves) {
     bool gone = false;
     auto first = Ref<IStdDirInfo>::share(new Entry(&gone));
@@ -112,6 +128,24 @@ TEST(HostFunctionsTest, HelpNoticesAndBoxesReachTheHost) {
     EXPECT_EQ(host.notices().at(0).kind, 12);
     EXPECT_EQ(host.messages.at(0).buttons, EV_MB_YES | EV_MB_NO);
     EXPECT_EQ(host.messages.at(1).kind, standin::MessageKind::Critical);
+}
+
+TEST(HostFunctionsTest, HelpIsShownOrWithoutAServicePassedOver) {
+    FixtureHost host;
+    showHelp("IDH_X");
+    EXPECT_EQ(host.helpTopics(), QStringList{QStringLiteral("IDH_X")});
+    standin::registry().help = nullptr;
+    showHelp("IDH_Y");
+    EXPECT_EQ(host.helpTopics(), QStringList{QStringLiteral("IDH_X")});
+}
+
+TEST(HostFunctionsTest, TheCurrentDocumentIsNullWithoutAManagerOrADocument) {
+    FixtureHost host;
+    EXPECT_EQ(currentDocument(), nullptr);
+    const HostDocument* const opened = &host.openDocument();
+    EXPECT_EQ(currentDocument(), opened);
+    standin::registry().documents = nullptr;
+    EXPECT_EQ(currentDocument(), nullptr);
 }
 
 TEST(HostFunctionsTest, AChangeOfThemeIsToldToTheWatcher) {

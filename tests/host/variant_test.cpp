@@ -2,6 +2,7 @@
 #include "host/variant.h"
 
 #include "host/ref.h"
+#include "sdk/rx/alloc.h"
 
 #include <cstddef>
 #include <gtest/gtest.h>
@@ -88,6 +89,18 @@ TEST(VariantTest, AnObjectIsHeldUntilTheLastVariantLetsGo) {
     EXPECT_FALSE(gone);
     copy = 5;
     EXPECT_TRUE(gone);
+}
+
+TEST(VariantTest, ItsTextsComeFromTheDrawingAllocator) {
+    const std::uint64_t taken = odrxAllocCount(), given = odrxFreeCount();
+    {
+        CKWVariant narrow, wide;
+        narrow = "abc";
+        wide = L"abc";
+        const CKWVariant copy(wide);
+    }
+    EXPECT_EQ(odrxAllocCount() - taken, 3u);
+    EXPECT_EQ(odrxFreeCount() - given, 3u);
 }
 
 TEST(VariantTest, ClearingTwiceIsHarmless) {
