@@ -13,14 +13,9 @@ ODRX_DEFINE_CLASS_WITH_MAKER(OdDbBlockReference, OdDbEntity)
 
 namespace {
 
+// An array of references has a marker of its own, but the same tags.
 constexpr std::string_view kMarker = "AcDbBlockReference";
 constexpr double kDegree = M_PI / 180;
-
-// A reference array has a marker of its own, but the same tags.
-DxfTagList::Range ownRange(const DxfTagList& content) {
-    const DxfTagList::Range range = content.subclass(kMarker);
-    return range.begin == range.end ? content.subclass("AcDbMInsertBlock") : range;
-}
 
 } // namespace
 
@@ -31,19 +26,11 @@ OdDbBlockReference::OdDbBlockReference() {
 }
 
 OdString OdDbBlockReference::blockName() const {
-    const std::size_t found = content.find(2, ownRange(content));
+    const std::size_t found = content.find(kMarker, 2);
     return found == DxfTagList::npos ? OdString() : codec().decode(content[found].value());
 }
 
-void OdDbBlockReference::setBlockName(const OdString& name) {
-    const std::string text = codec().encode(name);
-    DxfTagList& tags = edit();
-    const std::size_t found = tags.find(2, ownRange(tags));
-    if (found != DxfTagList::npos)
-        tags.replace(found, text);
-    else
-        tags.insert(ownRange(tags).begin, 2, text);
-}
+void OdDbBlockReference::setBlockName(const OdString& name) { edit().set(kMarker, 2, codec().encode(name)); }
 
 OdDbObjectId OdDbBlockReference::blockTableRecord() const {
     if (!database())
@@ -64,17 +51,14 @@ void OdDbBlockReference::enteredDatabase() {
         setBlockName(odrxCast<OdDbBlockTableRecord>(pendingBlock.openObject())->getName());
 }
 
-OdGePoint3d OdDbBlockReference::position() const {
-    return planeToWorld() * content.point(ownRange(content), 10);
-}
+OdGePoint3d OdDbBlockReference::position() const { return planeToWorld() * content.point(kMarker, 10); }
 
 void OdDbBlockReference::setPosition(const OdGePoint3d& point) {
     edit().setPoint(kMarker, 10, OdGeMatrix3d::worldToPlane(normal()) * point);
 }
 
 OdGeScale3d OdDbBlockReference::scaleFactors() const {
-    const DxfTagList::Range range = ownRange(content);
-    return {content.real(range, 41, 1), content.real(range, 42, 1), content.real(range, 43, 1)};
+    return {content.real(kMarker, 41, 1), content.real(kMarker, 42, 1), content.real(kMarker, 43, 1)};
 }
 
 void OdDbBlockReference::setScaleFactors(const OdGeScale3d& factors) {
@@ -85,20 +69,20 @@ void OdDbBlockReference::setScaleFactors(const OdGeScale3d& factors) {
         edit().set(kMarker, 41 + axis, dxfText(parts[axis]));
 }
 
-double OdDbBlockReference::rotation() const { return content.real(ownRange(content), 50) * kDegree; }
+double OdDbBlockReference::rotation() const { return content.real(kMarker, 50) * kDegree; }
 
 void OdDbBlockReference::setRotation(double angle) { edit().set(kMarker, 50, dxfText(angle / kDegree)); }
 
 int OdDbBlockReference::columnCount() const {
-    return static_cast<int>(std::clamp<std::int64_t>(content.integer(ownRange(content), 70, 1), 1, 32767));
+    return static_cast<int>(std::clamp<std::int64_t>(content.integer(kMarker, 70, 1), 1, 32767));
 }
 
 int OdDbBlockReference::rowCount() const {
-    return static_cast<int>(std::clamp<std::int64_t>(content.integer(ownRange(content), 71, 1), 1, 32767));
+    return static_cast<int>(std::clamp<std::int64_t>(content.integer(kMarker, 71, 1), 1, 32767));
 }
 
-double OdDbBlockReference::columnSpacing() const { return content.real(ownRange(content), 44); }
-double OdDbBlockReference::rowSpacing() const { return content.real(ownRange(content), 45); }
+double OdDbBlockReference::columnSpacing() const { return content.real(kMarker, 44); }
+double OdDbBlockReference::rowSpacing() const { return content.real(kMarker, 45); }
 
 OdGeMatrix3d OdDbBlockReference::blockTransform(int row, int column) const {
     const auto block = odrxQuery<OdDbBlockTableRecord>(blockTableRecord().openObject().get());

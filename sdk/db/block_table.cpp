@@ -97,7 +97,7 @@ void OdDbBlockTableRecord::setName(const OdString& name) {
 
 OdGePoint3d OdDbBlockTableRecord::origin() const {
     const OdDbEntityPtr begin = beginOf(*this);
-    return begin.isNull() ? OdGePoint3d() : begin->tags().point(begin->tags().subclass(kBegin), kBase);
+    return begin.isNull() ? OdGePoint3d() : begin->tags().point(kBegin, kBase);
 }
 
 void OdDbBlockTableRecord::setOrigin(const OdGePoint3d& point) {
@@ -117,8 +117,7 @@ void OdDbBlockTableRecord::setPathName(const OdString& path) {
 
 int OdDbBlockTableRecord::blockFlags() const {
     const OdDbEntityPtr begin = beginOf(*this);
-    return begin.isNull() ? 0
-                          : static_cast<int>(begin->tags().integer(begin->tags().subclass(kBegin), kFlags));
+    return begin.isNull() ? 0 : static_cast<int>(begin->tags().integer(kBegin, kFlags));
 }
 
 void OdDbBlockTableRecord::setBlockFlags(int flags) {
@@ -127,7 +126,7 @@ void OdDbBlockTableRecord::setBlockFlags(int flags) {
 }
 
 OdDb::UnitsValue OdDbBlockTableRecord::blockInsertUnits() const {
-    return static_cast<OdDb::UnitsValue>(content.integer(content.subclass(kRecord), kUnits));
+    return static_cast<OdDb::UnitsValue>(content.integer(kRecord, kUnits));
 }
 
 void OdDbBlockTableRecord::setBlockInsertUnits(OdDb::UnitsValue units) {

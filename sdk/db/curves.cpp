@@ -26,7 +26,7 @@ OdDbPoint::OdDbPoint() {
     startEntity("POINT", kPoint);
     content.setPoint(kPoint, 10, {});
 }
-OdGePoint3d OdDbPoint::position() const { return content.point(content.subclass(kPoint), 10); }
+OdGePoint3d OdDbPoint::position() const { return content.point(kPoint, 10); }
 void OdDbPoint::setPosition(const OdGePoint3d& point) { edit().setPoint(kPoint, 10, point); }
 void OdDbPoint::addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const {
     extents.addPoint(toWorld * position());
@@ -37,8 +37,8 @@ OdDbLine::OdDbLine() {
     content.setPoint(kLine, 10, {});
     content.setPoint(kLine, 11, {});
 }
-OdGePoint3d OdDbLine::startPoint() const { return content.point(content.subclass(kLine), 10); }
-OdGePoint3d OdDbLine::endPoint() const { return content.point(content.subclass(kLine), 11); }
+OdGePoint3d OdDbLine::startPoint() const { return content.point(kLine, 10); }
+OdGePoint3d OdDbLine::endPoint() const { return content.point(kLine, 11); }
 void OdDbLine::setStartPoint(const OdGePoint3d& point) { edit().setPoint(kLine, 10, point); }
 void OdDbLine::setEndPoint(const OdGePoint3d& point) { edit().setPoint(kLine, 11, point); }
 void OdDbLine::addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const {
@@ -51,8 +51,8 @@ OdDbCircle::OdDbCircle() {
     content.setPoint(kCircle, 10, {});
     content.append(40, "1.0");
 }
-OdGePoint3d OdDbCircle::center() const { return content.point(content.subclass(kCircle), 10); }
-double OdDbCircle::radius() const { return content.real(content.subclass(kCircle), 40); }
+OdGePoint3d OdDbCircle::center() const { return content.point(kCircle, 10); }
+double OdDbCircle::radius() const { return content.real(kCircle, 40); }
 void OdDbCircle::setCenter(const OdGePoint3d& point) { edit().setPoint(kCircle, 10, point); }
 void OdDbCircle::setRadius(double radius) { edit().set(kCircle, 40, dxfText(radius)); }
 void OdDbCircle::addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const {
@@ -67,10 +67,10 @@ OdDbArc::OdDbArc() {
     content.append(50, "0.0");
     content.append(51, "90.0");
 }
-OdGePoint3d OdDbArc::center() const { return content.point(content.subclass(kCircle), 10); }
-double OdDbArc::radius() const { return content.real(content.subclass(kCircle), 40); }
-double OdDbArc::startAngle() const { return content.real(content.subclass(kArc), 50) * kDegree; }
-double OdDbArc::endAngle() const { return content.real(content.subclass(kArc), 51) * kDegree; }
+OdGePoint3d OdDbArc::center() const { return content.point(kCircle, 10); }
+double OdDbArc::radius() const { return content.real(kCircle, 40); }
+double OdDbArc::startAngle() const { return content.real(kArc, 50) * kDegree; }
+double OdDbArc::endAngle() const { return content.real(kArc, 51) * kDegree; }
 void OdDbArc::setCenter(const OdGePoint3d& point) { edit().setPoint(kCircle, 10, point); }
 void OdDbArc::setRadius(double radius) { edit().set(kCircle, 40, dxfText(radius)); }
 void OdDbArc::setStartAngle(double angle) { edit().set(kArc, 50, dxfText(angle / kDegree)); }
@@ -79,16 +79,14 @@ void OdDbArc::addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) co
     odDbAddArcExtents(extents, toWorld * planeToWorld(), center(), radius(), startAngle(), endAngle());
 }
 
-OdGePoint3d OdDbEllipse::center() const { return content.point(content.subclass(kEllipse), 10); }
-OdGeVector3d OdDbEllipse::majorAxis() const {
-    return content.point(content.subclass(kEllipse), 11).asVector();
-}
+OdGePoint3d OdDbEllipse::center() const { return content.point(kEllipse, 10); }
+OdGeVector3d OdDbEllipse::majorAxis() const { return content.point(kEllipse, 11).asVector(); }
 OdGeVector3d OdDbEllipse::minorAxis() const {
-    const double ratio = content.real(content.subclass(kEllipse), 40, 1);
+    const double ratio = content.real(kEllipse, 40, 1);
     return normal().normal().crossProduct(majorAxis()) * ratio;
 }
-double OdDbEllipse::startParam() const { return content.real(content.subclass(kEllipse), 41); }
-double OdDbEllipse::endParam() const { return content.real(content.subclass(kEllipse), 42, 2 * M_PI); }
+double OdDbEllipse::startParam() const { return content.real(kEllipse, 41); }
+double OdDbEllipse::endParam() const { return content.real(kEllipse, 42, 2 * M_PI); }
 void OdDbEllipse::addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const {
     OdGeMatrix3d unitCircle;
     unitCircle.setCoordSystem(center(), majorAxis(), minorAxis(), normal());

@@ -5,6 +5,8 @@
 #include "sdk/db/database_impl.h"
 #include "sdk/db/symbol_table.h"
 
+#include <algorithm>
+
 ODRX_DEFINE_CLASS_WITH_MAKER(OdDbEntity, OdDbObject)
 
 namespace {
@@ -16,7 +18,18 @@ constexpr int kTrueColor = 420;
 constexpr int kInvisible = 60;
 constexpr int kPaperSpace = 67;
 constexpr int kNormal = 210;
-constexpr int kExtendedData = 1000;
+
+// Codes of common properties that mean something else in the part of this kind's own.
+struct OwnUse {
+    std::string_view name;
+    int code;
+};
+constexpr OwnUse ownUses[] = {{"MTEXT", 48}, {"MTEXT", 420}, {"MTEXT", 430}, {"MTEXT", 440}};
+
+bool isOwnUse(std::string_view name, int code) {
+    return std::any_of(std::begin(ownUses), std::end(ownUses),
+                       [&](const OwnUse& use) { return use.code == code && use.name == name; });
+}
 } // namespace
 
 void OdDbEntity::startEntity(std::string_view name, std::string_view marker) {
@@ -24,6 +37,17 @@ void OdDbEntity::startEntity(std::string_view name, std::string_view marker) {
     content.append(100, kMarker);
     content.append(kLayer, "0");
     content.append(100, marker);
+}
+
+std::size_t OdDbEntity::commonTag(int code) const {
+    const std::size_t found = content.find(kMarker, code);
+    const bool elsewhere = found != DxfTagList::npos && found >= content.endOf(kMarker);
+    return elsewhere && isOwnUse(content[0].value(), code) ? DxfTagList::npos : found;
+}
+
+std::int64_t OdDbEntity::commonInteger(int code, std::int64_t otherwise) const {
+    const std::size_t found = commonTag(code);
+    return found == DxfTagList::npos ? otherwise : dxfInteger(content[found].value());
 }
 
 OdString OdDbEntity::layer() const {
@@ -40,25 +64,28 @@ OdDbObjectId OdDbEntity::layerId() const {
     return layers.isNull() ? OdDbObjectId() : layers->getAt(layer());
 }
 
-int OdDbEntity::colorIndex() const {
-    return static_cast<int>(content.integer(content.subclass(kMarker), kColor, kByLayer));
-}
+int OdDbEntity::colorIndex() const { return static_cast<int>(commonInteger(kColor, kByLayer)); }
 
 void OdDbEntity::setColorIndex(int index) {
     edit().set(kMarker, kColor, dxfText(std::int64_t{index}));
-    content.remove(kMarker, kTrueColor);
+    const std::size_t trueColorTag = commonTag(kTrueColor);
+    if (trueColorTag != DxfTagList::npos)
+        content.erase(trueColorTag);
 }
 
-bool OdDbEntity::hasTrueColor() const {
-    return content.find(kTrueColor, content.subclass(kMarker)) != DxfTagList::npos;
-}
+bool OdDbEntity::hasTrueColor() const { return commonTag(kTrueColor) != DxfTagList::npos; }
 
 std::uint32_t OdDbEntity::trueColor() const {
-    return static_cast<std::uint32_t>(content.integer(content.subclass(kMarker), kTrueColor)) & 0xFFFFFFu;
+    return static_cast<std::uint32_t>(commonInteger(kTrueColor)) & 0xFFFFFFu;
 }
 
 void OdDbEntity::setTrueColor(std::uint32_t rgb) {
-    edit().set(kMarker, kTrueColor, dxfText(std::int64_t{rgb}));
+    const std::string text = dxfText(std::int64_t{rgb});
+    const std::size_t found = commonTag(kTrueColor);
+    if (found == DxfTagList::npos)
+        edit().insert(content.endOf(kMarker), kTrueColor, text);
+    else
+        edit().replace(found, text);
 }
 
 OdString OdDbEntity::linetype() const {
@@ -66,17 +93,15 @@ OdString OdDbEntity::linetype() const {
     return name.isEmpty() ? OdString(L"ByLayer") : name;
 }
 
-bool OdDbEntity::isVisible() const { return content.integer(content.subclass(kMarker), kInvisible) == 0; }
-
-bool OdDbEntity::isInPaperSpace() const {
-    return content.integer(content.subclass(kMarker), kPaperSpace) != 0;
-}
+bool OdDbEntity::isVisible() const { return commonInteger(kInvisible) == 0; }
+bool OdDbEntity::isInPaperSpace() const { return commonInteger(kPaperSpace) != 0; }
 
 OdGeVector3d OdDbEntity::normal() const {
     // The last one: an entity's own part comes behind the common one.
-    for (std::size_t i = content.size(); i-- > 0;)
+    const std::size_t end = content.own().end;
+    for (std::size_t i = end; i-- > 0;)
         if (content[i].code == kNormal)
-            return content.point({i, content.size()}, kNormal).asVector();
+            return content.point({i, end}, kNormal).asVector();
     return OdGeVector3d::kZAxis;
 }
 
@@ -87,9 +112,7 @@ void OdDbEntity::setNormal(const OdGeVector3d& value) {
         if (found != DxfTagList::npos)
             tags.erase(found);
     }
-    std::size_t place = 0;
-    while (place < tags.size() && tags[place].code < kExtendedData)
-        ++place;
+    std::size_t place = tags.own().end;
     const double parts[] = {value.x, value.y, value.z};
     for (int axis = 0; axis < 3; ++axis)
         tags.insert(place++, kNormal + 10 * axis, dxfText(parts[axis]));

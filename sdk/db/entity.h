@@ -12,6 +12,9 @@ class OdDbEntity : public OdDbObject {
 public:
     enum ColorIndex { kByBlock = 0, kByLayer = 256 };
 
+    // The place of a property that every entity has, by its code: in the common part, or else anywhere in the
+    // record where the code can't mean anything else. npos when there is none.
+    std::size_t commonTag(int code) const;
     OdString layer() const; // "0" where the file says nothing
     void setLayer(const OdString& name);
     OdDbObjectId layerId() const; // null when the layer is missing
@@ -38,6 +41,7 @@ public:
     virtual void addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const;
 
 protected:
+    std::int64_t commonInteger(int code, std::int64_t otherwise = 0) const;
     // Tags of a new entity: its name and the parts that every entity has, then the marker of its class.
     void startEntity(std::string_view name, std::string_view marker);
     OdGeMatrix3d planeToWorld() const { return OdGeMatrix3d::planeToWorld(normal()); }

@@ -94,7 +94,7 @@ void OdDbGroup::setTag(int code, std::string_view value) {
     DxfTagList tag = content.part({0, 0});
     tag.append(code, value);
     if (found == DxfTagList::npos)
-        splice(content.subclass(kMarker).end, 0, std::move(tag));
+        splice(content.endOf(kMarker), 0, std::move(tag));
     else
         splice(found, 1, std::move(tag));
 }
@@ -247,7 +247,7 @@ void OdDbGroup::append(const OdDbObjectIdArray& ids) {
     for (const OdDbObjectId id : ids)
         if (present.insert(id.getStub()).second)
             joining.push_back(id.getStub());
-    splice(content.subclass(kMarker).end, 0, memberTagsOf(content, joining));
+    splice(content.endOf(kMarker), 0, memberTagsOf(content, joining));
     if (!database()) // where handles lead nowhere
         std::copy(joining.begin(), joining.end(),
                   members.end() - static_cast<std::ptrdiff_t>(joining.size()));

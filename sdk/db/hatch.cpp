@@ -38,11 +38,11 @@ void readPatternTag(OdDbHatch::PatternLines& lines, int code, double number) {
 } // namespace
 
 OdDbHatch::Style OdDbHatch::style() const {
-    const std::int64_t number = content.integer(content.subclass(kHatch), kStyle);
+    const std::int64_t number = content.integer(kHatch, kStyle);
     return number == kOutermost || number == kIgnoreInner ? static_cast<Style>(number) : kNormal;
 }
 
-bool OdDbHatch::isSolidFill() const { return content.integer(content.subclass(kHatch), 70) == 1; }
+bool OdDbHatch::isSolidFill() const { return content.integer(kHatch, 70) == 1; }
 
 OdString OdDbHatch::patternName() const { return textValue(kHatch, 2); }
 
@@ -65,7 +65,7 @@ std::vector<OdDbHatch::PatternLines> OdDbHatch::patternLines() const {
 
 // The first point of a hatch tells its height over the plane and nothing else.
 OdGeMatrix3d OdDbHatch::loopToWorld() const {
-    return planeToWorld() * OdGeMatrix3d::translation({0, 0, content.real(content.subclass(kHatch), 30)});
+    return planeToWorld() * OdGeMatrix3d::translation({0, 0, content.real(kHatch, 30)});
 }
 
 void OdDbHatch::addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const {

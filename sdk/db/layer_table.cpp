@@ -86,19 +86,15 @@ void OdDbLayerTableRecord::setName(const OdString& name) {
     renameCurrentLayer(database()->impl(), formerKey, name);
 }
 
-bool OdDbLayerTableRecord::flag(int bit) const {
-    return content.integer(content.subclass(kLayer), kFlags) & bit;
-}
+bool OdDbLayerTableRecord::flag(int bit) const { return content.integer(kLayer, kFlags) & bit; }
 
 void OdDbLayerTableRecord::setFlag(int bit, bool on) {
-    const std::int64_t flags = content.integer(content.subclass(kLayer), kFlags);
+    const std::int64_t flags = content.integer(kLayer, kFlags);
     edit().set(kLayer, kFlags, dxfText(on ? flags | bit : flags & ~std::int64_t{bit}));
 }
 
 // A layer that is off has its colour number below zero.
-bool OdDbLayerTableRecord::isOff() const {
-    return content.integer(content.subclass(kLayer), kColor, kWhite) < 0;
-}
+bool OdDbLayerTableRecord::isOff() const { return content.integer(kLayer, kColor, kWhite) < 0; }
 
 void OdDbLayerTableRecord::setIsOff(bool off) {
     const std::int64_t color = colorIndex();
@@ -111,7 +107,7 @@ bool OdDbLayerTableRecord::isLocked() const { return flag(kLocked); }
 void OdDbLayerTableRecord::setIsLocked(bool locked) { setFlag(kLocked, locked); }
 
 int OdDbLayerTableRecord::colorIndex() const {
-    const std::int64_t color = std::llabs(content.integer(content.subclass(kLayer), kColor, kWhite));
+    const std::int64_t color = std::llabs(content.integer(kLayer, kColor, kWhite));
     return color >= 1 && color <= 255 ? static_cast<int>(color) : kWhite;
 }
 
@@ -122,11 +118,11 @@ void OdDbLayerTableRecord::setColorIndex(int index) {
 }
 
 bool OdDbLayerTableRecord::hasTrueColor() const {
-    return content.find(kTrueColor, content.subclass(kLayer)) != DxfTagList::npos;
+    return content.find(kLayer, kTrueColor) != DxfTagList::npos;
 }
 
 std::uint32_t OdDbLayerTableRecord::trueColor() const {
-    return static_cast<std::uint32_t>(content.integer(content.subclass(kLayer), kTrueColor)) & 0xFFFFFFu;
+    return static_cast<std::uint32_t>(content.integer(kLayer, kTrueColor)) & 0xFFFFFFu;
 }
 
 OdString OdDbLayerTableRecord::linetype() const { return textValue(kLayer, 6); }
@@ -140,10 +136,8 @@ OdDbViewport::OdDbViewport() {
     content.append(69, "2");
 }
 
-int OdDbViewport::number() const {
-    return static_cast<int>(content.integer(content.subclass(kViewport), 69));
-}
+int OdDbViewport::number() const { return static_cast<int>(content.integer(kViewport, 69)); }
 void OdDbViewport::setNumber(int number) { edit().set(kViewport, 69, dxfText(std::int64_t{number})); }
-OdGePoint3d OdDbViewport::centerPoint() const { return content.point(content.subclass(kViewport), 10); }
-double OdDbViewport::width() const { return content.real(content.subclass(kViewport), 40); }
-double OdDbViewport::height() const { return content.real(content.subclass(kViewport), 41); }
+OdGePoint3d OdDbViewport::centerPoint() const { return content.point(kViewport, 10); }
+double OdDbViewport::width() const { return content.real(kViewport, 40); }
+double OdDbViewport::height() const { return content.real(kViewport, 41); }

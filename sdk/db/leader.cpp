@@ -18,9 +18,7 @@ std::vector<OdGePoint3d> OdDbLeader::vertices() const {
     return content.points(content.subclass(kLeader), kVertex);
 }
 
-bool OdDbLeader::hasArrowHead() const {
-    return content.integer(content.subclass(kLeader), kArrowFlag, 1) != 0;
-}
+bool OdDbLeader::hasArrowHead() const { return content.integer(kLeader, kArrowFlag, 1) != 0; }
 
 // A scale of 0 stands for one that depends on the view; the model space shows it as 1.
 double OdDbLeader::arrowSize() const {

@@ -14,6 +14,7 @@ namespace {
 constexpr std::string_view kMText = "AcDbMText";
 constexpr double kLetterWidth = 0.7; // of the height
 constexpr double kLineStep = 5.0 / 3.0;
+constexpr int kMostColumns = 1000;
 
 std::wstring plainPiece(const OdDbTextPiece& piece) {
     switch (piece.kind) {
@@ -75,21 +76,47 @@ OdString OdDbMText::plainText() const {
     return plain;
 }
 
-OdGePoint3d OdDbMText::location() const { return content.point(content.subclass(kMText), 10); }
-void OdDbMText::setLocation(const OdGePoint3d& point) { edit().setPoint(kMText, 10, point); }
-double OdDbMText::textHeight() const { return content.real(content.subclass(kMText), 40); }
-double OdDbMText::width() const { return content.real(content.subclass(kMText), 41); }
-
-int OdDbMText::attachment() const {
-    return static_cast<int>(content.integer(content.subclass(kMText), 71, 1));
+// The embedded object of a text with columns repeats the point and the direction, under other codes.
+OdGePoint3d OdDbMText::location() const {
+    const bool missing = content.find(kMText, 10) == DxfTagList::npos;
+    return missing ? content.point(content.embedded(), 11) : content.point(kMText, 10);
 }
 
+void OdDbMText::setLocation(const OdGePoint3d& point) { edit().setPoint(kMText, 10, point); }
+double OdDbMText::textHeight() const { return content.real(kMText, 40); }
+double OdDbMText::width() const { return content.real(kMText, 41); }
+
+int OdDbMText::attachment() const { return static_cast<int>(content.integer(kMText, 71, 1)); }
+
 double OdDbMText::rotation() const {
-    const DxfTagList::Range range = content.subclass(kMText);
-    if (content.find(11, range) == DxfTagList::npos)
-        return content.real(range, 50) * M_PI / 180;
-    const OdGePoint3d direction = content.point(range, 11);
+    OdGePoint3d direction{1, 0, 0};
+    if (content.find(kMText, 11) != DxfTagList::npos)
+        direction = content.point(kMText, 11);
+    else if (content.find(kMText, 50) != DxfTagList::npos)
+        return content.real(kMText, 50) * M_PI / 180;
+    else if (content.find(10, content.embedded()) != DxfTagList::npos)
+        direction = content.point(content.embedded(), 10);
     return std::atan2(direction.y, direction.x);
+}
+
+OdDbMText::Columns OdDbMText::columns() const {
+    const DxfTagList::Range range = content.embedded();
+    Columns result;
+    if (content.integer(range, 71) == 0)
+        return result;
+    result.width = content.real(range, 44);
+    result.gutter = content.real(range, 45);
+    result.height = content.real(range, 41);
+    for (std::size_t i = range.begin; i < range.end; ++i)
+        if (content[i].code == 46)
+            result.heights.push_back(dxfReal(content[i].value()));
+    // Columns that grow by themselves are not counted; their number follows from the width of all.
+    const double step = result.width + result.gutter;
+    const double fitting = step > 0 ? std::round((content.real(range, 42) + result.gutter) / step) : 1;
+    const std::int64_t counted = content.integer(range, 72);
+    const double count = counted > 0 ? static_cast<double>(counted) : fitting;
+    result.count = static_cast<int>(std::clamp<double>(count, 1, kMostColumns));
+    return result;
 }
 
 void OdDbMText::addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const {

@@ -89,7 +89,7 @@ const DxfCodec& OdDbObject::codec() const {
 }
 
 OdString OdDbObject::textValue(std::string_view subclassName, int code) const {
-    const std::size_t found = content.find(code, content.subclass(subclassName));
+    const std::size_t found = content.find(subclassName, code);
     return found == DxfTagList::npos ? OdString() : codec().decode(content[found].value());
 }
 

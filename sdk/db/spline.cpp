@@ -16,7 +16,7 @@ constexpr int kStartTangent = 12;
 constexpr int kEndTangent = 13;
 } // namespace
 
-bool OdDbSpline::isClosed() const { return content.integer(content.subclass(kSpline), kFlags) & kClosed; }
+bool OdDbSpline::isClosed() const { return content.integer(kSpline, kFlags) & kClosed; }
 
 std::vector<OdGePoint3d> OdDbSpline::points(int code) const {
     return content.points(content.subclass(kSpline), code);

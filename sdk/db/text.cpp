@@ -1,6 +1,8 @@
 // Single lines of text, and attributes, which are such lines too.
 #include "sdk/db/text.h"
 
+#include "sdk/dxf/codec.h"
+
 #include <cmath>
 
 ODRX_DEFINE_CLASS_WITH_MAKER(OdDbText, OdDbEntity)
@@ -24,28 +26,28 @@ OdDbText::OdDbText() : OdDbText("TEXT") {
 
 OdString OdDbText::textString() const { return textValue(kText, 1); }
 void OdDbText::setTextString(const OdString& text) { setTextValue(kText, 1, text); }
-OdGePoint3d OdDbText::position() const { return content.point(content.subclass(kText), 10); }
+OdGePoint3d OdDbText::position() const { return content.point(kText, 10); }
 void OdDbText::setPosition(const OdGePoint3d& point) { edit().setPoint(kText, 10, point); }
 
 OdGePoint3d OdDbText::alignmentPoint() const {
     const bool leftOnBaseLine = horizontalMode() == 0 && verticalMode() == 0;
     const bool hasPoint = content.find(11) != DxfTagList::npos;
-    return leftOnBaseLine || !hasPoint ? position() : content.point(content.whole(), 11);
+    return leftOnBaseLine || !hasPoint ? position() : content.point(content.own(), 11);
 }
 
-int OdDbText::horizontalMode() const { return static_cast<int>(content.integer(content.whole(), 72)); }
+int OdDbText::horizontalMode() const { return static_cast<int>(content.integer(content.own(), 72)); }
 
 int OdDbText::verticalMode() const {
     // Attributes keep it under 74, where 73 is the length of the field.
     const int code = isKindOf(OdDbAttribute::desc()) || isKindOf(OdDbAttributeDefinition::desc()) ? 74 : 73;
-    return static_cast<int>(content.integer(content.whole(), code));
+    return static_cast<int>(content.integer(content.own(), code));
 }
 
-double OdDbText::height() const { return content.real(content.subclass(kText), 40); }
+double OdDbText::height() const { return content.real(kText, 40); }
 void OdDbText::setHeight(double height) { edit().set(kText, 40, dxfText(height)); }
-double OdDbText::rotation() const { return content.real(content.subclass(kText), 50) * kDegree; }
+double OdDbText::rotation() const { return content.real(kText, 50) * kDegree; }
 void OdDbText::setRotation(double angle) { edit().set(kText, 50, dxfText(angle / kDegree)); }
-double OdDbText::widthFactor() const { return content.real(content.subclass(kText), 41, 1); }
+double OdDbText::widthFactor() const { return content.real(kText, 41, 1); }
 
 OdString OdDbText::textStyle() const {
     const OdString name = textValue(kText, 7);
@@ -66,9 +68,23 @@ void OdDbText::addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) c
             extents.addPoint(place * OdGePoint3d(x, y, 0));
 }
 
+OdDbMTextPtr OdDbText::paragraphWithin() const {
+    const DxfTagList::Range range = content.embedded();
+    if (range.begin == range.end)
+        return {};
+    OdDbMTextPtr paragraph(new OdDbMText);
+    paragraph->setLayer(layer());
+    DxfTagList& tags = paragraph->edit();
+    tags.erase(tags.subclass("AcDbMText").begin, tags.size() - tags.subclass("AcDbMText").begin);
+    const DxfCodec unicode;
+    for (std::size_t i = range.begin; i < range.end; ++i)
+        tags.append(content[i].code, unicode.encode(codec().decode(content[i].value())));
+    return paragraph;
+}
+
 OdString OdDbAttribute::tag() const { return textValue("AcDbAttribute", 2); }
 
-bool OdDbAttribute::isInvisible() const { return content.integer(content.subclass("AcDbAttribute"), 70) & 1; }
+bool OdDbAttribute::isInvisible() const { return content.integer("AcDbAttribute", 70) & 1; }
 
 OdString OdDbAttributeDefinition::tag() const { return textValue("AcDbAttributeDefinition", 2); }
 OdString OdDbAttributeDefinition::prompt() const { return textValue("AcDbAttributeDefinition", 3); }

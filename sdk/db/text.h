@@ -3,6 +3,8 @@
 
 #include "sdk/db/entity.h"
 
+class OdDbMText;
+
 class OdDbText : public OdDbEntity {
     ODRX_DECLARE_CLASS(OdDbText)
 public:
@@ -25,6 +27,7 @@ public:
     void addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const override;
 
 protected:
+    OdSmartPtr<OdDbMText> paragraphWithin() const;
     explicit OdDbText(std::string_view name) { startEntity(name, "AcDbText"); }
 };
 using OdDbTextPtr = OdSmartPtr<OdDbText>;
@@ -36,6 +39,8 @@ public:
     OdDbAttribute() : OdDbText("ATTRIB") {}
     OdString tag() const;
     bool isInvisible() const;
+    // The lines of an attribute that has more than one, as a paragraph in no drawing; null for a plain one.
+    OdSmartPtr<OdDbMText> paragraph() const { return paragraphWithin(); }
 };
 using OdDbAttributePtr = OdSmartPtr<OdDbAttribute>;
 
@@ -45,6 +50,7 @@ public:
     OdDbAttributeDefinition() : OdDbText("ATTDEF") {}
     OdString tag() const;
     OdString prompt() const;
+    OdSmartPtr<OdDbMText> paragraph() const { return paragraphWithin(); } // as of an attribute
     bool isConstant() const; // a text of its block that references do not repeat
     bool isInvisible() const;
 };
@@ -61,6 +67,14 @@ public:
     double textHeight() const;
     double width() const; // of the paragraph; 0 when it is not limited
     double rotation() const;
+    struct Columns {
+        int count = 1;
+        double width = 0, gutter = 0;
+        double height = 0;           // of each where `heights` is empty
+        std::vector<double> heights; // of each column
+    };
+    // How the paragraph flows: one column of no width unless the drawing says otherwise.
+    Columns columns() const;
     int attachment() const; // 1 top left to 9 bottom right, by rows
     void addExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld) const override;
 };

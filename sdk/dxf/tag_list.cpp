@@ -8,7 +8,14 @@
 namespace {
 constexpr int kSubclassMarker = 100;
 constexpr int kGroupBrace = 102;
+constexpr int kEmbeddedObject = 101;
 constexpr int kExtendedData = 1000;
+
+bool isEmbeddedStart(const DxfTag& tag) {
+    return tag.code == kEmbeddedObject && dxfTrimmed(tag.value()) == "Embedded Object";
+}
+
+bool opensBraces(const DxfTag& tag) { return !tag.value().empty() && tag.value().front() == '{'; }
 } // namespace
 
 DxfTagList DxfTagList::parse(std::string_view bytes, std::shared_ptr<const std::string> source,
@@ -32,28 +39,52 @@ std::string DxfTagList::bytes() const {
     return result;
 }
 
-DxfTagList::Range DxfTagList::subclass(std::string_view name) const {
-    bool marked = false;
+// Whatever follows belongs to another object, whose codes mean other things.
+std::size_t DxfTagList::ownEnd() const {
+    std::size_t end = 0;
+    while (end < tags.size() && tags[end].code < kExtendedData && !isEmbeddedStart(tags[end]))
+        ++end;
+    return end;
+}
+
+DxfTagList::Range DxfTagList::embedded() const {
+    Range range{ownEnd(), ownEnd()};
+    if (range.begin == tags.size() || !isEmbeddedStart(tags[range.begin]))
+        return range;
+    range.end = ++range.begin;
+    while (range.end < tags.size() && tags[range.end].code < kExtendedData)
+        ++range.end;
+    return range;
+}
+
+DxfTagList::Range DxfTagList::marked(std::string_view name) const {
     std::size_t from = npos, to = 0;
-    for (; to < tags.size() && tags[to].code < kExtendedData; ++to) {
+    for (; to < tags.size() && tags[to].code < kExtendedData && !isEmbeddedStart(tags[to]); ++to) {
         if (tags[to].code != kSubclassMarker)
             continue;
-        marked = true;
         if (from != npos)
             break;
         if (dxfTrimmed(tags[to].value()) == name)
             from = to + 1;
     }
-    if (!marked)
-        return {0, to};
-    return from == npos ? Range{to, to} : Range{from, to};
+    return from == npos ? Range{npos, npos} : Range{from, to};
+}
+
+DxfTagList::Range DxfTagList::subclass(std::string_view name) const {
+    const Range range = marked(name);
+    return range.begin == range.end ? own() : range;
+}
+
+std::size_t DxfTagList::endOf(std::string_view subclassName) const {
+    const Range range = marked(subclassName);
+    return range.end == npos ? ownEnd() : range.end;
 }
 
 std::size_t DxfTagList::find(int code, Range range) const {
     bool inBraces = false;
     for (std::size_t i = range.begin; i < range.end; ++i) {
         if (tags[i].code == kGroupBrace)
-            inBraces = !tags[i].value().empty() && tags[i].value().front() == '{';
+            inBraces = opensBraces(tags[i]);
         if (tags[i].code == code && (!inBraces || code == kGroupBrace))
             return i;
     }
@@ -61,23 +92,26 @@ std::size_t DxfTagList::find(int code, Range range) const {
 }
 
 std::size_t DxfTagList::find(std::string_view subclassName, int code) const {
-    std::size_t marker = 0;
-    while (marker < tags.size() &&
-           (tags[marker].code != kSubclassMarker || dxfTrimmed(tags[marker].value()) != subclassName))
-        if (tags[marker++].code >= kExtendedData)
-            marker = tags.size();
-    if (marker == tags.size())
-        return find(code, subclass(subclassName));
-    for (std::size_t end = marker + 1; end < tags.size(); ++end) {
-        if (tags[end].code == kSubclassMarker || tags[end].code >= kExtendedData)
-            return npos;
-        if (tags[end].code != code)
-            continue;
-        const std::size_t found = find(code, {marker + 1, end + 1});
-        if (found != npos)
-            return found;
+    bool within = false, inBraces = false;
+    for (std::size_t i = 0; i < tags.size(); ++i) {
+        const DxfTag& tag = tags[i];
+        if (tag.code >= kExtendedData || isEmbeddedStart(tag) || (within && tag.code == kSubclassMarker))
+            break;
+        if (tag.code == kSubclassMarker)
+            within = dxfTrimmed(tag.value()) == subclassName;
+        if (tag.code == kGroupBrace)
+            inBraces = opensBraces(tag);
+        if (within && !inBraces && tag.code == code)
+            return i;
     }
-    return npos;
+    return find(code, own());
+}
+
+// From a tag that was found for the subclass to the end of the part that it lies in.
+DxfTagList::Range DxfTagList::restOf(std::string_view subclassName, std::size_t found) const {
+    const Range range = marked(subclassName);
+    const bool inside = range.begin != npos && found >= range.begin && found < range.end;
+    return {found, inside ? range.end : ownEnd()};
 }
 
 void DxfTagList::insert(std::size_t position, int code, std::string_view value) {
@@ -131,16 +165,15 @@ void DxfTagList::adoptTexts(DxfTagList& other) {
 }
 
 void DxfTagList::set(std::string_view subclassName, int code, std::string_view value) {
-    const Range range = subclass(subclassName);
-    const std::size_t found = find(code, range);
+    const std::size_t found = find(subclassName, code);
     if (found != npos)
         replace(found, value);
     else
-        insert(range.end, code, value);
+        insert(endOf(subclassName), code, value);
 }
 
 void DxfTagList::remove(std::string_view subclassName, int code) {
-    const std::size_t found = find(code, subclass(subclassName));
+    const std::size_t found = find(subclassName, code);
     if (found != npos)
         erase(found);
 }
@@ -161,6 +194,21 @@ double DxfTagList::real(Range range, int code, double otherwise) const {
 std::int64_t DxfTagList::integer(Range range, int code, std::int64_t otherwise) const {
     const std::size_t found = find(code, range);
     return found == npos ? otherwise : dxfInteger(tags[found].value());
+}
+
+double DxfTagList::real(std::string_view subclassName, int code, double otherwise) const {
+    const std::size_t found = find(subclassName, code);
+    return found == npos ? otherwise : dxfReal(tags[found].value());
+}
+
+std::int64_t DxfTagList::integer(std::string_view subclassName, int code, std::int64_t otherwise) const {
+    const std::size_t found = find(subclassName, code);
+    return found == npos ? otherwise : dxfInteger(tags[found].value());
+}
+
+OdGePoint3d DxfTagList::point(std::string_view subclassName, int code) const {
+    const std::size_t found = find(subclassName, code);
+    return found == npos ? OdGePoint3d() : point(restOf(subclassName, found), code);
 }
 
 OdGePoint3d DxfTagList::point(Range range, int code) const {
@@ -188,12 +236,13 @@ void DxfTagList::setPoint(std::string_view subclassName, int code, const OdGePoi
     const double parts[] = {value.x, value.y, value.z};
     std::size_t last = npos;
     for (int axis = 0; axis < 3; ++axis) {
-        const Range range = subclass(subclassName);
-        const std::size_t found = find(code + 10 * axis, range);
+        const std::size_t found = last == npos ? find(subclassName, code + 10 * axis)
+                                               : find(code + 10 * axis, restOf(subclassName, last));
         if (found != npos)
             replace(last = found, dxfText(parts[axis]));
         else
-            insert(last = last == npos ? range.end : last + 1, code + 10 * axis, dxfText(parts[axis]));
+            insert(last = last == npos ? endOf(subclassName) : last + 1, code + 10 * axis,
+                   dxfText(parts[axis]));
     }
 }
 

@@ -56,11 +56,32 @@ TEST(Tags, SubclassEndsAtTheNextMarkerAndAtExtendedData) {
     DxfTagList tags = parse("  0\nX\n100\nA\n 70\n1\n100\nB\n 70\n2\n1001\nAPP\n1070\n3\n");
     EXPECT_EQ(tags.integer(tags.subclass("A"), 70), 1);
     EXPECT_EQ(tags.integer(tags.subclass("B"), 70), 2);
-    EXPECT_EQ(tags.integer(tags.subclass("C"), 70, 9), 9);
+    EXPECT_EQ(tags.integer("B", 1070, 9), 9) << "extended data are none of the record's own";
     tags.set("B", 71, "5");
     EXPECT_EQ(tags[5].code, 71);
     tags.set("A", 72, "6");
     EXPECT_EQ(tags.integer(tags.subclass("A"), 72), 6);
+}
+
+TEST(Tags, WhatASubclassLacksIsLookedForInTheWholeRecord) {
+    DxfTagList tags = parse("  0\nX\n 40\n1.5\n100\nA\n100\nB\n 70\n2\n101\nEmbedded Object\n 71\n3\n");
+    EXPECT_EQ(tags.real("B", 40), 1.5);
+    EXPECT_EQ(tags.integer("A", 70), 2) << "nothing stands behind the marker";
+    EXPECT_EQ(tags.integer("C", 70), 2) << "no such marker";
+    EXPECT_EQ(tags.integer("B", 71, 9), 9) << "an embedded object is another one";
+    EXPECT_EQ(tags.subclass("B").begin, 4u);
+    EXPECT_EQ(tags.subclass("A").begin, 0u);
+    tags.set("A", 8, "0");
+    EXPECT_EQ(tags[3].code, 8) << "what is new goes behind the marker";
+    tags.set("B", 40, "2.5");
+    EXPECT_EQ(tags[1].value(), "2.5");
+    EXPECT_EQ(tags.integer(tags.embedded(), 71), 3);
+}
+
+TEST(Tags, AFreeValueOfTheEmbeddedCodeEndsNothing) {
+    const DxfTagList tags = parse("  0\nX\n101\nother\n 70\n2\n");
+    EXPECT_EQ(tags.integer("A", 70), 2);
+    EXPECT_EQ(tags.embedded().begin, tags.embedded().end);
 }
 
 TEST(Tags, GroupsInBracesAreNotLookedInto) {
