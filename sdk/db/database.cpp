@@ -130,10 +130,13 @@ OdDbObjectId OdDbDatabase::getGroupDictionaryId(bool createIfNotFound) {
     constexpr const wchar_t* key = L"ACAD_GROUP";
     const auto root = odrxCast<OdDbDictionary>(getNamedObjectsDictionaryId().safeOpenObject());
     const OdDbObjectId id = root->getAt(key);
-    if (id.isValid() || !createIfNotFound)
-        return id;
+    const bool isThere = id.isValid() && id.objectClass()->isDerivedFrom(OdDbDictionary::desc());
+    if (isThere || !createIfNotFound)
+        return isThere ? id : OdDbObjectId();
     const bool wasWritable = root->isWriteEnabled();
     root->upgradeOpen();
+    if (id.isValid())
+        root->remove(key); // a damaged file has something else under this name
     OdDbDictionaryPtr groups(new OdDbDictionary);
     const OdDbObjectId created = root->setAt(key, groups.get());
     if (!wasWritable)

@@ -93,6 +93,11 @@ public:
     bool redo();
     bool hasUndo() const;
     bool hasRedo() const;
+    // What is changed from now on belongs to steps of this name, for whoever tells the user about them.
+    void nameUndoSteps(const OdString& name);
+    // Of the step that undo() or redo() would take; empty where there is none, or none with a name.
+    OdString undoName() const;
+    OdString redoName() const;
 
     void addReactor(OdDbDatabaseReactor* reactor);
     void removeReactor(OdDbDatabaseReactor* reactor);

@@ -136,15 +136,28 @@ OdDbObjectPtr OdDbDatabaseImpl::load(OdDbStub& stub) {
     return OdDbObjectPtr(stub.object);
 }
 
+void OdDbDatabaseImpl::noteChanged(OdDbStub& stub) {
+    if (stub.has(OdDbStub::kChanged))
+        return;
+    stub.set(OdDbStub::kChanged, true);
+    changed.push_back(&stub);
+}
+
+std::uint64_t OdDbDatabaseImpl::takeHandle() {
+    while (handles.find(nextHandle))
+        ++nextHandle;
+    return nextHandle++;
+}
+
 void OdDbDatabaseImpl::attach(OdDbObject& object, OdDbStub& stub) {
     if (object.ownStub)
         throw OdError(eAlreadyInDb);
     stub.database = &self;
     stub.type = typeNumber(object.content[0].value());
-    stub.set(OdDbStub::kChanged, true);
+    noteChanged(stub);
     stub.set(OdDbStub::kEntity, object.isKindOf(odDbEntityClass()));
     stub.object = &object;
-    stub.handle = nextHandle++;
+    stub.handle = takeHandle();
     handles.insert(&stub);
     adaptTags(object, stub);
     object.ownStub = &stub;
@@ -230,7 +243,7 @@ void OdDbDatabaseImpl::rememberChange(OdDbObject& object, std::unique_ptr<OdDbCh
     tellModified(stub);
     if (stub.imageEpoch == log.epoch())
         return;
-    stub.set(OdDbStub::kChanged, true);
+    noteChanged(stub);
     log.record(std::move(change));
 }
 
@@ -239,9 +252,15 @@ void OdDbDatabaseImpl::rememberImage(OdDbObject& object) {
     tellModified(stub);
     if (stub.imageEpoch == log.epoch())
         return;
-    stub.set(OdDbStub::kChanged, true);
+    noteChanged(stub);
     stub.imageEpoch = log.epoch();
     log.record(std::make_unique<OdDbImageChange>(object));
+}
+
+DxfTagList& OdDbDatabaseImpl::editUnrecorded(OdDbObject& object) {
+    tellModified(*object.ownStub);
+    noteChanged(*object.ownStub);
+    return object.content;
 }
 
 void OdDbDatabaseImpl::setErased(OdDbStub& stub, bool erased) {

@@ -16,6 +16,7 @@
 #include <optional>
 #include <unordered_map>
 
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr int kVersionR12 = 1009;
 constexpr int kVersionR13 = 1012;
 constexpr int kVersionR2000 = 1015;
@@ -40,6 +41,12 @@ struct OdDbTableContent {
     std::unordered_map<std::wstring, OdDbStub*> byName; // empty until somebody looks for a name
 };
 
+// Vertices or attributes without the end mark that belongs behind them.
+struct OdDbOpenEnd {
+    OdDbStub* main = nullptr; // the entity that they belong to
+    std::uint64_t handle = 0; // of the mark that is written; 0 until it is
+};
+
 struct OdDbSection {
     OdDbStub* begin = nullptr;
     OdDbStub* end = nullptr;
@@ -55,6 +62,8 @@ public:
 
     OdDbDatabase& self;
     std::shared_ptr<const std::string> source;
+    std::shared_ptr<const std::string>
+        fileBytes; // where they differ from the source: by line ends, see there
     bool carriageReturns = false;
     bool fileHasHandles = true;
     DxfCodec codec;
@@ -83,6 +92,9 @@ public:
     std::size_t fileStubCount = 0;
     OdDbHandleMap handles;
     std::uint64_t nextHandle = 1;
+    std::uint64_t takeHandle();     // one that is free
+    std::vector<OdDbStub*> changed; // each record that was ever changed or new, once
+    std::unordered_map<const OdDbStub*, OdDbOpenEnd> openEnds; // by the record behind them
     std::map<std::string, OdDbSection> sections;
     std::map<std::string, OdDbTableContent> tables;
     std::unordered_map<const OdDbStub*, OdDbBlockContent> blocks;
@@ -113,6 +125,8 @@ public:
     void splice(OdDbObject& object, std::size_t position, std::size_t count, DxfTagList tags); // recorded
     // For a change that has just been made in the object's tags and knows its own way back.
     void rememberChange(OdDbObject& object, std::unique_ptr<OdDbChange> change);
+    // For a change that is no step of its own and that undo passes over.
+    DxfTagList& editUnrecorded(OdDbObject& object);
     void tellModified(OdDbStub& stub);
     void setErased(OdDbStub& stub, bool erased); // recorded
     void applyErased(OdDbStub& stub, bool erased);
@@ -128,6 +142,7 @@ public:
 
 private:
     void attach(OdDbObject& object, OdDbStub& stub);
+    void noteChanged(OdDbStub& stub);
     void adaptTags(OdDbObject& object, const OdDbStub& stub);
     std::vector<std::string> typeNames;
     std::unordered_map<std::string, std::uint16_t> typeNumbers;

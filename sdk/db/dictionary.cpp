@@ -17,6 +17,7 @@ constexpr int kNameCode = 3;
 constexpr int kHardOwnerCode = 280;
 constexpr int kSoftEntry = 350;
 constexpr int kHardEntry = 360;
+constexpr int kExtendedData = 1000;
 
 bool isEntry(const DxfTagList& tags, std::size_t at) {
     return tags[at].code == kNameCode && at + 1 < tags.size() &&
@@ -54,7 +55,7 @@ void OdDbDictionary::fillCache() const {
     byObject.clear();
     distinct = true;
     dangling = 0;
-    hardOwner = content.integer(content.subclass(kMarker), kHardOwnerCode) != 0;
+    hardOwner = content.integer(kMarker, kHardOwnerCode) != 0;
     for (std::size_t i = 0; i < content.size(); ++i)
         if (isEntry(content, i))
             noteEntryAt(i);
@@ -174,7 +175,8 @@ OdDbObjectId OdDbDictionary::setAt(const OdString& name, OdDbObject* object) {
     fillCache();
     DxfTagList entry = nameTag(name);
     entry.append(hardOwner ? kHardEntry : kSoftEntry, dxfHandleText(id.getHandle().number()));
-    splice(content.size(), 0, std::move(entry));
+    const bool hasExtendedData = content[content.size() - 1].code >= kExtendedData;
+    splice(hasExtendedData ? content.own().end : content.size(), 0, std::move(entry));
     return id;
 }
 

@@ -3,6 +3,7 @@
 
 #include "sdk/db/block_table.h"
 #include "sdk/db/class_registry.h"
+#include "sdk/dxf/value_kinds.h"
 
 #include <algorithm>
 
@@ -30,36 +31,62 @@ void OdDbDrawingReader::readHeader() {
     DxfTag tag;
     bool opened = false;
     while (scanner.next(tag) && !(opened && tag.code == 9))
-        opened = opened || (tag.code == 2 && dxfTrimmed(tag.value()) == "HEADER");
+        opened = opened || (tag.code == 2 && dxfUpperCase(dxfTrimmed(tag.value())) == "HEADER");
     const char* start = tag.code == 9 ? tag.raw : bytes.data() + bytes.size();
     impl.headerStart = static_cast<std::size_t>(start - bytes.data());
     impl.header.parse(bytes.substr(impl.headerStart), impl.source, impl.carriageReturns);
 }
 
+// Where the value of a header variable stands; the start of the file for one that is missing.
+const char* OdDbDrawingReader::placeOfVariable(const char* name) const {
+    const OdDbHeader::Variable* variable = impl.header.find(name);
+    return variable && variable->tags.size() > 1 ? variable->tags[1].value().data() : impl.source->data();
+}
+
 void OdDbDrawingReader::readVersion() {
-    const std::string_view name = dxfTrimmed(impl.header.value("$ACADVER", "AC1009"));
+    // Old versions have no objects.
+    const bool hasObjects = impl.sections.count("OBJECTS") != 0;
+    const std::string_view name = dxfTrimmed(impl.header.value("$ACADVER", hasObjects ? "AC1015" : "AC1009"));
     const int number = name.substr(0, 2) == "AC" ? static_cast<int>(dxfInteger(name.substr(2))) : 0;
     if (number > kVersionNewest || number <= 0)
-        throw OdError(eUnsupportedFileFormat, fileName + OdString(L": drawings of the version ") +
-                                                  OdString(std::string(name).c_str(), CP_UTF8) +
-                                                  OdString(L" are not supported"));
+        fail(placeOfVariable("$ACADVER"),
+             OdString(L"drawings of the version \"") + OdString(std::string(name).c_str(), CP_UTF8) +
+                 OdString(L"\" are not supported"),
+             eUnsupportedFileFormat);
     impl.version = std::max(number, 1000);
     const std::string_view page = dxfTrimmed(impl.header.value("$DWGCODEPAGE", "ANSI_1252"));
     bool known = true;
     impl.codec = impl.version >= kVersionR2007 ? DxfCodec() : DxfCodec::forCodePage(page, &known);
     if (!known)
-        impl.warnings.push_back(OdString(L"the code page ") + OdString(std::string(page).c_str(), CP_UTF8) +
-                                OdString(L" is not known: texts are read as western"));
+        warn(placeOfVariable("$DWGCODEPAGE"), OdString(L"the code page \"") +
+                                                  OdString(std::string(page).c_str(), CP_UTF8) +
+                                                  OdString(L"\" is not known: texts are read as western"));
+}
+
+// A number that no record has, but a reference, is not free either: what gets it would be taken for the lost
+// one.
+std::uint64_t OdDbDrawingReader::highestReference() const {
+    std::uint64_t highest = 0;
+    DxfScanner scanner(scannedText);
+    DxfTag tag;
+    while (scanner.next(tag)) {
+        const std::uint64_t handle = dxfIsReference(tag.code) ? dxfHandle(tag.value()) : 0;
+        if (handle < OdDbHandleMap::kCounted)
+            highest = std::max(highest, handle);
+    }
+    return highest;
 }
 
 // Records without a handle of their own get one that the file doesn't use.
 void OdDbDrawingReader::numberTheRest() {
-    constexpr std::uint64_t highestSeed = std::uint64_t{1} << 60;
-    const std::uint64_t seed = dxfHandle(impl.header.value("$HANDSEED", "0"));
     impl.fileHasHandles = impl.version >= kVersionR13 || impl.handles.highest() > 0;
-    impl.nextHandle = std::max(impl.handles.highest() + 1, seed < highestSeed ? seed : 0);
+    const std::uint64_t seed = dxfHandle(impl.header.value("$HANDSEED", "0"));
+    impl.nextHandle = std::max(impl.handles.highest() + 1, seed < OdDbHandleMap::kCounted ? seed : 0);
+    if (impl.fileHasHandles && !unnumbered.empty())
+        impl.nextHandle = std::max(impl.nextHandle, highestReference() + 1);
     for (OdDbStub* stub : unnumbered) {
-        stub->handle = impl.nextHandle++;
+        stub->set(OdDbStub::kNoHandle, true);
+        stub->handle = impl.takeHandle();
         impl.handles.insert(stub);
     }
 }

@@ -4,6 +4,9 @@
 #include "sdk/db/progress.h"
 #include "sdk/db/sub_entities.h"
 #include "sdk/dxf/binary_text.h"
+#include "sdk/dxf/line_ends.h"
+#include "sdk/dxf/number_check.h"
+#include "sdk/dxf/value_kinds.h"
 
 #include <algorithm>
 
@@ -13,11 +16,23 @@ constexpr std::size_t kBytesOfRecord = 16;         // the shortest record with a
 constexpr std::ptrdiff_t kBytesOfReport = 1 << 19; // between reports of progress
 constexpr std::uint64_t kHighestHandle = std::uint64_t{1} << 60;
 
+// A text that ends with a section ends there, whatever blank lines follow: they are no tags.
+std::string_view withoutBlankEnd(std::string_view text) {
+    constexpr std::string_view sectionEnd = "ENDSEC";
+    const std::size_t last = text.find_last_not_of(std::string_view(" \t\r\n\0\x1a", 6));
+    const std::size_t size = last == std::string_view::npos ? 0 : last + 1;
+    if (size < sectionEnd.size() || text.substr(size - sectionEnd.size(), sectionEnd.size()) != sectionEnd)
+        return text;
+    return text.substr(0, text.find('\n', size) == std::string_view::npos ? text.size()
+                                                                          : text.find('\n', size) + 1);
+}
+
 } // namespace
 
 void OdDbDrawingReader::read(std::string bytes) {
     checkKind(bytes);
-    if (isBinaryDxf(bytes)) {
+    isBinary = isBinaryDxf(bytes);
+    if (isBinary) {
         try {
             bytes = textOfBinaryDxf(bytes);
         } catch (const DxfFault& fault) {
@@ -26,13 +41,8 @@ void OdDbDrawingReader::read(std::string bytes) {
                                              OdString(L": ") + OdString(fault.reason));
         }
     }
-    impl.source = std::make_shared<const std::string>(std::move(bytes));
+    keepSource(std::move(bytes));
     const std::string_view text = *impl.source;
-    impl.handles.expectHandlesBelow(text.size() / kBytesOfRecord);
-    countedTo = text.data();
-    const std::size_t firstLine = text.find('\n');
-    impl.carriageReturns =
-        firstLine != std::string_view::npos && firstLine > 0 && text[firstLine - 1] == '\r';
     try {
         scan(text);
         readHeader();
@@ -44,7 +54,23 @@ void OdDbDrawingReader::read(std::string bytes) {
     addMissingTables();
     linkBlocks();
     linkSpaces();
+    impl.warnings = notices.texts(text, isBinary);
     odDbReportProgress(OdDbProgressMeter::kReading, 1);
+}
+
+void OdDbDrawingReader::keepSource(std::string bytes) {
+    if (dxfHasLoneReturns(bytes)) {
+        impl.fileBytes = std::make_shared<const std::string>(bytes);
+        bytes = dxfWithLineFeeds(std::move(bytes));
+    }
+    impl.source = std::make_shared<const std::string>(std::move(bytes));
+    const std::string_view text = *impl.source;
+    if (impl.fileBytes)
+        warn(text.data(), L"the lines end with a carriage return alone");
+    impl.handles.expectHandlesBelow(text.size() / kBytesOfRecord);
+    const std::size_t firstLine = text.find('\n');
+    impl.carriageReturns =
+        firstLine != std::string_view::npos && firstLine > 0 && text[firstLine - 1] == '\r';
 }
 
 void OdDbDrawingReader::checkKind(const std::string& bytes) const {
@@ -71,41 +97,67 @@ void OdDbDrawingReader::checkKind(const std::string& bytes) const {
 
 void OdDbDrawingReader::scan(std::string_view text) {
     const std::size_t mark = text.substr(0, 3) == kByteOrderMark ? 3 : 0;
-    DxfScanner scanner(text.substr(mark));
+    scannedText = withoutBlankEnd(text);
+    scannedText.remove_prefix(std::min(mark, scannedText.size()));
+    DxfScanner scanner(scannedText);
     DxfTag tag;
     bool first = true;
-    const char* reported = text.data();
+    reported = text.data();
+    safeEnd = text.size() < kDxfPlainNumber ? text.data() : text.data() + text.size() - kDxfPlainNumber;
     while (!ended && scanner.next(tag)) {
         if (tag.code != 0) {
             note(tag);
             continue;
         }
         const bool walkingOver = place == Place::Opaque && record.type == "SECTION";
-        if (walkingOver && tag.value() == "SECTION")
-            fail(record.start, "a section without an end");
-        if (walkingOver && tag.value() != "ENDSEC")
+        if (walkingOver && dxfTrimmed(tag.value()) == "SECTION")
+            fail(record.start, L"a section without an end");
+        if (walkingOver && dxfTrimmed(tag.value()) != "ENDSEC")
             continue;
-        if (tag.raw - reported >= kBytesOfReport) {
-            reported = tag.raw;
-            odDbReportProgress(OdDbProgressMeter::kReading,
-                               double(reported - text.data()) / double(text.size()));
-        }
-        if (!first)
-            finish(tag.raw);
-        record = Record();
-        record.start = first ? text.data() : tag.raw;
-        record.type = dxfTrimmed(tag.value());
+        takeRecord(tag, first);
         first = false;
-        ended = place == Place::Outside && record.type == "EOF";
     }
+    scannedText = scannedText.substr(0, static_cast<std::size_t>(scanner.position() - scannedText.data()));
     if (!ended)
-        fail(text.data() + text.size(), "the file ends before its end mark");
+        finishWithoutEndMark(scanner.position());
     addStub(text.data() + text.size(), OdDbStub::kStructure);
     impl.sections["EOF"].begin = &impl.stubs[impl.stubs.size() - 1];
     impl.fileStubCount = impl.stubs.size();
 }
 
+void OdDbDrawingReader::takeRecord(const DxfTag& tag, bool first) {
+    if (tag.raw - reported >= kBytesOfReport)
+        reportProgress(tag.raw);
+    if (!first)
+        finish(tag.raw);
+    record = Record();
+    record.start = first ? impl.source->data() : tag.raw;
+    record.type = dxfTrimmed(tag.value());
+    ended = place == Place::Outside && record.type == "EOF";
+    if (ended && record.type.size() != tag.valueSize)
+        warn(tag.raw, L"blanks around the end mark");
+}
+
+void OdDbDrawingReader::reportProgress(const char* at) {
+    reported = at;
+    odDbReportProgress(OdDbProgressMeter::kReading,
+                       double(at - impl.source->data()) / double(impl.source->size()));
+}
+
+// A file that ends behind a whole section has lost nothing.
+void OdDbDrawingReader::finishWithoutEndMark(const char* end) {
+    if (record.type != "ENDSEC")
+        fail(end, L"the file ends before its end mark");
+    finish(end);
+    warn(end, L"the file has no end mark");
+    record = Record();
+    record.start = end;
+}
+
 void OdDbDrawingReader::note(const DxfTag& tag) {
+    if (dxfIsNumberKind(dxfValueKind(tag.code)) &&
+        (tag.raw > safeEnd || tag.value().data() > safeEnd || !dxfIsPlainNumber(tag.value())))
+        checkNumber(tag);
     switch (tag.code) {
     case 2:
         if (record.name.empty())
@@ -133,11 +185,25 @@ void OdDbDrawingReader::note(const DxfTag& tag) {
     }
 }
 
+void OdDbDrawingReader::checkNumber(const DxfTag& tag) {
+    const DxfNumberFault fault = dxfNumberFault(tag.value());
+    if (fault == DxfNumberFault::None)
+        return;
+    constexpr std::size_t longestQuote = 40;
+    const std::string quoted(dxfTrimmed(tag.value()).substr(0, longestQuote));
+    const OdString code = OdString(L" for the group code ") + OdString(std::to_wstring(tag.code));
+    warn(tag.value().data(),
+         OdString(L"\"") + OdString(quoted.c_str(), CP_UTF8) +
+             OdString(fault == DxfNumberFault::NoNumber ? L"\" is no number" : L"\" is beyond 1e100") + code);
+}
+
 // Sections that hold no records are walked over without looking into them.
 void OdDbDrawingReader::enterSection(std::string_view name) {
     sectionNamed = true;
-    sectionName = name;
-    if (placeOf(name) == Place::Opaque)
+    sectionName = dxfUpperCase(name);
+    if (sectionName != name)
+        warn(name.data(), L"a section name in small letters");
+    if (placeOf(sectionName) == Place::Opaque)
         place = Place::Opaque;
 }
 
@@ -174,10 +240,10 @@ void OdDbDrawingReader::finish(const char* end) {
 
 void OdDbDrawingReader::finishOutside(const char* end) {
     if (record.type != "SECTION")
-        fail(record.start, "a record outside of the sections");
+        fail(record.start, L"a record outside of the sections");
     if (!sectionNamed)
         fail(record.start,
-             place == Place::Outside ? "a section without a name" : "a section within a section");
+             place == Place::Outside ? L"a section without a name" : L"a section within a section");
     OdDbStub& stub = addStub(end, OdDbStub::kStructure);
     OdDbSection& section = impl.sections[sectionName];
     if (section.begin)
@@ -190,12 +256,14 @@ void OdDbDrawingReader::finishOutside(const char* end) {
 
 void OdDbDrawingReader::leaveSection(OdDbStub& stub) {
     if (openTable)
-        fail(record.start, "a table without an end");
+        fail(record.start, L"a table without an end");
     if (openBlock)
-        fail(record.start, "a block without an end");
+        fail(record.start, L"a block without an end");
     OdDbSection& section = impl.sections[sectionName];
     if (!section.end)
         section.end = &stub;
+    if (place == Place::Entities)
+        noteOpenEnd(stub);
     place = Place::Outside;
     lastMain = nullptr;
 }
@@ -203,8 +271,10 @@ void OdDbDrawingReader::leaveSection(OdDbStub& stub) {
 void OdDbDrawingReader::finishTableRecord(OdDbStub& stub) {
     if (record.type == "TABLE") {
         if (openTable)
-            fail(record.start, "a table within a table");
-        const std::string tableName(record.name);
+            fail(record.start, L"a table within a table");
+        const std::string tableName = dxfUpperCase(record.name);
+        if (tableName != record.name)
+            warn(record.name.data(), L"a table name in small letters");
         stub.type = typeNumber("TABLE:" + tableName);
         openTable = &impl.tables[tableName];
         if (openTable->record)
@@ -215,7 +285,7 @@ void OdDbDrawingReader::finishTableRecord(OdDbStub& stub) {
         return;
     }
     if (!openTable)
-        fail(record.start, "a record outside of the tables");
+        fail(record.start, L"a record outside of the tables");
     if (record.type == "ENDTAB") {
         stub.set(OdDbStub::kStructure, true);
         if (!openTable->end)
@@ -233,7 +303,7 @@ void OdDbDrawingReader::finishTableRecord(OdDbStub& stub) {
 void OdDbDrawingReader::finishBlockRecord(OdDbStub& stub) {
     if (record.type == "BLOCK") {
         if (openBlock)
-            fail(record.start, "a block within a block");
+            fail(record.start, L"a block within a block");
         openBlock = &stub;
         parts[&stub].begin = &stub;
         blockBegins.push_back({&stub, record.name});
@@ -241,13 +311,20 @@ void OdDbDrawingReader::finishBlockRecord(OdDbStub& stub) {
         return;
     }
     if (!openBlock)
-        fail(record.start, "a record outside of the blocks");
+        fail(record.start, L"a record outside of the blocks");
     if (record.type != "ENDBLK")
         return finishEntity(stub, parts[openBlock]);
     parts[openBlock].end = &stub;
+    noteOpenEnd(stub);
     registerHandle(stub);
     openBlock = nullptr;
     lastMain = nullptr;
+}
+
+// `end` is the record behind the last entity: vertices and attributes that have no end mark run into it.
+void OdDbDrawingReader::noteOpenEnd(const OdDbStub& end) {
+    if (lastMain && (impl.stubs[end.index - 1].owner == lastMain || impl.typeName(*lastMain) == "POLYLINE"))
+        impl.openEnds[&end].main = lastMain;
 }
 
 void OdDbDrawingReader::finishEntity(OdDbStub& stub, OdDbBlockContent& content) {
@@ -289,37 +366,18 @@ void OdDbDrawingReader::registerHandle(OdDbStub& stub) {
     stub.handle = record.handle;
     if (record.handle != 0 && record.handle < kHighestHandle && impl.handles.insert(&stub))
         return;
-    if (record.handlePlace)
-        warn(record.handlePlace, record.handle == 0 || record.handle >= kHighestHandle
-                                     ? L"an object with an unusable handle"
-                                     : L"an object with the handle of another one");
+    const OdDbStub* const former =
+        record.handle < kHighestHandle ? impl.handles.find(record.handle) : nullptr;
+    if (former)
+        warn(record.start, L"an object with the handle of another one", former->source);
+    else if (record.handlePlace)
+        warn(record.handlePlace, L"an object with an unusable handle");
     stub.handle = 0;
     unnumbered.push_back(&stub);
 }
 
-long OdDbDrawingReader::lineOf(const char* position) {
-    if (position < countedTo) {
-        countedTo = impl.source->data();
-        countedLines = 1;
-    }
-    countedLines += std::count(countedTo, position, '\n');
-    countedTo = position;
-    return countedLines;
-}
-
-void OdDbDrawingReader::warn(const char* position, const OdString& reason) {
-    constexpr std::size_t mostWarnings = 200;
-    if (impl.warnings.size() > mostWarnings)
-        return;
-    if (impl.warnings.size() == mostWarnings)
-        impl.warnings.push_back(L"and more");
-    else
-        impl.warnings.push_back(OdString(L"line ") + OdString(std::to_wstring(lineOf(position))) +
-                                OdString(L": ") + reason);
-}
-
-void OdDbDrawingReader::fail(const char* position, const char* reason) {
-    throw OdError(eDxfReadError, fileName + OdString(L", line ") +
-                                     OdString(std::to_wstring(lineOf(position))) + OdString(L": ") +
-                                     OdString(reason));
+void OdDbDrawingReader::fail(const char* position, const OdString& reason, OdResult code) const {
+    throw OdError(code, fileName + OdString(L", ") +
+                            OdDbReadNotices::placeText(*impl.source, position, isBinary) + OdString(L": ") +
+                            reason);
 }

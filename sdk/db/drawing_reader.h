@@ -2,9 +2,8 @@
 #pragma once
 
 #include "sdk/db/database_impl.h"
+#include "sdk/db/read_notices.h"
 #include "sdk/dxf/scanner.h"
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 class OdDbDrawingReader {
 public:
@@ -31,8 +30,14 @@ private:
     enum class Place { Outside, Opaque, Tables, Blocks, Entities, Objects };
 
     void checkKind(const std::string& bytes) const;
+    void keepSource(std::string bytes);
     void scan(std::string_view text);
+    void takeRecord(const DxfTag& tag, bool first);
     void note(const DxfTag& tag);
+    void checkNumber(const DxfTag& tag);
+    void finishWithoutEndMark(const char* end);
+    void noteOpenEnd(const OdDbStub& end);
+    void reportProgress(const char* at);
     void finish(const char* end);
     void finishOutside(const char* end);
     void enterSection(std::string_view name);
@@ -47,6 +52,8 @@ private:
 
     void readHeader();
     void readVersion();
+    const char* placeOfVariable(const char* name) const;
+    std::uint64_t highestReference() const;
     void numberTheRest();
     void addMissingTables();
     void adoptBlockRecords();
@@ -54,9 +61,10 @@ private:
     void linkSpaces();
     OdDbStub& addBlockRecord(const OdString& name);
 
-    void warn(const char* position, const OdString& reason);
-    [[noreturn]] void fail(const char* position, const char* reason);
-    long lineOf(const char* position);
+    void warn(const char* position, const OdString& reason, const char* other = nullptr) {
+        notices.add(position, reason, other);
+    }
+    [[noreturn]] void fail(const char* position, const OdString& reason, OdResult code = eDxfReadError) const;
 
     OdDbDatabaseImpl& impl;
     OdString fileName;
@@ -74,6 +82,9 @@ private:
     OdDbBlockContent modelEntities, paperEntities;
     std::vector<OdDbStub*> unnumbered;
     std::uint16_t recentTypes[256] = {};
-    const char* countedTo = nullptr;
-    long countedLines = 1;
+    OdDbReadNotices notices;
+    bool isBinary = false;
+    const char* safeEnd = nullptr; // up to here 32 bytes can be read at once
+    const char* reported = nullptr;
+    std::string_view scannedText; // without a byte order mark
 };

@@ -19,7 +19,7 @@ bool OdDbHandleMap::insertPlain(OdDbStub* stub) {
     if (plain[place])
         return false;
     plain[place] = stub;
-    top = std::max(top, stub->handle);
+    count(stub->handle);
     return true;
 }
 
@@ -33,7 +33,7 @@ bool OdDbHandleMap::insert(OdDbStub* stub) {
         return false;
     cells[slot] = stub;
     ++used;
-    top = std::max(top, stub->handle);
+    count(stub->handle);
     return true;
 }
 

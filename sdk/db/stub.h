@@ -14,7 +14,8 @@ struct OdDbStub {
         kEntity = 4,
         kStructure = 8, // SECTION, ENDSEC, TABLE without a handle and the like: written, never opened
         kHighlighted = 16,
-        kUnwritten = 32 // known to the database, has no record of its own in this version of the file
+        kUnwritten = 32, // known to the database, has no record of its own in this version of the file
+        kNoHandle = 64   // its record in the file has no handle, or one that it can't have
     };
 
     std::uint64_t handle = 0;
@@ -60,10 +61,13 @@ public:
     // False, and nothing changed, when the handle is taken.
     bool insert(OdDbStub* stub);
     OdDbStub* find(std::uint64_t handle) const;
+    // Of those that leave room for as many again; the few that a damaged file has above them are not counted.
     std::uint64_t highest() const { return top; }
+    static constexpr std::uint64_t kCounted = std::uint64_t{1} << 59;
 
 private:
     bool insertPlain(OdDbStub* stub);
+    void count(std::uint64_t handle) { top = handle < kCounted && handle > top ? handle : top; }
     std::size_t slotOf(std::uint64_t handle) const;
     void grow();
     std::vector<OdDbStub*> plain;

@@ -5,6 +5,7 @@
 #include "sdk/db/database_impl.h"
 #include "sdk/db/thumbnail_section.h"
 #include "sdk/dxf/binary_text.h"
+#include "sdk/dxf/line_ends.h"
 #include "sdk/dxf/scanner.h"
 
 namespace {
@@ -37,7 +38,7 @@ std::string picturePart(std::string_view text) {
     while (scanner.next(tag)) {
         if (tag.code == 0 && inSection)
             break;
-        inSection = inSection || (tag.code == 2 && tag.value() == "THUMBNAILIMAGE");
+        inSection = inSection || (tag.code == 2 && dxfUpperCase(dxfTrimmed(tag.value())) == "THUMBNAILIMAGE");
         if (inSection && tag.code == kBytes)
             appendHex(picture, tag.value());
     }
@@ -52,7 +53,12 @@ OdResult odDbGetPreviewBitmap(OdStreamBuf* stream, OdThumbnailImage* image) {
     std::string picture;
     try {
         const std::string_view bytes = stream->content();
-        picture = isBinaryDxf(bytes) ? picturePart(textOfBinaryDxf(bytes)) : picturePart(bytes);
+        if (isBinaryDxf(bytes))
+            picture = picturePart(textOfBinaryDxf(bytes));
+        else if (dxfHasLoneReturns(bytes))
+            picture = picturePart(dxfWithLineFeeds(std::string(bytes)));
+        else
+            picture = picturePart(bytes);
     } catch (const DxfFault&) {
         return eInvalidDrawing;
     }

@@ -8,7 +8,8 @@ class OdThumbnailImage {
 public:
     bool hasBmp() const { return !bmp.empty(); }
     bool hasPng() const { return !png.empty(); }
-    // Makes the PNG from the bitmap; false, and no PNG, when the bitmap is not one that is understood.
+    // Makes the PNG from the bitmap, smaller where a side has more than 2048 pixels; false, and no PNG, when
+    // the bitmap is not one that is understood or a side has more than 16384.
     bool convBmpToPng();
 
     std::string bmp; // a bitmap from its info header on, without a file header

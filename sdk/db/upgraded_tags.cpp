@@ -8,6 +8,9 @@ namespace {
 
 constexpr int kExtendedData = 1000;
 constexpr int kFlags = 70;
+constexpr int kMarker = 100;
+constexpr int kBraces = 102;
+constexpr int kOwner = 330;
 
 // The tags of `lastCodes` stand behind the last marker, the others behind the first.
 struct Markers {
@@ -94,35 +97,49 @@ std::string_view markerOfTable(std::string_view name) {
     return found == markers.end() ? std::string_view() : found->second;
 }
 
+// Handles and what refers to them belong to the old drawing.
 template <class Wanted> void copyTags(const DxfTagList& from, DxfTagList& to, Wanted wanted) {
-    for (std::size_t i = 1; i < from.size(); ++i)
-        if (from[i].code != 5 && from[i].code != 105 && wanted(from[i].code))
-            to.append(from[i].code, from[i].value());
+    bool inBraces = false;
+    for (std::size_t i = 1; i < from.size(); ++i) {
+        const int code = from[i].code;
+        if (code == kBraces)
+            inBraces = from[i].value().substr(0, 1) == "{";
+        else if (!inBraces && code != 5 && code != 105 && code != kOwner && wanted(from[i]))
+            to.append(code, from[i].value());
+    }
 }
 
 void appendMarkers(DxfTagList& tags, const std::vector<std::string_view>& markers) {
     for (const std::string_view marker : markers)
-        tags.append(100, marker);
+        tags.append(kMarker, marker);
 }
 
 } // namespace
 
+// Some files of the oldest version have markers all the same; where it is known which ones belong there,
+// these are put in their place.
 DxfTagList odDbUpgradedEntity(const DxfTagList& old) {
+    constexpr std::string_view common = "AcDbEntity";
     const Markers markers = markersOf(dxfTrimmed(old[0].value()), old.integer(old.whole(), kFlags));
-    const auto isLast = [&markers](int code) { return contains(markers.lastCodes, code); };
+    const auto isLast = [&markers](const DxfTag& tag) { return contains(markers.lastCodes, tag.code); };
+    const auto isCommon = [](const DxfTag& tag) { return contains(commonCodes(), tag.code); };
+    const auto isFormer = [&](const DxfTag& tag) {
+        return tag.code == kMarker && (!markers.first.empty() || dxfTrimmed(tag.value()) == common);
+    };
+    const auto isExtended = [](const DxfTag& tag) { return tag.code >= kExtendedData; };
     DxfTagList tags;
     tags.append(0, dxfTrimmed(old[0].value()));
-    tags.append(100, "AcDbEntity");
+    tags.append(kMarker, common);
     if (old.find(8) == DxfTagList::npos)
         tags.append(8, "0");
-    copyTags(old, tags, [](int code) { return contains(commonCodes(), code); });
+    copyTags(old, tags, isCommon);
     appendMarkers(tags, markers.first);
-    copyTags(old, tags, [&](int code) {
-        return code < kExtendedData && !contains(commonCodes(), code) && !isLast(code);
+    copyTags(old, tags, [&](const DxfTag& tag) {
+        return !isExtended(tag) && !isCommon(tag) && !isLast(tag) && !isFormer(tag);
     });
     appendMarkers(tags, markers.last);
     copyTags(old, tags, isLast);
-    copyTags(old, tags, [](int code) { return code >= kExtendedData; });
+    copyTags(old, tags, isExtended);
     return tags;
 }
 

@@ -2,6 +2,7 @@
 #include "sdk/dxf/binary_text.h"
 
 #include "sdk/dxf/scanner.h"
+#include "sdk/dxf/value_kinds.h"
 
 namespace {
 
@@ -9,26 +10,6 @@ namespace {
 constexpr std::size_t kNameSize = 7;
 constexpr std::string_view kMark{" Binary DXF\r\n\x1a\0", 15};
 constexpr std::size_t kStartSize = kNameSize + kMark.size();
-
-enum class ValueKind { Text, Real, Int16, Int32, Int64, Bool, Chunk };
-
-struct KindRange {
-    int first, last;
-    ValueKind kind;
-};
-
-constexpr KindRange kinds[] = {
-    {0, 9, ValueKind::Text},        {10, 59, ValueKind::Real},      {60, 79, ValueKind::Int16},
-    {90, 99, ValueKind::Int32},     {100, 109, ValueKind::Text},    {110, 149, ValueKind::Real},
-    {160, 169, ValueKind::Int64},   {170, 179, ValueKind::Int16},   {210, 239, ValueKind::Real},
-    {270, 289, ValueKind::Int16},   {290, 299, ValueKind::Bool},    {300, 309, ValueKind::Text},
-    {310, 319, ValueKind::Chunk},   {320, 369, ValueKind::Text},    {370, 389, ValueKind::Int16},
-    {390, 399, ValueKind::Text},    {400, 409, ValueKind::Int16},   {410, 419, ValueKind::Text},
-    {420, 429, ValueKind::Int32},   {430, 439, ValueKind::Text},    {440, 459, ValueKind::Int32},
-    {460, 469, ValueKind::Real},    {470, 489, ValueKind::Text},    {999, 1003, ValueKind::Text},
-    {1004, 1004, ValueKind::Chunk}, {1005, 1009, ValueKind::Text},  {1010, 1059, ValueKind::Real},
-    {1060, 1070, ValueKind::Int16}, {1071, 1071, ValueKind::Int32},
-};
 
 class BinaryReader {
 public:
@@ -46,7 +27,7 @@ public:
                 throw DxfFault{start, "a group code out of range"};
             const std::string value = readValue(code, start);
             result += dxfTagText(code, value, "\n");
-            if (code == 0 && value == "EOF")
+            if (code == 0 && dxfTrimmed(value) == "EOF")
                 break;
         }
         return result;
@@ -71,29 +52,31 @@ private:
 
     std::string readValue(int code, const char* start) {
         switch (kindOf(code, start)) {
-        case ValueKind::Text:
+        case DxfValueKind::Text:
             return takeText();
-        case ValueKind::Real:
+        case DxfValueKind::Real:
             return dxfText(take<double>());
-        case ValueKind::Int16:
+        case DxfValueKind::Int16:
             return std::to_string(take<std::int16_t>());
-        case ValueKind::Int32:
+        case DxfValueKind::Int32:
             return std::to_string(take<std::int32_t>());
-        case ValueKind::Int64:
+        case DxfValueKind::Int64:
             return std::to_string(take<std::int64_t>());
-        case ValueKind::Bool:
+        case DxfValueKind::Bool:
             return std::to_string(wideCodes ? take<std::uint8_t>() : take<std::int16_t>());
-        case ValueKind::Chunk:
+        case DxfValueKind::Chunk:
             return takeChunk();
+        case DxfValueKind::None:
+            break;
         }
         return {};
     }
 
-    static ValueKind kindOf(int code, const char* start) {
-        for (const KindRange& range : kinds)
-            if (code >= range.first && code <= range.last)
-                return range.kind;
-        throw DxfFault{start, "a group code out of range"};
+    static DxfValueKind kindOf(int code, const char* start) {
+        const DxfValueKind kind = dxfValueKind(code);
+        if (kind == DxfValueKind::None)
+            throw DxfFault{start, "a group code out of range"};
+        return kind;
     }
 
     std::string takeText() {

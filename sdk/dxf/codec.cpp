@@ -1,38 +1,14 @@
 // Code pages come from Qt; here is what drawing files add to them.
 #include "sdk/dxf/codec.h"
 
+#include "sdk/dxf/code_pages.h"
+
 #include <QTextCodec>
-#include <map>
 
 namespace {
 
 // Bytes 0x80 to 0x9F that the western page leaves open survive as the control characters of that number.
 QTextCodec* westernPage() { return QTextCodec::codecForName("windows-1252"); }
-
-const char* codecName(const std::string& page) {
-    static const std::map<std::string, const char*> names{
-        {"ANSI_874", "windows-874"},   {"ANSI_932", "Shift_JIS"},
-        {"ANSI_936", "GBK"},           {"ANSI_949", "windows-949"},
-        {"ANSI_950", "Big5"},          {"ANSI_1250", "windows-1250"},
-        {"ANSI_1251", "windows-1251"}, {"ANSI_1252", "windows-1252"},
-        {"ANSI_1253", "windows-1253"}, {"ANSI_1254", "windows-1254"},
-        {"ANSI_1255", "windows-1255"}, {"ANSI_1256", "windows-1256"},
-        {"ANSI_1257", "windows-1257"}, {"ANSI_1258", "windows-1258"},
-        {"DOS437", "IBM437"},          {"DOS850", "IBM850"},
-        {"DOS852", "IBM852"},          {"DOS866", "IBM866"},
-        {"DOS932", "Shift_JIS"},       {"ISO8859-1", "ISO-8859-1"},
-        {"ASCII", "windows-1252"},     {"UTF-8", "UTF-8"},
-    };
-    const auto found = names.find(page);
-    return found == names.end() ? nullptr : found->second;
-}
-
-std::string upperCase(std::string_view text) {
-    std::string result(text);
-    for (char& c : result)
-        c = static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
-    return result;
-}
 
 bool isPlain(std::string_view bytes) {
     for (const char c : bytes)
@@ -105,8 +81,7 @@ QString withEscapes(const QString& text) {
 DxfCodec::DxfCodec() : codec(QTextCodec::codecForName("UTF-8")) {}
 
 DxfCodec DxfCodec::forCodePage(std::string_view name, bool* known) {
-    const char* wanted = codecName(upperCase(name));
-    QTextCodec* page = wanted ? QTextCodec::codecForName(wanted) : nullptr;
+    QTextCodec* page = dxfCodePage(name);
     if (known)
         *known = page != nullptr;
     return DxfCodec(page ? page : westernPage());

@@ -69,6 +69,13 @@ std::string_view dxfTrimmed(std::string_view text) {
     return text;
 }
 
+std::string dxfUpperCase(std::string_view text) {
+    std::string result(text);
+    for (char& c : result)
+        c = static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
+    return result;
+}
+
 std::string dxfTagText(int code, std::string_view value, std::string_view lineEnd) {
     std::string text = std::to_string(code);
     if (text.size() < 3)

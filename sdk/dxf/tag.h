@@ -28,5 +28,6 @@ std::string dxfText(double value); // the shortest text that reads back as the s
 std::string dxfText(std::int64_t value);
 std::string dxfHandleText(std::uint64_t handle);
 std::string_view dxfTrimmed(std::string_view text);
+std::string dxfUpperCase(std::string_view text); // of the letters A to Z
 // Both lines of a tag, with the code right-aligned to three places.
 std::string dxfTagText(int code, std::string_view value, std::string_view lineEnd);

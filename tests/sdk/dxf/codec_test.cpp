@@ -16,6 +16,61 @@ TEST(Codec, CodePagesOfOldFiles) {
     EXPECT_EQ(DxfCodec::forCodePage("DOS850").decode("\x81"), OdString(L"\u00fc"));
 }
 
+TEST(Codec, PagesGoByAllTheirUsualNames) {
+    struct Case {
+        const char* name;
+        std::string bytes;
+        const wchar_t* text;
+    };
+    const Case cases[] = {
+        {"gb2312", "\xD6\xD0", L"\u4e2d"},    {"GBK", "\xD6\xD0", L"\u4e2d"},
+        {"gb18030", "\xD6\xD0", L"\u4e2d"},   {"big5", "\xA4\xA4", L"\u4e2d"},
+        {"ksc5601", "\xC7\xD1", L"\ud55c"},   {"KS_C_5601-1987", "\xC7\xD1", L"\ud55c"},
+        {"johab", "\xD0\x65", L"\ud55c"},     {"ANSI_1361", "\xD0\x65", L"\ud55c"},
+        {"mac-roman", "\x9F", L"\u00fc"},     {"macintosh", "\x9F", L"\u00fc"},
+        {"utf-8", "\xC3\xBC", L"\u00fc"},     {"UTF8", "\xC3\xBC", L"\u00fc"},
+        {"dos437", "\x81", L"\u00fc"},        {"DOS_437", "\x81", L"\u00fc"},
+        {"CP850", "\x81", L"\u00fc"},         {"dos852", "\x81", L"\u00fc"},
+        {"dos855", "\xA1", L"\u0410"},        {"dos857", "\x81", L"\u00fc"},
+        {"dos860", "\x84", L"\u00e3"},        {"dos861", "\x81", L"\u00fc"},
+        {"dos863", "\x81", L"\u00fc"},        {"dos865", "\x81", L"\u00fc"},
+        {"dos866", "\x84", L"\u0414"},        {"dos869", "\xA4", L"\u0391"},
+        {"dos737", "\x80", L"\u0391"},        {"dos932", "\x93\xFA", L"\u65e5"},
+        {"shift_jis", "\x93\xFA", L"\u65e5"}, {"iso8859-1", "\xFC", L"\u00fc"},
+        {"8859_2", "\xB3", L"\u0142"},        {"ISO8859-5", "\xB4", L"\u0414"},
+        {"iso_8859-7", "\xC1", L"\u0391"},    {"8859_9", "\xFD", L"\u0131"},
+        {"ansi_874", "\xA1", L"\u0e01"},      {"windows-1253", "\xC1", L"\u0391"},
+        {"ansi1250", "\xB3", L"\u0142"},      {"ascii", "a", L"a"},
+        {"ANSI_1255", "\xE0", L"\u05d0"},     {"ANSI_1256", "\xC7", L"\u0627"},
+        {"ANSI_1257", "\xE0", L"\u0105"},     {"ANSI_1258", "\xFC", L"\u00fc"},
+    };
+    for (const Case& one : cases) {
+        bool known = false;
+        const DxfCodec codec = DxfCodec::forCodePage(one.name, &known);
+        EXPECT_TRUE(known) << one.name;
+        EXPECT_EQ(codec.decode(one.bytes), OdString(one.text)) << one.name;
+        EXPECT_EQ(codec.encode(one.text), one.bytes) << one.name;
+    }
+    for (const char* name : {"", "ANSI", "8859", "dos", "dos99999", "4711x", "ISO8859-77"}) {
+        bool known = true;
+        DxfCodec::forCodePage(name, &known);
+        EXPECT_EQ(known, std::string(name) == "ANSI") << name;
+    }
+}
+
+TEST(Codec, APageOfTheCLibraryEscapesWhatItLacks) {
+    const DxfCodec johab = DxfCodec::forCodePage("johab");
+    EXPECT_EQ(johab.encode(L"\ud55c\u0e01"), "\xD0\x65\\U+0E01");
+    EXPECT_EQ(johab
+                  .decode("a\xFF"
+                          "b")
+                  .wide(),
+              L"a\ufffd"
+              L"b");
+    const std::wstring much(1000, L'\ud55c');
+    EXPECT_EQ(johab.decode(johab.encode(much)), OdString(much));
+}
+
 TEST(Codec, UnknownPageIsReadAsWestern) {
     bool known = true;
     EXPECT_EQ(DxfCodec::forCodePage("ANSI_4711", &known).decode("\xFC"), OdString(L"\u00fc"));

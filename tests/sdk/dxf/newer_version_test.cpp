@@ -82,6 +82,31 @@ TEST(NewerVersion, EntitiesBlocksLayersAndTextsComeAlong) {
     EXPECT_EQ(after.maxPoint(), before.maxPoint());
 }
 
+TEST(NewerVersion, MarkersAndReferencesThatAreThereAlreadyAreNotTakenTwice) {
+    const std::string arc =
+        "  0\nARC\n  5\n2F\n102\n{ACAD_REACTORS\n330\nAB\n102\n}\n330\n1F\n100\nAcDbEntity\n  8\n0\n"
+        " 10\n1.0\n 20\n2.0\n 40\n3.0\n100\nAcDbArc\n 50\n0.0\n 51\n90.0\n";
+    const std::string other = "  0\nOTHER\n100\nAcDbEntity\n  8\n0\n100\nAcDbOther\n 10\n1.0\n";
+    const OdDbDatabasePtr database =
+        OdDbDatabase::readBytes(replaced(oldDrawing(), "  0\nLINE\n", arc + other + "  0\nLINE\n"));
+    const OdDbDatabasePtr made = newer(*database);
+    const OdDbObjectIdArray ids = modelSpaceOf(*made)->entityIds();
+    const auto newArc = odrxCast<OdDbArc>(ids[0].safeOpenObject());
+    EXPECT_EQ(newArc->center(), OdGePoint3d(1, 2, 0));
+    EXPECT_EQ(newArc->radius(), 3);
+    EXPECT_NEAR(newArc->endAngle(), M_PI / 2, 1e-12);
+    const auto markersIn = [](const DxfTagList& tags) {
+        std::string markers;
+        for (const DxfTag& tag : tags)
+            if (tag.code == 100 || tag.code == 102)
+                markers += std::string(tag.value()) + " ";
+        return markers;
+    };
+    EXPECT_EQ(markersIn(newArc->tags()), "AcDbEntity AcDbCircle AcDbArc ");
+    EXPECT_EQ(markersIn(ids[1].safeOpenObject()->tags()), "AcDbEntity AcDbOther ");
+    EXPECT_EQ(newArc->ownerId(), made->getModelSpaceId());
+}
+
 TEST(NewerVersion, ReferencesKeepTheirPathAndKind) {
     const OdDbDatabasePtr database = OdDbDatabase::readBytes(oldDrawing());
     OdDbXRefManExt::addNewXRefDefBlock(database.get(), L"other.dxf", L"Plan", true);

@@ -46,6 +46,58 @@ inline std::string faultOfChanged(OdDbDatabase& database) {
     return database.writeBytes() == before ? "" : "an aborted change leaves something behind";
 }
 
+inline OdDbGroupPtr groupIn(OdDbDatabase& database, const OdString& name) {
+    const auto groups = odrxQuery<OdDbDictionary>(database.getGroupDictionaryId().openObject().get());
+    return groups.isNull() ? OdDbGroupPtr() : odrxQuery<OdDbGroup>(groups->getAt(name, OdDb::kForRead).get());
+}
+
+inline OdDbObjectIdArray modelSpaceEntities(OdDbDatabase& database) {
+    return odrxCast<OdDbBlockTableRecord>(database.getModelSpaceId().safeOpenObject())->entityIds();
+}
+
+// The drawing as it is saved and opened again; of the oldest version, which has no place for groups, the
+// newer one that is made of it. Null where an error says why it can't be made.
+inline OdDbDatabasePtr savedAndOpened(OdDbDatabase& database) {
+    if (!odDbNeedsNewerVersion(database))
+        return OdDbDatabase::readBytes(database.writeBytes());
+    try {
+        std::vector<OdString> leftOut;
+        return OdDbDatabase::readBytes(odDbInNewerVersion(database, leftOut)->writeBytes());
+    } catch (const OdError&) {
+        return {};
+    }
+}
+
+inline bool hasGroup(OdDbDatabase& database, const OdString& name, std::size_t count) {
+    const OdDbGroupPtr group = groupIn(database, name);
+    OdDbObjectIdArray members;
+    if (!group.isNull())
+        group->allEntityIds(members);
+    return !group.isNull() && members == modelSpaceEntities(database) && members.size() == count;
+}
+
+// A group of everything in the model space is found whole again, in its order; undone, nothing of it is left.
+inline std::string faultOfGroup(OdDbDatabase& database) {
+    const std::string first = database.writeBytes();
+    OdString name = L"Everything";
+    while (!groupIn(database, name).isNull())
+        name += L"+";
+    database.startUndoRecord();
+    const OdDbObjectIdArray all = modelSpaceEntities(database);
+    {
+        const auto groups =
+            odrxCast<OdDbDictionary>(database.getGroupDictionaryId(true).safeOpenObject(OdDb::kForWrite));
+        OdDbGroupPtr group(new OdDbGroup);
+        groups->setAt(name, group.get());
+        group->append(all);
+    }
+    const OdDbDatabasePtr again = savedAndOpened(database);
+    if (!again.isNull() && !hasGroup(*again, name, all.size()))
+        return "a saved group has lost members";
+    database.undo();
+    return database.writeBytes() == first ? "" : "a group that was undone leaves something behind";
+}
+
 // A drawing of the oldest version becomes a newer one, or an error says why not.
 inline std::string faultOfUpgrade(OdDbDatabase& database) {
     std::vector<OdString> leftOut;
@@ -72,5 +124,7 @@ inline std::string faultOfReading(const std::string& bytes) {
     std::string fault = faultOfUnchanged(*database, bytes);
     if (fault.empty())
         fault = faultOfChanged(*database);
+    if (fault.empty())
+        fault = faultOfGroup(*database);
     return fault.empty() ? faultOfUpgrade(*database) : fault;
 }

@@ -1,0 +1,70 @@
+// References lead from changed records to others, and from these to their owners, until all have a handle.
+#include "sdk/db/missing_handles.h"
+
+#include "sdk/dxf/value_kinds.h"
+
+namespace {
+
+constexpr int kHandle = 5;
+constexpr int kHandleOfDimStyle = 105;
+constexpr int kOwner = 330;
+constexpr int kMarker = 100;
+
+} // namespace
+
+OdDbMissingHandles::OdDbMissingHandles(OdDbDatabaseImpl& database) : impl(database) {
+    if (!impl.fileHasHandles)
+        return;
+    for (OdDbStub* stub : impl.changed)
+        if (!stub->has(OdDbStub::kErased) && !stub->has(OdDbStub::kUnwritten))
+            lookThrough(*stub);
+    while (!open.empty()) {
+        OdDbStub& stub = *open.back();
+        open.pop_back();
+        if (impl.hasSubclassMarkers())
+            want(stub.owner);
+        if (stub.has(OdDbStub::kUnwritten))
+            lookThrough(stub);
+    }
+}
+
+void OdDbMissingHandles::lookThrough(OdDbStub& stub) {
+    const OdDbObjectPtr object = impl.load(stub);
+    for (const DxfTag& tag : object->tags())
+        if (dxfIsReference(tag.code))
+            want(impl.handles.find(dxfHandle(tag.value())));
+}
+
+void OdDbMissingHandles::want(OdDbStub* stub) {
+    const bool isThere = !stub || (!stub->has(OdDbStub::kNoHandle) && !stub->has(OdDbStub::kUnwritten));
+    if (isThere || stub->has(OdDbStub::kErased) || !wanted.insert(stub).second)
+        return;
+    open.push_back(stub);
+    if (stub->has(OdDbStub::kUnwritten))
+        unwritten.push_back(stub);
+}
+
+DxfTagList OdDbMissingHandles::tagsOf(OdDbStub& stub) const {
+    DxfTagList tags = impl.load(stub)->tagsForFile();
+    if (!concerns(stub) || !stub.has(OdDbStub::kNoHandle))
+        return tags;
+    const std::string handle = dxfHandleText(stub.handle);
+    const int code = impl.typeName(stub) == "DIMSTYLE" ? kHandleOfDimStyle : kHandle;
+    const std::size_t found = tags.find(code);
+    if (found != DxfTagList::npos)
+        tags.replace(found, handle);
+    else
+        tags.insert(1, code, handle);
+    if (impl.hasSubclassMarkers())
+        addOwner(stub, tags);
+    return tags;
+}
+
+void OdDbMissingHandles::addOwner(const OdDbStub& stub, DxfTagList& tags) const {
+    const std::size_t marker = std::min(tags.find(kMarker), tags.own().end);
+    const bool isKnown = stub.owner || !stub.has(OdDbStub::kEntity);
+    if (!isKnown || tags.find(kOwner, {0, marker}) != DxfTagList::npos)
+        return;
+    const bool hasMarker = marker != tags.own().end;
+    tags.insert(hasMarker ? marker : 2, kOwner, dxfHandleText(stub.owner ? stub.owner->handle : 0));
+}
