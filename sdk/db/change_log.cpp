@@ -8,7 +8,23 @@
 void OdDbChangeLog::record(std::unique_ptr<OdDbChange> change) {
     undone.clear();
     change->serial = ++lastSerial;
+    change->stepName = currentName;
     changes.push_back(std::move(change));
+}
+
+void OdDbChangeLog::nameSteps(const std::wstring& name) {
+    const auto known = std::find(names.begin(), names.end(), name);
+    currentName = static_cast<std::uint32_t>(known - names.begin());
+    if (known == names.end())
+        names.push_back(name);
+}
+
+std::wstring OdDbChangeLog::undoName() const {
+    return changes.empty() ? std::wstring() : names[changes[lastStep()]->stepName];
+}
+
+std::wstring OdDbChangeLog::redoName() const {
+    return undone.empty() ? std::wstring() : names[undone.back().back()->stepName];
 }
 
 void OdDbChangeLog::startTransaction() {

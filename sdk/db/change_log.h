@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 // One change. swap() goes to the state before it, and from there to the state after it.
@@ -12,6 +13,7 @@ public:
     virtual ~OdDbChange() = default;
     virtual void swap() = 0;
     std::uint64_t serial = 0;
+    std::uint32_t stepName = 0; // of the step that it belongs to, as a number in the log
 };
 
 class OdDbChangeLog {
@@ -28,6 +30,11 @@ public:
     int transactionCount() const { return static_cast<int>(transactions.size()); }
 
     void startRecord() { place(Kind::Record); }
+    // What is recorded from now on belongs to steps of this name.
+    void nameSteps(const std::wstring& name);
+    // Of the step that undoStep() or redoStep() would take; empty where there is none, or none with a name.
+    std::wstring undoName() const;
+    std::wstring redoName() const;
     void setMark() { place(Kind::Mark); }
     void undoToMark();
     void openBlock();
@@ -56,6 +63,8 @@ private:
     std::vector<Changes> undone; // one entry for each step that redo goes forward
     std::vector<std::size_t> transactions;
     std::vector<Place> places;
+    std::vector<std::wstring> names{std::wstring()};
+    std::uint32_t currentName = 0;
     int openBlocks = 0;
     std::uint32_t currentEpoch = 1;
     std::uint64_t lastSerial = 0;

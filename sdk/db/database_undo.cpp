@@ -22,3 +22,6 @@ bool OdDbDatabase::undo() { return parts->log.undoStep(); }
 bool OdDbDatabase::redo() { return parts->log.redoStep(); }
 bool OdDbDatabase::hasUndo() const { return parts->log.hasUndo(); }
 bool OdDbDatabase::hasRedo() const { return parts->log.hasRedo(); }
+void OdDbDatabase::nameUndoSteps(const OdString& name) { parts->log.nameSteps(name.wide()); }
+OdString OdDbDatabase::undoName() const { return parts->log.undoName(); }
+OdString OdDbDatabase::redoName() const { return parts->log.redoName(); }

@@ -116,6 +116,23 @@ void OdDbHeader::put(std::string_view name, DxfTagList tags) {
     variable.tags = std::move(tags);
 }
 
+// Variables are never taken out of a header but by this, so the others stand in the same order then and now.
+void OdDbHeader::restore(const Variables& former, bool (*isMeant)(std::string_view name)) {
+    changed = true;
+    Variables others, result;
+    std::copy_if(variables.begin(), variables.end(), std::back_inserter(others),
+                 [isMeant](const Variable& variable) { return !isMeant(variable.name); });
+    auto other = others.begin();
+    for (const Variable& variable : former) {
+        if (isMeant(variable.name))
+            result.push_back(variable);
+        else if (other != others.end())
+            result.push_back(*other++);
+    }
+    result.insert(result.end(), other, others.end());
+    variables = std::move(result);
+}
+
 std::vector<std::pair<std::string, std::string>> OdDbHeader::customProperties() const {
     std::vector<std::pair<std::string, std::string>> result;
     result.reserve(variables.size() / 2);

@@ -33,6 +33,11 @@ public:
     // `tags` as they are, the name first.
     void put(std::string_view name, DxfTagList tags);
 
+    // Gives the variables that `isMeant` picks the state and the places that they have in `former`, a state
+    // of this header; all others keep what they have now.
+    using Variables = std::vector<Variable>;
+    void restore(const Variables& former, bool (*isMeant)(std::string_view name));
+
     // Custom properties: pairs of variables that may repeat, as encoded texts in file order.
     std::vector<std::pair<std::string, std::string>> customProperties() const;
     void setCustomProperties(const std::vector<std::pair<std::string, std::string>>& properties);

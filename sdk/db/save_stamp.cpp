@@ -51,5 +51,5 @@ void odDbStampSave(OdDbDatabase& database) {
     if (odDbKeepsSummaryInHeader(database))
         odDbWriteSummaryToHeader(database, *info);
     else
-        odDbWriteSummaryRecord(database, *info, false);
+        odDbStampSummaryRecord(database, *info);
 }

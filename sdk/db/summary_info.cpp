@@ -18,17 +18,16 @@ OdDbDatabaseSummaryInfoPtr presentSummary(OdDbDatabase& database) {
 // owns this change.
 class SummaryChange : public OdDbChange {
 public:
-    SummaryChange(OdDbDatabase& changed, OdDbDatabaseSummaryInfoPtr former)
-        : database(changed), other(std::move(former)) {}
+    explicit SummaryChange(OdDbHeader& changed) : header(changed), other(changed.all()) {}
     void swap() override {
-        OdDbDatabaseSummaryInfoPtr present = presentSummary(database);
-        odDbWriteSummaryToHeader(database, *other);
-        other = present;
+        OdDbHeader::Variables present = header.all();
+        header.restore(other, odDbIsSummaryVariable);
+        other = std::move(present);
     }
 
 private:
-    OdDbDatabase& database;
-    OdDbDatabaseSummaryInfoPtr other;
+    OdDbHeader& header;
+    OdDbHeader::Variables other;
 };
 
 } // namespace
@@ -67,10 +66,10 @@ void oddbPutSummaryInfo(const OdDbDatabaseSummaryInfo* info) {
         throw OdError(eNotInDatabase);
     OdDbDatabase& database = *info->database();
     if (!odDbKeepsSummaryInHeader(database)) {
-        odDbWriteSummaryRecord(database, *info, true);
+        odDbWriteSummaryRecord(database, *info);
         return;
     }
-    OdDbDatabaseSummaryInfoPtr former = presentSummary(database);
+    auto change = std::make_unique<SummaryChange>(database.impl().header);
     if (odDbWriteSummaryToHeader(database, *info))
-        database.impl().log.record(std::make_unique<SummaryChange>(database, std::move(former)));
+        database.impl().log.record(std::move(change));
 }

@@ -5,6 +5,8 @@
 #include "sdk/db/dictionary.h"
 #include "sdk/db/xrecord.h"
 
+#include <algorithm>
+
 namespace {
 
 using Info = OdDbDatabaseSummaryInfo;
@@ -101,22 +103,17 @@ bool odDbWriteSummaryToHeader(OdDbDatabase& database, const Info& info) {
     return true;
 }
 
-bool odDbWriteSummaryRecord(OdDbDatabase& database, const Info& info, bool create) {
-    Info former;
-    odDbReadSummary(database, former);
-    if (former.custom == info.custom &&
-        std::equal(former.fields, former.fields + Info::kFieldCount, info.fields))
-        return false;
-    OdDbXrecordPtr record = summaryRecord(database, OdDb::kForWrite);
-    if (record.isNull() && !create)
-        return false;
-    if (record.isNull())
-        record = createRecord(database);
-    const DxfCodec& codec = database.impl().codec;
-    DxfTagList& tags = record->edit();
-    eraseTexts(tags, record->dataRange());
-    std::size_t place = tags.find(1, record->dataRange()); // the cookie
-    place = place == DxfTagList::npos ? record->dataRange().begin : place + 1;
+bool odDbIsSummaryVariable(std::string_view name) {
+    return name.substr(0, 15) == "$CUSTOMPROPERTY" ||
+           std::find(std::begin(kHeaderNames), std::end(kHeaderNames), name) != std::end(kHeaderNames);
+}
+
+namespace {
+
+void fillRecord(DxfTagList& tags, const OdDbXrecord& record, const DxfCodec& codec, const Info& info) {
+    eraseTexts(tags, record.dataRange());
+    std::size_t place = tags.find(1, record.dataRange()); // the cookie
+    place = place == DxfTagList::npos ? record.dataRange().begin : place + 1;
     for (int field = 0; field < Info::kHyperlinkBase; ++field)
         tags.insert(place++, kRecordCodes[field], codec.encode(info.fields[field]));
     int code = kFirstCustom;
@@ -125,5 +122,29 @@ bool odDbWriteSummaryRecord(OdDbDatabase& database, const Info& info, bool creat
         code = code == kLastCustom ? kLastCustom : code + 1;
     }
     tags.insert(place, kRecordCodes[Info::kHyperlinkBase], codec.encode(info.fields[Info::kHyperlinkBase]));
+}
+
+bool isSameSummary(OdDbDatabase& database, const Info& info) {
+    Info present;
+    odDbReadSummary(database, present);
+    return present.custom == info.custom &&
+           std::equal(present.fields, present.fields + Info::kFieldCount, info.fields);
+}
+
+} // namespace
+
+bool odDbWriteSummaryRecord(OdDbDatabase& database, const Info& info) {
+    if (isSameSummary(database, info))
+        return false;
+    OdDbXrecordPtr record = summaryRecord(database, OdDb::kForWrite);
+    if (record.isNull())
+        record = createRecord(database);
+    fillRecord(record->edit(), *record, database.impl().codec, info);
     return true;
+}
+
+void odDbStampSummaryRecord(OdDbDatabase& database, const Info& info) {
+    const OdDbXrecordPtr record = summaryRecord(database, OdDb::kForRead);
+    if (!record.isNull() && !isSameSummary(database, info))
+        fillRecord(database.impl().editUnrecorded(*record), *record, database.impl().codec, info);
 }

@@ -38,8 +38,11 @@ Document* DocumentManager::adopt(std::unique_ptr<Document> document) {
     return current;
 }
 
+// What was found while reading is told once, here, whoever opens the drawing.
 Document* DocumentManager::adoptOpened(std::unique_ptr<Document> document) {
     Document* opened = adopt(std::move(document));
+    for (const OdString& notice : opened->database()->readWarnings())
+        io.print(hostqt::qString(notice));
     emit documentOpened(opened);
     return opened;
 }
@@ -82,7 +85,11 @@ void DocumentManager::save(Document* document, const QString& path) {
 Document* DocumentManager::saveInstead(Document* document, const OdDbDatabasePtr& drawing,
                                        const QString& path) {
     write(document, *drawing, path);
+    const bool hadSteps = document->database()->hasUndo() || document->database()->hasRedo();
     Document* opened = openFile(path);
+    if (hadSteps)
+        io.print(tr("%1 is a new drawing: the steps before it can't be undone any more.")
+                     .arg(opened->displayName()));
     close(document);
     return opened;
 }

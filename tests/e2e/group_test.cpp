@@ -65,8 +65,12 @@ TEST_F(GroupWorkbench, AddOptionAddsWhatIsSelectedAndTidiesUp) {
     EXPECT_EQ(drawing().numActiveTransactions(), 0);
     enter({"UNDO"});
     EXPECT_EQ(membersOf(L"STUDY"), "15A 15C");
+    EXPECT_TRUE(wasPrinted("Undone: -GROUP."));
     enter({"REDO"});
     EXPECT_EQ(membersOf(L"STUDY"), "15A 15C 155");
+    EXPECT_TRUE(wasPrinted("Done again: -GROUP."));
+    enter({"REDO"});
+    EXPECT_TRUE(wasPrinted("There is nothing to redo."));
 }
 
 TEST_F(GroupWorkbench, RemoveOptionRemovesWhatIsSelectedAndRestoresPickStyle) {

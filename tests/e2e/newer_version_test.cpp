@@ -65,6 +65,15 @@ TEST_F(NewerVersionTest, YesSavesANewerDrawingAndOpensItInPlaceOfTheOldOne) {
     EXPECT_EQ(title(), "old.dxf - Workbench");
 }
 
+TEST_F(NewerVersionTest, TheStepsBeforeItAreGoneAndThatIsSaid) {
+    enter({"SAVE", "Yes"});
+    EXPECT_EQ(
+        transcript().filter("old.dxf is a new drawing: the steps before it can't be undone any more.").size(),
+        1);
+    enter({"UNDO"});
+    EXPECT_EQ(lastLine(), "There is nothing to undo.");
+}
+
 TEST_F(NewerVersionTest, WhatIsLeftOutIsSaid) {
     enter({"SAVE", "Yes"});
     EXPECT_EQ(transcript().filter("leaves out").size(), 1);

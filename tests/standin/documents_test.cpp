@@ -6,6 +6,7 @@
 #include "standin/documents/document_manager.h"
 #include "standin/sysvars/read_context.h"
 
+#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -99,6 +100,24 @@ TEST_F(DocumentsTest, ReferencesOfAnOpenedDrawingAreLoaded) {
         EXPECT_FALSE(part->xrefDatabase().isNull());
         EXPECT_FALSE(opened->isModified());
     }
+}
+
+TEST_F(DocumentsTest, WhatWasFoundInADrawingIsToldOnceWhenItIsOpened) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("careless.dxf");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("0\nSECTION\n2\nEntities\n0\nPOINT\n10\n1,5\n0\nENDSEC\n");
+    file.close();
+    const QStringList notices{"line 4: a section name in small letters",
+                              "line 8: \"1,5\" is no number for the group code 10",
+                              "line 11: the file has no end mark"};
+    QStringList told;
+    QObject::connect(&console, &Console::lineWritten, [&told](const QString& text) { told << text; });
+    documents.openFile(path);
+    EXPECT_EQ(told, notices);
+    documents.openCopy(path, "Copy");
+    EXPECT_EQ(told, notices + notices);
 }
 
 TEST_F(DocumentsTest, UnsavedDrawingIsUntitled) {

@@ -38,7 +38,5 @@ void addVariableCommands(const CommandScope& scope); // SETVAR, and each variabl
 
 // A command that needs a drawing; without one it only says so.
 std::function<void()> withDrawing(const CommandScope& scope, void (*command)(const CommandScope&));
-// What was left out or mended while the drawing was read.
-void printReadWarnings(standin::Console& console, standin::Document& document);
 
 } // namespace workbench

@@ -33,7 +33,7 @@ void openDrawing(const CommandScope& scope) {
         return;
     if (Document* open = scope.documents.documentOfFile(*path))
         return scope.documents.activate(open);
-    printReadWarnings(scope.console, *scope.documents.openFile(*path));
+    scope.documents.openFile(*path);
 }
 
 void closeCurrent(const CommandScope& scope) {
@@ -90,11 +90,6 @@ bool write(DocumentManager& documents, Document& document, const QString& path, 
 }
 
 } // namespace
-
-void printReadWarnings(Console& console, Document& document) {
-    for (const OdString& warning : document.database()->readWarnings())
-        console.print(hostqt::qString(warning));
-}
 
 bool saveDrawing(DocumentManager& documents, Document& document, const FileQuestions& files) {
     if (document.path().isEmpty())

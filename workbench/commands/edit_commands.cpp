@@ -1,6 +1,7 @@
 // Commands that take changes back, select objects and tell about them.
 #include "workbench/commands/commands.h"
 
+#include "host/text.h"
 #include "sdk/db/database.h"
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
@@ -18,15 +19,25 @@ namespace {
 
 QString tr(const char* text) { return QCoreApplication::translate("EditCommands", text); }
 
+// What was changed outside of a command has no name.
+QString told(const QString& named, const QString& nameless, const OdString& name) {
+    return name.isEmpty() ? nameless : named.arg(hostqt::qString(name));
+}
+
 void undo(const CommandScope& scope) {
-    if (!scope.documents.currentOne()->database()->undo())
-        scope.console.print(tr("There is nothing to undo."));
+    OdDbDatabase& drawing = *scope.documents.currentOne()->database();
+    const OdString name = drawing.undoName();
+    scope.console.print(drawing.undo() ? told(tr("Undone: %1."), tr("The last change was undone."), name)
+                                       : tr("There is nothing to undo."));
     HostUpdateDisplay();
 }
 
 void redo(const CommandScope& scope) {
-    if (!scope.documents.currentOne()->database()->redo())
-        scope.console.print(tr("There is nothing to redo."));
+    OdDbDatabase& drawing = *scope.documents.currentOne()->database();
+    const OdString name = drawing.redoName();
+    scope.console.print(drawing.redo()
+                            ? told(tr("Done again: %1."), tr("The last change was done again."), name)
+                            : tr("There is nothing to redo."));
     HostUpdateDisplay();
 }
 
@@ -65,10 +76,13 @@ void addEditCommands(const CommandScope& scope) {
     scope.loop.add({"SELECT", tr("Selects objects."), withDrawing(scope, select)});
     scope.loop.add({"LIST", tr("Tells about the selected objects."), withDrawing(scope, list)});
     DocumentManager& documents = scope.documents;
-    QObject::connect(&scope.loop, &CommandLoop::commandStarted, &documents, [&documents] {
-        if (Document* current = documents.currentOne())
-            current->database()->startUndoRecord();
-    });
+    QObject::connect(&scope.loop, &CommandLoop::commandStarted, &documents,
+                     [&documents](const QString& name) {
+                         if (Document* current = documents.currentOne()) {
+                             current->database()->startUndoRecord();
+                             current->database()->nameUndoSteps(hostqt::odString(name));
+                         }
+                     });
 }
 
 } // namespace workbench

@@ -67,6 +67,57 @@ TEST_P(Summary, AbortTakesTheRecordBack) {
     EXPECT_EQ(oddbGetSummaryInfo(database.get())->getTitle(), OdString());
     EXPECT_EQ(oddbGetSummaryInfo(database.get())->numCustomInfo(), 0);
     EXPECT_FALSE(database->isModified());
+    EXPECT_EQ(database->writeBytes(), before) << "no variable, record or entry is left behind";
+}
+
+// A save between changes is no step: it can't be undone, and what was undone can still be done again.
+TEST_P(Summary, SavingLeavesNoStep) {
+    const QTemporaryDir folder;
+    const OdString path = folder.filePath("drawing.dxf").toStdWString();
+    const OdDbDatabasePtr database = drawingOf(GetParam());
+    const auto setTitle = [&](const wchar_t* title) {
+        const auto info = oddbGetSummaryInfo(database.get());
+        database->startUndoRecord();
+        info->setTitle(title);
+        oddbPutSummaryInfo(info.get());
+    };
+    const auto title = [&] { return oddbGetSummaryInfo(database.get())->getTitle(); };
+    setTitle(L"One");
+    setTitle(L"Two");
+    ASSERT_TRUE(database->undo());
+    database->writeFile(path);
+    EXPECT_EQ(oddbGetSummaryInfo(OdDbDatabase::readFile(path).get())->getRevisionNumber(), OdString(L"1"));
+    EXPECT_FALSE(database->isModified());
+    EXPECT_TRUE(database->redo()) << "saving has changed nothing";
+    EXPECT_EQ(title(), OdString(L"Two"));
+    EXPECT_TRUE(database->undo());
+    EXPECT_EQ(title(), OdString(L"One"));
+    EXPECT_TRUE(database->undo());
+    EXPECT_EQ(title(), OdString());
+    EXPECT_FALSE(database->undo()) << "a step of the save's own";
+}
+
+TEST_P(Summary, UndoneFieldsStandAsTheFileHasThem) {
+    OdDbDatabasePtr database = drawingOf(GetParam());
+    auto info = oddbGetSummaryInfo(database.get());
+    info->setTitle(L"Title");
+    info->setCustomSummaryInfo(0, L"key", L"value");
+    oddbPutSummaryInfo(info.get());
+    std::string text = database->writeBytes();
+    text.replace(text.find("Title\n"), 5, "Title \\U+0041"); // another spelling than ours
+    database = OdDbDatabase::readBytes(text);
+    database->startUndoRecord();
+    info = oddbGetSummaryInfo(database.get());
+    info->setTitle(L"Other");
+    info->setAuthor(L"Author");
+    info->deleteCustomSummaryInfo(0);
+    oddbPutSummaryInfo(info.get());
+    const std::string changed = database->writeBytes();
+    EXPECT_NE(changed, text);
+    database->undo();
+    EXPECT_EQ(database->writeBytes(), text);
+    database->redo();
+    EXPECT_EQ(database->writeBytes(), changed);
 }
 
 INSTANTIATE_TEST_SUITE_P(Versions, Summary, testing::Values("AC1015", "AC1018", "AC1021", "AC1032"),
@@ -141,4 +192,31 @@ TEST(SummaryRecord, ManyQuickSavesLoseNoEditingTime) {
         elapsed = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
     }
     EXPECT_GT(database->getTDINDWG().asJulianFraction() * 86400000, elapsed - 1);
+}
+
+// Values that are set meanwhile, and are no steps, stay where they are.
+TEST(SummaryHeader, UndoingLeavesOtherHeaderValuesAlone) {
+    const OdDbDatabasePtr database = drawingOf("AC1018");
+    const auto info = oddbGetSummaryInfo(database.get());
+    info->setTitle(L"Title");
+    info->setCustomSummaryInfo(0, L"key", L"value");
+    oddbPutSummaryInfo(info.get());
+    database->setINSUNITS(OdDb::kUnitsMeters);
+    setCurrentUCS(database.get(), {1, 2, 3}, {1, 0, 0}, {0, 1, 0});
+    database->undo();
+    EXPECT_EQ(database->getINSUNITS(), OdDb::kUnitsMeters);
+    EXPECT_EQ(get_UCSORG(database.get()), OdGePoint3d(1, 2, 3));
+    EXPECT_EQ(database->writeBytes().find("$TITLE"), std::string::npos);
+    EXPECT_EQ(database->writeBytes().find("$CUSTOMPROPERTY"), std::string::npos);
+}
+
+TEST(SummaryHeader, ADrawingWithoutAHeaderHasNoneAfterUndoingEither) {
+    const std::string text = "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n";
+    const OdDbDatabasePtr database = OdDbDatabase::readBytes(text);
+    const auto info = oddbGetSummaryInfo(database.get());
+    info->setTitle(L"Title");
+    oddbPutSummaryInfo(info.get());
+    EXPECT_NE(database->writeBytes(), text);
+    database->undo();
+    EXPECT_EQ(database->writeBytes(), text);
 }

@@ -179,3 +179,26 @@ TEST_F(Undo, SummaryIsUndoneLikeAnyChange) {
     database->redo();
     EXPECT_EQ(titleOf(), OdString(L"One"));
 }
+
+TEST_F(Undo, StepsHaveTheNameThatTheirChangesWereMadeUnder) {
+    EXPECT_EQ(database->undoName(), OdString());
+    EXPECT_EQ(database->redoName(), OdString());
+    addLine(*database, 1);
+    EXPECT_EQ(database->undoName(), OdString()) << "made under no name";
+    for (const wchar_t* name : {L"FIRST", L"SECOND", L"FIRST"}) {
+        database->startUndoRecord();
+        database->nameUndoSteps(name);
+        addLine(*database, 2);
+    }
+    database->startUndoRecord();
+    database->nameUndoSteps(L"NOTHING");
+    EXPECT_EQ(database->undoName(), OdString(L"FIRST"));
+    database->undo();
+    EXPECT_EQ(database->undoName(), OdString(L"SECOND"));
+    EXPECT_EQ(database->redoName(), OdString(L"FIRST"));
+    database->redo();
+    EXPECT_EQ(database->undoName(), OdString(L"FIRST"));
+    database->undo();
+    database->undo();
+    EXPECT_EQ(database->redoName(), OdString(L"SECOND"));
+}
