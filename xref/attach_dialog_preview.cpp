@@ -5,19 +5,37 @@
 #include "sdk/db/thumbnail.h"
 #include "xref/attach_host.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QImage>
+#include <QImageReader>
 #include <QLabel>
 #include <QPixmap>
 
 namespace {
 
-// Null bytes and damaged pictures give a null image; a damaged one is told on the console.
+const int largestSide = 16384; // of a preview that is read at all
+const int shownSide = 1024;    // to which a larger one is scaled while it is read
+
+// What a file claims about its picture costs nothing until it is believed.
+QImage readPicture(const std::string& png) {
+    QByteArray bytes = QByteArray::fromRawData(png.data(), static_cast<int>(png.size()));
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer, "PNG");
+    const QSize size = reader.size();
+    if (!size.isValid() || size.width() > largestSide || size.height() > largestSide)
+        return {};
+    if (size.width() > shownSide || size.height() > shownSide)
+        reader.setScaledSize(size.scaled(shownSide, shownSide, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    return reader.read();
+}
+
+// Null bytes, damaged pictures and too large ones give a null image; one that is there and can't be shown is
+// told on the console.
 QImage imageOf(const QString& path, OdThumbnailImage& thumbnail) {
     if (!thumbnail.hasPng() && thumbnail.hasBmp())
         thumbnail.convBmpToPng();
-    const QImage image = QImage::fromData(reinterpret_cast<const uchar*>(thumbnail.png.data()),
-                                          static_cast<int>(thumbnail.png.size()), "PNG");
+    const QImage image = readPicture(thumbnail.png);
     if (image.isNull() && (thumbnail.hasBmp() || thumbnail.hasPng())) {
         OdString text;
         reportToConsole(attach::io(),

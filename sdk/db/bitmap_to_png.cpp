@@ -2,6 +2,7 @@
 #include "sdk/db/bitmap_to_png.h"
 
 #include <QByteArray>
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -10,6 +11,7 @@ namespace {
 
 constexpr std::size_t kInfoHeader = 40;
 constexpr int kLargestSide = 16384;
+constexpr int kFullSide = 2048; // larger pictures lose whole rows and columns: a preview is small
 
 template <class T> T littleEndian(std::string_view bytes, std::size_t at) {
     T value = 0;
@@ -92,11 +94,12 @@ std::string odDbPngOfBitmap(std::string_view source) {
     Bitmap bitmap;
     if (!bitmap.parse(source))
         return {};
+    const int step = (std::max(bitmap.width, bitmap.height) + kFullSide - 1) / kFullSide;
     std::string rows;
-    for (int y = 0; y < bitmap.height; ++y) {
+    for (int y = 0; y < bitmap.height; y += step) {
         const int line = bitmap.topDown ? y : bitmap.height - 1 - y;
         rows += '\0'; // rows are not filtered
-        for (int x = 0; x < bitmap.width; ++x)
+        for (int x = 0; x < bitmap.width; x += step)
             bitmap.appendPixel(rows, bitmap.pixels + static_cast<std::size_t>(line) * bitmap.rowSize, x);
     }
     const QByteArray packed =
@@ -106,7 +109,8 @@ std::string odDbPngOfBitmap(std::string_view source) {
                            static_cast<std::size_t>(packed.size() - lengthPrefix));
     const std::string kind("\x08\x02\x00\x00\x00", 5); // 8 bits a channel, true colour
     return std::string("\x89PNG\r\n\x1a\n") +
-           chunk("IHDR", bigEndian(static_cast<std::uint32_t>(bitmap.width)) +
-                             bigEndian(static_cast<std::uint32_t>(bitmap.height)) + kind) +
+           chunk("IHDR", bigEndian(static_cast<std::uint32_t>((bitmap.width + step - 1) / step)) +
+                             bigEndian(static_cast<std::uint32_t>((bitmap.height + step - 1) / step)) +
+                             kind) +
            chunk("IDAT", data) + chunk("IEND", "");
 }

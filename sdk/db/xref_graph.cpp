@@ -21,6 +21,7 @@ OdDbXrefGraphNode nodeOf(const OdDbDatabase& database, const OdDbBlockTableRecor
 
 OdResult OdDbXrefGraph::getFrom(OdDbDatabase* database, OdDbXrefGraph& graph, bool) {
     graph.nodes.clear();
+    graph.followed.clear();
     if (!database)
         return eNullObjectPointer;
     OdDbXrefGraphNode host;
@@ -30,7 +31,7 @@ OdResult OdDbXrefGraph::getFrom(OdDbDatabase* database, OdDbXrefGraph& graph, bo
     return eOk;
 }
 
-// Loading stops at cycles, so the loaded drawings form a tree.
+// Loading stops at cycles; what several share would multiply if it were followed from each of them.
 void OdDbXrefGraph::addReferences(OdDbDatabase& database, std::size_t parent) {
     const auto blocks = odrxCast<OdDbBlockTable>(database.getBlockTableId().safeOpenObject());
     for (OdDbSymbolTableIterator it = blocks->newIterator(); !it.done(); it.step()) {
@@ -44,7 +45,7 @@ void OdDbXrefGraph::addReferences(OdDbDatabase& database, std::size_t parent) {
             nodes.back().flags |= OdDbXrefGraphNode::kNested;
         nodes[parent].children.push_back(position);
         const OdDbDatabasePtr loaded = block->xrefDatabase();
-        if (!loaded.isNull())
+        if (!loaded.isNull() && followed.insert(loaded.get()).second)
             addReferences(*loaded, position);
     }
 }

@@ -3,6 +3,8 @@
 
 #include "sdk/db/xref_man.h"
 
+#include <set>
+
 enum OdDbXrefStatus { kXrfNotAnXref = 0, kXrfResolved = 1, kXrfUnloaded = 2, kXrfFileNotFound = 4 };
 
 struct OdDbXrefGraphNode {
@@ -20,7 +22,7 @@ struct OdDbXrefGraphNode {
 class OdDbXrefGraph {
 public:
     // Rebuilds the graph. The host comes first, then each reference in table order with those it brings
-    // along.
+    // along; a drawing that several refer to brings its own along once.
     static OdResult getFrom(OdDbDatabase* database, OdDbXrefGraph& graph, bool includeGhosts = false);
     std::size_t numNodes() const { return nodes.size(); }
     const OdDbXrefGraphNode& node(std::size_t index) const { return nodes.at(index); }
@@ -31,4 +33,5 @@ public:
 private:
     void addReferences(OdDbDatabase& database, std::size_t parent);
     std::vector<OdDbXrefGraphNode> nodes;
+    std::set<const OdDbDatabase*> followed;
 };

@@ -2,34 +2,15 @@
 #include "sdk/db/xref_man.h"
 
 #include "sdk/db/database_impl.h"
+#include "sdk/db/xref_opening.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <algorithm>
 
 namespace {
 
 QString qt(const OdString& text) { return QString::fromStdWString(text.wide()); }
 OdString od(const QString& text) { return text.toStdWString(); }
-
-// Canonical paths of the drawings on the way from the host to the one that is being loaded.
-std::vector<QString>& loadingFiles() {
-    static std::vector<QString> files;
-    return files;
-}
-
-class LoadingFile {
-public:
-    explicit LoadingFile(const QString& path) { loadingFiles().push_back(path); }
-    ~LoadingFile() { loadingFiles().pop_back(); }
-    LoadingFile(const LoadingFile&) = delete;
-    LoadingFile& operator=(const LoadingFile&) = delete;
-};
-
-bool isOnTheWay(const QString& path) {
-    const auto& files = loadingFiles();
-    return std::find(files.begin(), files.end(), path) != files.end();
-}
 
 void noteDependency(OdDbDatabase& database, const OdString& savedPath, const QFileInfo& found) {
     OdFileDependencyInfo info;
@@ -69,18 +50,30 @@ void takeUnits(OdDbBlockTableRecord& record, const OdDbDatabase& loaded) {
 // A drawing that is only being shown has changed nothing by it, and there is nothing to undo.
 enum class Loading { IsAChange, OnlyShows };
 
+// The drawing of a file, which one opening reads once.
+OdDbDatabasePtr loadedFrom(OdDbXrefOpening& opening, const QFileInfo& file, OdResult& result) {
+    const QString path = file.canonicalFilePath();
+    OdDbDatabasePtr loaded = opening.known(path);
+    result = loaded.isNull() ? opening.enter(path) : eOk;
+    if (!loaded.isNull() || result != eOk)
+        return loaded;
+    const OdDbXrefOpening::OnTheWay guard(opening);
+    loaded = OdDbDatabase::readFile(od(file.absoluteFilePath()));
+    loadNested(*loaded);
+    opening.keep(loaded);
+    return loaded;
+}
+
 OdResult loadFile(OdDbBlockTableRecord& record, const QFileInfo& file, Loading loading) {
     OdDbDatabase& host = *record.database();
-    const QString path = file.canonicalFilePath();
-    const LoadingFile hostGuard(QFileInfo(qt(host.getFilename())).canonicalFilePath());
-    if (isOnTheWay(path))
-        return eSelfReference;
+    OdDbXrefOpening opening(host);
     OdDbDatabasePtr loaded = record.xrefDatabase();
     const bool isThere = isLoadedFrom(record, file);
     if (!isThere) {
-        const LoadingFile guard(path);
-        loaded = OdDbDatabase::readFile(od(file.absoluteFilePath()));
-        loadNested(*loaded);
+        OdResult result = eOk;
+        loaded = loadedFrom(opening, file, result);
+        if (result != eOk)
+            return result;
         noteDependency(host, record.pathName(), file);
     }
     if (loading == Loading::IsAChange)
@@ -161,6 +154,7 @@ void OdDbXRefMan::setOverlaid(OdDbBlockTableRecord* record, bool overlaid) {
 
 OdDbObjectIdArray OdDbXRefMan::loadAll(OdDbDatabase* database) {
     OdDbObjectIdArray failed;
+    const OdDbXrefOpening opening(*database);
     const auto blocks = odrxCast<OdDbBlockTable>(database->getBlockTableId().safeOpenObject());
     for (OdDbSymbolTableIterator it = blocks->newIterator(); !it.done(); it.step()) {
         const auto block = odrxCast<OdDbBlockTableRecord>(it.getRecordId().openObject());

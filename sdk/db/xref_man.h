@@ -17,10 +17,11 @@ public:
 
 class OdDbXRefMan {
 public:
-    // Reads the drawing of a reference, and those that it attaches in turn: overlays are not carried on, and
-    // a drawing that is being loaded already is not entered again. Sets the block's units. eOk when loaded;
-    // no exception, but the code of the failure, for a null record, a block that is no reference, and a
-    // missing or unreadable file. A reference that is loaded from that very file, unchanged since, stays as
+    // Reads the drawing of a reference, and those that it attaches in turn: overlays are not carried on, a
+    // drawing that is being loaded already is not entered again, and one that several refer to is read once
+    // and shared. How many and how deep is limited, see xref_opening.h. Sets the block's units. eOk when
+    // loaded; no exception, but the code of the failure, for a null record, a block that is no reference, and
+    // a missing or unreadable file. A reference that is loaded from that very file, unchanged since, stays as
     // it is: unload it first to have it read anew.
     static OdResult load(OdDbBlockTableRecord* record);
     static void unload(OdDbBlockTableRecord* record);

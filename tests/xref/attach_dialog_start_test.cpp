@@ -2,7 +2,9 @@
 #include "sdk/db/thumbnail.h"
 #include "tests/xref/attach_dialog_fixture.h"
 
+#include <QBuffer>
 #include <QGroupBox>
+#include <QImage>
 #include <QLayout>
 
 TEST_F(AttachDialog, ControlsHaveTheirDefaults) {
@@ -283,6 +285,38 @@ TEST_F(AttachDialog, PreviewOfTheFileIsShown) {
     EXPECT_EQ(read.pixelColor(0, 0), QColor(255, 0, 0));
     open(inFolder("part.dxf"));
     EXPECT_EQ(control<QLabel>("previewLabel")->pixmap(Qt::ReturnByValue).size(), QSize(200, 100));
+}
+
+namespace {
+
+std::string largePng(int width, int height) {
+    QImage image(width, height, QImage::Format_Mono);
+    image.fill(0);
+    QBuffer buffer;
+    image.save(&buffer, "PNG");
+    return buffer.data().toStdString();
+}
+
+} // namespace
+
+TEST_F(AttachDialog, APreviewThatClaimsToBeHugeIsNotBelieved) {
+    provideServices();
+    const OdDbDatabasePtr part = smallDrawing();
+    OdThumbnailImage image;
+    image.bmp = largePng(30000, 64);
+    odDbPutPreviewBitmap(part.get(), image);
+    part->writeFile(odPath("part.dxf"));
+    EXPECT_TRUE(loadPreviewImage(inFolder("part.dxf")).isNull());
+    EXPECT_EQ(services->reported.size(), 1) << "it is told that the preview can't be shown";
+}
+
+TEST_F(AttachDialog, ALargePreviewIsScaledWhileItIsRead) {
+    const OdDbDatabasePtr part = smallDrawing();
+    OdThumbnailImage image;
+    image.bmp = largePng(16384, 4096);
+    odDbPutPreviewBitmap(part.get(), image);
+    part->writeFile(odPath("part.dxf"));
+    EXPECT_EQ(loadPreviewImage(inFolder("part.dxf")).size(), QSize(1024, 256));
 }
 
 TEST_F(AttachDialog, FileWithoutAPreviewShowsNone) {

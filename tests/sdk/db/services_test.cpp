@@ -128,6 +128,24 @@ TEST(Previews, BitmapGoesIntoTheFileAndBack) {
     EXPECT_EQ(other.bmp, image.bmp);
 }
 
+// One bit a pixel: the picture is 24 times the file.
+TEST(Previews, LargeBitmapsLoseRowsAndColumns) {
+    const int width = 5000, height = 3000;
+    std::string bitmap(48, '\0');
+    const auto put = [&bitmap](std::size_t at, int value) {
+        for (std::size_t byte = 0; byte < 4; ++byte)
+            bitmap[at + byte] = static_cast<char>(value >> (8 * byte));
+    };
+    put(0, 40);
+    put(4, width);
+    put(8, height);
+    put(12, 1 | 1 << 16);
+    OdThumbnailImage image;
+    image.bmp = bitmap + std::string(std::size_t{(width + 31) / 32 * 4} * height, '\0');
+    ASSERT_TRUE(image.convBmpToPng());
+    EXPECT_EQ(image.png.substr(16, 8), std::string("\0\0\x06\x83\0\0\x03\xe8", 8)) << "1667 by 1000";
+}
+
 TEST(Previews, DrawingWithoutOneAndOtherFilesSaySo) {
     OdThumbnailImage image;
     OdStreamBufPtr without(new OdStreamBuf(OdDbDatabase::createEmpty()->writeBytes()));

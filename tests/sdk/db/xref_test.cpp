@@ -193,3 +193,91 @@ TEST_F(References, ReferenceEntitySurvivesSaving) {
     EXPECT_TRUE(block->isFromOverlayReference());
     EXPECT_EQ(block->pathName(), OdString(L"a.dxf"));
 }
+
+// Twenty-two drawings, each with the next one twice, would be read four million times one by one.
+TEST_F(References, ADrawingThatManyReferToIsReadOnce) {
+    const int count = 22;
+    for (int i = count; i-- > 0;) {
+        const OdDbDatabasePtr drawing = OdDbDatabase::createEmpty();
+        if (i + 1 < count)
+            for (const wchar_t* name : {L"first", L"second"})
+                OdDbXRefManExt::addNewXRefDefBlock(drawing.get(), std::to_wstring(i + 1) + L".dxf", name,
+                                                   false);
+        drawing->writeFile(pathOf((std::to_string(i) + ".dxf").c_str()));
+    }
+    const OdDbDatabasePtr host = OdDbDatabase::readFile(pathOf("0.dxf"));
+    EXPECT_TRUE(OdDbXRefMan::loadAll(host.get()).empty());
+    const auto loadedAs = [](const OdDbDatabase& drawing, const wchar_t* name) {
+        const auto blocks = odrxCast<OdDbBlockTable>(drawing.getBlockTableId().safeOpenObject());
+        return odrxCast<OdDbBlockTableRecord>(blocks->getAt(name, OdDb::kForRead))->xrefDatabase();
+    };
+    OdDbDatabasePtr drawing = host;
+    for (int i = 1; i < count; ++i) {
+        const OdDbDatabasePtr first = loadedAs(*drawing, L"first");
+        ASSERT_FALSE(first.isNull()) << i;
+        EXPECT_EQ(first.get(), loadedAs(*drawing, L"second").get()) << i;
+        drawing = first;
+    }
+    OdDbXrefGraph graph;
+    OdDbXrefGraph::getFrom(host.get(), graph);
+    EXPECT_EQ(graph.numNodes(), 2u * (count - 1) + 1) << "each reference of each drawing once";
+    EXPECT_TRUE(host->readWarnings().empty());
+}
+
+// b alone shows c, c alone shows b: what one of them lacks, since the other is on the way, is no state to
+// share.
+TEST_F(References, WhatACircleLeavesOutIsThereOnAnotherWay) {
+    write("c.dxf", {"b.dxf"});
+    write("b.dxf", {"c.dxf"});
+    write("host.dxf", {"b.dxf", "c.dxf"});
+    const OdDbDatabasePtr host = OdDbDatabase::readFile(pathOf("host.dxf"));
+    EXPECT_TRUE(OdDbXRefMan::loadAll(host.get()).empty());
+    const auto nested = [](const OdDbDatabase& drawing, const wchar_t* name) {
+        const auto blocks = odrxCast<OdDbBlockTable>(drawing.getBlockTableId().safeOpenObject());
+        return odrxCast<OdDbBlockTableRecord>(blocks->getAt(name, OdDb::kForRead))->xrefDatabase();
+    };
+    const OdDbDatabasePtr b = nested(*host, L"b.dxf"), c = nested(*host, L"c.dxf");
+    ASSERT_FALSE(b.isNull() || c.isNull());
+    EXPECT_FALSE(nested(*b, L"c.dxf").isNull());
+    EXPECT_FALSE(nested(*c, L"b.dxf").isNull());
+    EXPECT_TRUE(nested(*nested(*b, L"c.dxf"), L"b.dxf").isNull());
+}
+
+TEST_F(References, TooDeepOnesAreLeftOutAndTold) {
+    const int count = 70;
+    for (int i = count; i-- > 0;) {
+        const OdDbDatabasePtr drawing = OdDbDatabase::createEmpty();
+        if (i + 1 < count)
+            OdDbXRefManExt::addNewXRefDefBlock(drawing.get(), std::to_wstring(i + 1) + L".dxf", L"next",
+                                               false);
+        drawing->writeFile(pathOf((std::to_string(i) + ".dxf").c_str()));
+    }
+    const OdDbDatabasePtr host = OdDbDatabase::readFile(pathOf("0.dxf"));
+    EXPECT_TRUE(OdDbXRefMan::loadAll(host.get()).empty());
+    ASSERT_EQ(host->readWarnings().size(), 1u);
+    EXPECT_EQ(
+        host->readWarnings()[0].toUtf8(),
+        "1 references are not loaded: a drawing loads no more than 1000 files, and none beyond 64 levels");
+    int depth = 0;
+    for (OdDbDatabasePtr drawing = host; !drawing.isNull(); ++depth) {
+        const auto blocks = odrxCast<OdDbBlockTable>(drawing->getBlockTableId().safeOpenObject());
+        const auto block = odrxQuery<OdDbBlockTableRecord>(blocks->getAt(L"next", OdDb::kForRead).get());
+        drawing = block.isNull() ? OdDbDatabasePtr() : block->xrefDatabase();
+    }
+    EXPECT_EQ(depth, 1 + 64) << "the host and what it refers to";
+}
+
+TEST_F(References, ADrawingReadsNoMoreFilesThanTheLimit) {
+    const OdString small = pathOf("0.dxf");
+    OdDbDatabase::createEmpty()->writeFile(small);
+    const OdDbDatabasePtr host = OdDbDatabase::createEmpty();
+    for (int i = 0; i < 1003; ++i) {
+        const QString name = QString::number(i) + ".dxf";
+        QFile::copy(folder.filePath("0.dxf"), folder.filePath(name));
+        OdDbXRefManExt::addNewXRefDefBlock(host.get(), name.toStdWString(), name.toStdWString(), false);
+    }
+    host->writeFile(pathOf("host.dxf"));
+    EXPECT_EQ(OdDbXRefMan::loadAll(host.get()).size(), 3u);
+    ASSERT_EQ(host->readWarnings().size(), 1u);
+    EXPECT_EQ(host->readWarnings()[0].toUtf8().substr(0, 31), "3 references are not loaded: a ");
+}
