@@ -34,6 +34,5 @@ double odDbDimensionValue(const OdDbEntity& entity, std::string_view marker, int
     if (styles.isNull())
         return otherwise;
     const OdDbObjectPtr style = styles->getAt(entity.textValue(marker, kStyleName)).openObject();
-    return style.isNull() ? otherwise
-                          : style->tags().real(style->tags().subclass(kDimStyle), code, otherwise);
+    return style.isNull() ? otherwise : style->tags().real(kDimStyle, code, otherwise);
 }

@@ -85,8 +85,11 @@ void OdDbDrawingReader::checkKind(const std::string& bytes) const {
         return;
     if (bytes.compare(0, 3, "AC1") == 0 || bytes.compare(0, 4, "MC0.") == 0)
         refuse(eUnsupportedFileFormat, L"binary DWG drawings are not supported, save it as DXF");
-    const std::size_t start = bytes.compare(0, 3, kByteOrderMark) == 0 ? 3 : 0;
-    DxfScanner scanner(std::string_view(bytes).substr(start));
+    constexpr std::size_t enoughForATag = 4096;
+    std::string start = bytes.substr(bytes.compare(0, 3, kByteOrderMark) == 0 ? 3 : 0, enoughForATag);
+    if (dxfHasLoneReturns(start))
+        start = dxfWithLineFeeds(std::move(start));
+    DxfScanner scanner(start);
     DxfTag tag;
     try {
         scanner.next(tag);

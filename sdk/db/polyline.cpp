@@ -18,6 +18,8 @@ constexpr int kClosed = 1;
 constexpr int kSpaceCurve = 8;
 constexpr int kMeshes = 16 | 64;
 constexpr int kFramePoint = 16;
+constexpr int kFaceBits = 64 | 128;
+constexpr int kFace = 128; // of a polyface mesh: it names vertices and is none
 constexpr int kStartWidth = 40;
 constexpr int kEndWidth = 41;
 constexpr int kWidth = 43;
@@ -67,7 +69,7 @@ std::vector<OdDbPolylineVertex> OdDbPolyline::vertices() const {
     return list;
 }
 
-bool OdDbPolyline::isClosed() const { return content.integer(content.subclass(kLight), kFlags) & kClosed; }
+bool OdDbPolyline::isClosed() const { return content.integer(kLight, kFlags) & kClosed; }
 
 double OdDbPolyline::constantWidth() const {
     const DxfTagList::Range range = content.subclass(kLight);
@@ -85,7 +87,7 @@ double OdDbPolyline::constantWidth() const {
 }
 
 void OdDbPolyline::setClosed(bool closed) {
-    const std::int64_t flags = content.integer(content.subclass(kLight), kFlags);
+    const std::int64_t flags = content.integer(kLight, kFlags);
     edit().set(kLight, kFlags, dxfText(closed ? flags | kClosed : flags & ~std::int64_t{kClosed}));
 }
 
@@ -110,39 +112,39 @@ void OdDbPolyline::setVertices(const std::vector<OdDbPolylineVertex>& list) {
 
 std::vector<OdDbPolylineVertex> OdDb2dPolyline::vertices() const {
     std::vector<OdDbPolylineVertex> list;
-    const double start = content.real(content.whole(), kStartWidth);
-    const double end = content.real(content.whole(), kEndWidth);
+    const double start = content.real(content.own(), kStartWidth);
+    const double end = content.real(content.own(), kEndWidth);
     for (const OdDbObjectId id : odDbSubEntities(objectId())) {
         const OdDbObjectPtr vertex = id.openObject();
         const DxfTagList& tags = vertex->tags();
-        if (tags.empty() || tags[0].value() != "VERTEX" ||
-            (tags.integer(tags.whole(), kFlags) & kFramePoint) != 0)
+        const std::int64_t flags = tags.integer(tags.own(), kFlags);
+        if (tags.empty() || tags[0].value() != "VERTEX" || (flags & kFramePoint) != 0 ||
+            (flags & kFaceBits) == kFace)
             continue;
-        list.push_back({tags.point(tags.whole(), 10), tags.real(tags.whole(), 42),
-                        tags.real(tags.whole(), kStartWidth, start),
-                        tags.real(tags.whole(), kEndWidth, end)});
+        list.push_back({tags.point(tags.own(), 10), tags.real(tags.own(), 42),
+                        tags.real(tags.own(), kStartWidth, start), tags.real(tags.own(), kEndWidth, end)});
     }
     return list;
 }
 
-bool OdDb2dPolyline::isClosed() const { return content.integer(content.whole(), kFlags) & kClosed; }
+bool OdDb2dPolyline::isClosed() const { return content.integer(content.own(), kFlags) & kClosed; }
 
 // Vertices that say nothing have the widths of the polyline.
 double OdDb2dPolyline::constantWidth() const {
-    const double start = content.real(content.whole(), kStartWidth);
-    const double end = content.real(content.whole(), kEndWidth);
+    const double start = content.real(content.own(), kStartWidth);
+    const double end = content.real(content.own(), kEndWidth);
     std::vector<double> widths;
     for (const OdDbObjectId id : odDbSubEntities(objectId())) {
         const OdDbObjectPtr vertex = id.openObject();
-        widths.push_back(vertex->tags().real(vertex->tags().whole(), kStartWidth, start));
-        widths.push_back(vertex->tags().real(vertex->tags().whole(), kEndWidth, end));
+        widths.push_back(vertex->tags().real(vertex->tags().own(), kStartWidth, start));
+        widths.push_back(vertex->tags().real(vertex->tags().own(), kEndWidth, end));
     }
     return commonOf(widths);
 }
 
 OdGeMatrix3d OdDb2dPolyline::vertexToWorld() const {
-    const bool inSpace = content.integer(content.whole(), kFlags) & (kSpaceCurve | kMeshes);
+    const bool inSpace = content.integer(content.own(), kFlags) & (kSpaceCurve | kMeshes);
     return inSpace ? OdGeMatrix3d::kIdentity : planeToWorld();
 }
 
-bool OdDb2dPolyline::isMesh() const { return content.integer(content.whole(), kFlags) & kMeshes; }
+bool OdDb2dPolyline::isMesh() const { return content.integer(content.own(), kFlags) & kMeshes; }

@@ -37,7 +37,8 @@ using OdDbPolylinePtr = OdSmartPtr<OdDbPolyline>;
 class OdDb2dPolyline : public OdDbPolylineBase {
     ODRX_DECLARE_CLASS(OdDb2dPolyline)
 public:
-    std::vector<OdDbPolylineVertex> vertices() const override; // without spline frame points
+    // Without spline frame points, and without the faces of a mesh.
+    std::vector<OdDbPolylineVertex> vertices() const override;
     bool isClosed() const override;
     double constantWidth() const override;
     OdGeMatrix3d vertexToWorld() const override;

@@ -89,8 +89,8 @@ bool OdDbAttribute::isInvisible() const { return content.integer("AcDbAttribute"
 OdString OdDbAttributeDefinition::tag() const { return textValue("AcDbAttributeDefinition", 2); }
 OdString OdDbAttributeDefinition::prompt() const { return textValue("AcDbAttributeDefinition", 3); }
 bool OdDbAttributeDefinition::isConstant() const {
-    return (content.integer(content.subclass("AcDbAttributeDefinition"), 70) & 2) != 0;
+    return (content.integer("AcDbAttributeDefinition", 70) & 2) != 0;
 }
 bool OdDbAttributeDefinition::isInvisible() const {
-    return (content.integer(content.subclass("AcDbAttributeDefinition"), 70) & 1) != 0;
+    return (content.integer("AcDbAttributeDefinition", 70) & 1) != 0;
 }

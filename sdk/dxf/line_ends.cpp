@@ -14,8 +14,9 @@ std::string dxfWithLineFeeds(std::string text) {
     return text;
 }
 
+// From the end, so that what stands before a line feed is still what it was.
 void dxfPutLoneReturns(std::string& text) {
-    for (std::size_t i = 0; i < text.size(); ++i)
+    for (std::size_t i = text.size(); i-- > 0;)
         if (text[i] == '\n' && (i == 0 || text[i - 1] != '\r'))
             text[i] = '\r';
 }

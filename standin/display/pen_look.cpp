@@ -23,7 +23,7 @@ Opacity opacityOfNumber(std::int64_t number) {
 } // namespace
 
 int lineWeightOf(const DxfTagList& tags) {
-    const std::int64_t weight = tags.integer(tags.whole(), kWeight, kWeightByLayer);
+    const std::int64_t weight = tags.integer(tags.own(), kWeight, kWeightByLayer);
     return static_cast<int>(std::clamp<std::int64_t>(weight, kWeightDefault, kThickest));
 }
 

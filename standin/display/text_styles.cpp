@@ -14,9 +14,9 @@ constexpr int kBackwards = 2;  // in the flags of generation
 constexpr int kUpsideDown = 4; // in them, too
 
 TextStyle styleOf(const DxfTagList& tags) {
-    const std::int64_t flags = tags.integer(tags.whole(), 70), turns = tags.integer(tags.whole(), 71);
-    const double width = tags.real(tags.whole(), 41, 1);
-    return {width > 0 ? width : 1, tags.real(tags.whole(), 50) * M_PI / 180, (turns & kBackwards) != 0,
+    const std::int64_t flags = tags.integer(tags.own(), 70), turns = tags.integer(tags.own(), 71);
+    const double width = tags.real(tags.own(), 41, 1);
+    return {width > 0 ? width : 1, tags.real(tags.own(), 50) * M_PI / 180, (turns & kBackwards) != 0,
             (turns & kUpsideDown) != 0, (flags & kVertical) != 0};
 }
 

@@ -210,4 +210,43 @@ TEST(SpatialIndexTest, FindsWhatACompleteSearchFinds) {
     EXPECT_EQ(found, expected);
 }
 
+TEST_F(DisplayTest, PolyfaceMeshesShowTheirFacesAndNothingAtTheOrigin) {
+    const auto vertex = [](int flags, const std::string& rest) {
+        return "0\nVERTEX\n8\n0\n70\n" + std::to_string(flags) + "\n" + rest;
+    };
+    const OdDbDatabasePtr old = OdDbDatabase::readBytes(
+        "0\nSECTION\n2\nENTITIES\n0\nPOLYLINE\n8\n0\n66\n1\n70\n64\n" + vertex(192, "10\n10.0\n20\n10.0\n") +
+        vertex(192, "10\n20.0\n20\n10.0\n") + vertex(192, "10\n20.0\n20\n20.0\n") +
+        vertex(128, "10\n0.0\n20\n0.0\n71\n1\n72\n2\n73\n3\n") + "0\nSEQEND\n8\n0\n0\nENDSEC\n0\nEOF\n");
+    DisplayList shown{old};
+    shown.refresh();
+    const auto space = odrxCast<OdDbBlockTableRecord>(old->getModelSpaceId().safeOpenObject());
+    const Item* mesh = shown.find(space->entityIds().at(0));
+    ASSERT_TRUE(mesh);
+    ASSERT_EQ(mesh->shapes.size(), 3u) << "the three edges of the face";
+    for (const Shape& edge : mesh->shapes)
+        for (const QPointF& point : edge.points)
+            EXPECT_GE(point.x(), 10);
+}
+
+TEST_F(DisplayTest, AttributesOfSeveralLinesShowThemAll) {
+    const OdDbDatabasePtr read = OdDbDatabase::readBytes(
+        "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1032\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n"
+        "0\nINSERT\n5\nAB\n100\nAcDbEntity\n8\n0\n100\nAcDbBlockReference\n66\n1\n2\nGONE\n10\n0.0\n20\n0.0\n"
+        "0\nATTRIB\n5\nAC\n100\nAcDbEntity\n8\n0\n100\nAcDbText\n10\n1.0\n20\n2.0\n40\n2.5\n1\nplain\n"
+        "100\nAcDbAttribute\n2\nTAG\n70\n0\n101\nEmbedded "
+        "Object\n10\n50.0\n20\n40.0\n40\n1.5\n71\n1\n1\nfirst\\Psecond\n"
+        "0\nSEQEND\n5\nAD\n100\nAcDbEntity\n8\n0\n0\nENDSEC\n0\nEOF\n");
+    DisplayList shown{read};
+    shown.refresh();
+    const auto space = odrxCast<OdDbBlockTableRecord>(read->getModelSpaceId().safeOpenObject());
+    const Item* insert = shown.find(space->entityIds().at(0));
+    ASSERT_TRUE(insert);
+    QStringList texts;
+    for (const Shape& shape : insert->shapes)
+        if (shape.kind == Shape::Text)
+            texts << shape.text;
+    EXPECT_EQ(texts, (QStringList{"first", "second"}));
+}
+
 } // namespace

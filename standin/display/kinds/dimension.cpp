@@ -21,8 +21,8 @@ OdDbObjectId blockNamed(const OdDbEntity& entity, const OdString& name) {
 void draw::dimension(const OdDbEntity& entity, const Pencil& pencil) {
     constexpr const char* marker = "AcDbDimension";
     const DxfTagList& tags = entity.tags();
-    const OdGePoint3d moved = pencil.world() * (OdGeMatrix3d::planeToWorld(entity.normal()) *
-                                                tags.point(tags.subclass(marker), 12));
+    const OdGePoint3d moved =
+        pencil.world() * (OdGeMatrix3d::planeToWorld(entity.normal()) * tags.point(marker, 12));
     const OdGeVector3d by = moved - pencil.world() * OdGePoint3d();
     pencil.block(blockNamed(entity, entity.textValue(marker, 2)),
                  OdGeMatrix3d::translation(by) * pencil.world());
@@ -30,8 +30,8 @@ void draw::dimension(const OdDbEntity& entity, const Pencil& pencil) {
 
 void draw::table(const OdDbEntity& entity, const Pencil& pencil) {
     const DxfTagList& tags = entity.tags();
-    const OdGePoint3d at = tags.point(tags.whole(), 10);
-    const OdGeVector3d along = tags.point(tags.subclass("AcDbTable"), 11).asVector();
+    const OdGePoint3d at = tags.point(tags.own(), 10);
+    const OdGeVector3d along = tags.point("AcDbTable", 11).asVector();
     const double turn = along.isZeroLength() ? 0 : std::atan2(along.y, along.x);
     const OdDbObjectId block = blockNamed(entity, entity.textValue("AcDbBlockReference", 2));
     if (!pencil.block(block, pencil.world() * OdGeMatrix3d::translation(at.asVector()) *

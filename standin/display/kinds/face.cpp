@@ -3,12 +3,12 @@
 
 void standin::draw::face(const OdDbEntity& entity, const Pencil& pencil) {
     const DxfTagList& tags = entity.tags();
-    const std::int64_t hidden = tags.integer(tags.whole(), 70);
+    const std::int64_t hidden = tags.integer(tags.own(), 70);
     const int codes[] = {10, 11, 12, 13};
     const auto corner = [&](int number) {
         const int code = codes[number % 4];
         // A triangle may do without its fourth corner.
-        return tags.point(tags.whole(), tags.find(code) == DxfTagList::npos ? 12 : code);
+        return tags.point(tags.own(), tags.find(code) == DxfTagList::npos ? 12 : code);
     };
     std::vector<OdGePoint3d> run{corner(0)};
     for (int edge = 0; edge < 4; ++edge) {

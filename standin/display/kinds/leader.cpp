@@ -19,7 +19,7 @@ void draw::leader(const OdDbEntity& entity, const Pencil& pencil) {
     if (!leader)
         return;
     const std::vector<OdGePoint3d> path = leader->vertices();
-    const bool isCurved = entity.tags().integer(entity.tags().subclass("AcDbLeader"), kPathKind) == 1;
+    const bool isCurved = entity.tags().integer("AcDbLeader", kPathKind) == 1;
     const bool isShown = pencil.path(isCurved ? odDbCurveThrough(path, kPiecesOfSpan) : path, pencil.world());
     if (isShown && leader->hasArrowHead())
         drawArrow(path[0], path[1], leader->arrowSize(), leader->normal(), pencil);

@@ -67,7 +67,7 @@ Style styleOf(const OdDbEntity& mline) {
     if (record.isNull())
         return style;
     const DxfTagList& tags = record->tags();
-    style.flags = tags.integer(tags.subclass("AcDbMlineStyle"), 70);
+    style.flags = tags.integer("AcDbMlineStyle", 70);
     for (const DxfTag& tag : tags) {
         if (tag.code == 49)
             style.inks.emplace_back();

@@ -26,7 +26,7 @@ struct MeshParts {
 std::vector<int> faceOf(const DxfTagList& tags) {
     std::vector<int> corners;
     for (const int code : {71, 72, 73, 74}) {
-        const int corner = static_cast<int>(tags.integer(tags.whole(), code));
+        const int corner = static_cast<int>(tags.integer(tags.own(), code));
         if (corner != 0)
             corners.push_back(corner);
     }
@@ -38,13 +38,13 @@ MeshParts partsOf(const OdDb2dPolyline& mesh) {
     for (const OdDbObjectId id : odDbSubEntities(mesh.objectId())) {
         const OdDbObjectPtr vertex = id.openObject();
         const DxfTagList& tags = vertex->tags();
-        const std::int64_t flags = tags.integer(tags.whole(), kFlags);
+        const std::int64_t flags = tags.integer(tags.own(), kFlags);
         if (tags.empty() || tags[0].value() != "VERTEX" || (flags & kFramePoint) != 0)
             continue;
         if ((flags & kFacePart) != 0 && (flags & kMeshPoint) == 0)
             parts.faces.push_back(faceOf(tags));
         else
-            parts.points.push_back(tags.point(tags.whole(), 10));
+            parts.points.push_back(tags.point(tags.own(), 10));
     }
     return parts;
 }
@@ -90,8 +90,8 @@ private:
 
 // A smoothed mesh has the density of its surface under codes of its own.
 std::int64_t countOf(const DxfTagList& tags, int smoothed, int plain) {
-    const std::int64_t count = tags.integer(tags.whole(), smoothed);
-    return tags.integer(tags.whole(), 75) != 0 && count > 0 ? count : tags.integer(tags.whole(), plain);
+    const std::int64_t count = tags.integer(tags.own(), smoothed);
+    return tags.integer(tags.own(), 75) != 0 && count > 0 ? count : tags.integer(tags.own(), plain);
 }
 
 void drawGrid(const MeshParts& parts, const OdDb2dPolyline& mesh, const Pencil& pencil) {
@@ -100,7 +100,7 @@ void drawGrid(const MeshParts& parts, const OdDb2dPolyline& mesh, const Pencil& 
     const auto count = static_cast<std::int64_t>(parts.points.size());
     if (rows < 1 || columns < 1 || rows > count || columns > count || rows * columns > count)
         return;
-    const std::int64_t flags = tags.integer(tags.whole(), kFlags);
+    const std::int64_t flags = tags.integer(tags.own(), kFlags);
     Grid(parts, static_cast<std::size_t>(rows), static_cast<std::size_t>(columns))
         .draw((flags & kClosedAcross) != 0, (flags & kClosedAlong) != 0, pencil);
 }
@@ -109,7 +109,7 @@ void drawGrid(const MeshParts& parts, const OdDb2dPolyline& mesh, const Pencil& 
 
 void drawPolymesh(const OdDb2dPolyline& mesh, const Pencil& pencil) {
     const MeshParts parts = partsOf(mesh);
-    if ((mesh.tags().integer(mesh.tags().whole(), kFlags) & kPolygonMesh) != 0)
+    if ((mesh.tags().integer(mesh.tags().own(), kFlags) & kPolygonMesh) != 0)
         drawGrid(parts, mesh, pencil);
     else
         drawFaces(parts, pencil);

@@ -5,9 +5,9 @@ namespace standin {
 
 namespace {
 
-OdGePoint3d start(const OdDbEntity& entity) { return entity.tags().point(entity.tags().whole(), 10); }
+OdGePoint3d start(const OdDbEntity& entity) { return entity.tags().point(entity.tags().own(), 10); }
 OdGeVector3d direction(const OdDbEntity& entity) {
-    return entity.tags().point(entity.tags().whole(), 11).asVector();
+    return entity.tags().point(entity.tags().own(), 11).asVector();
 }
 
 } // namespace

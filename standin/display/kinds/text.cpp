@@ -51,8 +51,12 @@ void drawText(const OdDbText& text, const OdString& content, const Pencil& penci
 
 } // namespace
 
+// An attribute of several lines shows these, and not what its plain text has of them.
 void draw::text(const OdDbEntity& entity, const Pencil& pencil) {
-    if (const auto* text = dynamic_cast<const OdDbText*>(&entity))
+    const auto* attribute = dynamic_cast<const OdDbAttribute*>(&entity);
+    if (const OdDbMTextPtr lines = attribute ? attribute->paragraph() : OdDbMTextPtr(); !lines.isNull())
+        mtext(*lines, pencil);
+    else if (const auto* text = dynamic_cast<const OdDbText*>(&entity))
         drawText(*text, text->textString(), pencil);
 }
 
@@ -63,6 +67,9 @@ void draw::attributeDefinition(const OdDbEntity& entity, const Pencil& pencil) {
     const bool isInBlock = pencil.place().outer;
     if (!isInBlock)
         drawText(*definition, definition->tag(), pencil);
+    else if (const OdDbMTextPtr lines = definition->paragraph();
+             !definition->isInvisible() && !lines.isNull())
+        mtext(*lines, pencil);
     else if (!definition->isInvisible())
         drawText(*definition, definition->textString(), pencil);
 }

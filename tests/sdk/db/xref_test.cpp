@@ -268,8 +268,10 @@ TEST_F(References, TooDeepOnesAreLeftOutAndTold) {
 }
 
 TEST_F(References, ADrawingReadsNoMoreFilesThanTheLimit) {
-    const OdString small = pathOf("0.dxf");
-    OdDbDatabase::createEmpty()->writeFile(small);
+    QFile smallest(folder.filePath("0.dxf"));
+    ASSERT_TRUE(smallest.open(QIODevice::WriteOnly));
+    smallest.write("0\nEOF\n");
+    smallest.close();
     const OdDbDatabasePtr host = OdDbDatabase::createEmpty();
     for (int i = 0; i < 1003; ++i) {
         const QString name = QString::number(i) + ".dxf";

@@ -62,7 +62,7 @@ inline OdDbDatabasePtr savedAndOpened(OdDbDatabase& database) {
         return OdDbDatabase::readBytes(database.writeBytes());
     try {
         std::vector<OdString> leftOut;
-        return OdDbDatabase::readBytes(odDbInNewerVersion(database, leftOut)->writeBytes());
+        return odDbInNewerVersion(database, leftOut); // which is read from what would be saved
     } catch (const OdError&) {
         return {};
     }
