@@ -3,13 +3,34 @@
 #include "sdk/db/block_table.h"
 #include "sdk/db/layer_table.h"
 
+#include <algorithm>
+
 namespace standin {
+
+namespace {
+
+Box indexedBox(const Item& item) { return item.box.grown(item.reach.units); }
+
+} // namespace
 
 DisplayList::DisplayList(OdDbDatabasePtr database) : drawing(std::move(database)) {
     drawing->addReactor(this);
 }
 
-DisplayList::~DisplayList() { drawing->removeReactor(this); }
+DisplayList::~DisplayList() {
+    sendReadersAway();
+    drawing->removeReactor(this);
+}
+
+// A reader that leaves takes itself out.
+void DisplayList::sendReadersAway() {
+    for (ListReader* reader : std::vector<ListReader*>(readers))
+        reader->leave();
+}
+
+void DisplayList::removeReader(ListReader* reader) const {
+    readers.erase(std::remove(readers.begin(), readers.end(), reader), readers.end());
+}
 
 void DisplayList::note(const OdDbObjectId& id) {
     stale.insert(id);
@@ -43,6 +64,7 @@ void DisplayList::refresh() {
     variables = now;
     if (stale.empty() && !everything)
         return;
+    sendReadersAway();
     ++changes;
     const std::unordered_set<OdDbObjectId> ids = std::move(stale);
     stale.clear();
@@ -66,11 +88,12 @@ void DisplayList::rebuild() {
         if (item.shapes.empty())
             continue;
         places[id] = static_cast<int>(items.size());
+        note(item.reach);
         items.push_back(std::move(item));
     }
     index = SpatialIndex(extents());
     for (std::size_t i = 0; i < items.size(); ++i)
-        index.insert(static_cast<int>(i), items[i].box);
+        index.insert(static_cast<int>(i), indexedBox(items[i]));
 }
 
 // An object keeps its place, so that it stays above and below the same others.
@@ -79,7 +102,7 @@ void DisplayList::update(ItemBuilder& builder, const OdDbObjectId& id) {
     if (found != places.end()) {
         Item& item = items[static_cast<std::size_t>(found->second)];
         if (!item.shapes.empty())
-            index.remove(found->second, item.box);
+            index.remove(found->second, indexedBox(item));
         item = {};
     }
     const OdDbObjectPtr object = id.openObject();
@@ -94,7 +117,8 @@ void DisplayList::put(Item item) {
     const auto place = places.try_emplace(item.id, static_cast<int>(items.size())).first->second;
     if (static_cast<std::size_t>(place) == items.size())
         items.emplace_back();
-    index.insert(place, item.box);
+    index.insert(place, indexedBox(item));
+    note(item.reach);
     items[static_cast<std::size_t>(place)] = std::move(item);
 }
 
@@ -106,18 +130,31 @@ const Item* DisplayList::find(const OdDbObjectId& id) const {
     return item.shapes.empty() ? nullptr : &item;
 }
 
+void DisplayList::visit(const Box& box, const std::function<bool(const Item&)>& visitor) const {
+    index.visitWhile(box, [&](int place) {
+        const Item& item = items[static_cast<std::size_t>(place)];
+        return !item.box.intersects(box) || visitor(item);
+    });
+}
+
+// The items lie one behind the other in the order of the drawing.
 std::vector<const Item*> DisplayList::within(const Box& box) const {
-    std::vector<int> found;
-    index.visit(box, [&](int place) {
-        if (items[static_cast<std::size_t>(place)].box.intersects(box))
-            found.push_back(place);
+    std::vector<const Item*> found;
+    visit(box, [&](const Item& item) {
+        found.push_back(&item);
+        return true;
     });
     std::sort(found.begin(), found.end());
-    std::vector<const Item*> result;
-    result.reserve(found.size());
-    for (const int place : found)
-        result.push_back(&items[static_cast<std::size_t>(place)]);
-    return result;
+    return found;
+}
+
+void DisplayList::visitPainted(const Box& box, const std::function<bool(const Item&)>& visitor) const {
+    index.visitWhile(box, [&](int place) { return visitor(items[static_cast<std::size_t>(place)]); });
+}
+
+void DisplayList::note(const Reach& reach) {
+    farthest.add(reach);
+    farthest.units = 0; // the index knows
 }
 
 Box DisplayList::extents() const {

@@ -13,6 +13,17 @@
 
 namespace standin {
 
+// Reads a list in a thread of its own.
+class ListReader {
+public:
+    virtual void leave() = 0; // the list is about to change or to end: waits until nobody reads it any more
+
+protected:
+    ~ListReader() = default;
+};
+
+// Any number of threads may look at a list that isn't changed. It is changed by `refresh` alone, in the
+// thread of the drawing, after all readers have left.
 class DisplayList : public OdDbDatabaseReactor {
 public:
     explicit DisplayList(OdDbDatabasePtr database);
@@ -29,9 +40,18 @@ public:
     const Item* find(const OdDbObjectId& id) const; // null when it isn't shown
     // The items that touch `box`, in the order of the drawing.
     std::vector<const Item*> within(const Box& box) const;
+    // How far marks are painted beyond their boxes; the part in drawing units is 0.
+    const Reach& reachOfMarks() const { return farthest; }
+    // In no order, those that are painted in `box` as far as letters go, until the visitor says false.
+    void visitPainted(const Box& box, const std::function<bool(const Item&)>& visitor) const;
+    // The items that touch `box`, in no order, until the visitor says false.
+    void visit(const Box& box, const std::function<bool(const Item&)>& visitor) const;
     Box extents() const;
     const std::unordered_set<OdDbObjectId>& highlighted() const { return marked; }
     OdDbDatabase& database() const { return *drawing; }
+    // Until it is removed; each reader once.
+    void addReader(ListReader* reader) const { readers.push_back(reader); }
+    void removeReader(ListReader* reader) const;
 
     std::function<void()> changed; // something in the drawing is different; may come often
 
@@ -45,6 +65,8 @@ private:
     void rebuild();
     void update(ItemBuilder& builder, const OdDbObjectId& id);
     void put(Item item);
+    void sendReadersAway();
+    void note(const Reach& reach);
     bool touchesMoreThanItself(const OdDbObjectId& id) const;
 
     OdDbDatabasePtr drawing;
@@ -53,8 +75,10 @@ private:
     SpatialIndex index;
     std::unordered_set<OdDbObjectId> stale, marked;
     DrawingVariables variables;
+    mutable std::vector<ListReader*> readers;
     std::uint64_t changes = 0;
     bool everything = true;
+    Reach farthest; // of all marks that there are or were
 };
 
 } // namespace standin

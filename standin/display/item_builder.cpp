@@ -105,6 +105,7 @@ bool ItemBuilder::isFull() {
 void ItemBuilder::put(Shape shape) {
     item.box.add(boxOf(shape));
     item.isEndless |= shape.isEndless;
+    item.reach.add(reachOf(shape));
     item.shapes.push_back(std::move(shape));
 }
 

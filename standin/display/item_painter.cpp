@@ -60,9 +60,15 @@ QPen ItemPainter::currentPen() const {
     return QPen(colorOf(current), width > 1 ? width : 0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
 }
 
+// Whether what overlaps looks different when it is painted together. Each shape is painted by itself then, so
+// that it looks the same whatever is painted before it.
+bool ItemPainter::isApart() const {
+    return hasOwnPen ? ownPen.widthF() > 1 : opacity < 255 || weightInPixels(weight) > 1;
+}
+
 void ItemPainter::use(const Shape& shape) {
     if (shape.ink != current || shape.weight != weight || shape.opacity != opacity ||
-        lines.size() >= mostWaiting)
+        lines.size() >= mostWaiting || isApart())
         flush();
     current = shape.ink;
     weight = shape.weight;
@@ -85,11 +91,23 @@ void ItemPainter::draw(const Item& item) {
     const bool isPlain = item.shapes.front().kind != Shape::Missing && item.shapes.front().kind != Shape::Dot;
     if (size < smallestItem && isPlain) {
         use(item.shapes.front());
-        dots.append(shownView.toPixel(item.box.center()));
-        return;
+        return addDot(shownView.toPixel(item.box.center()));
     }
-    for (const Shape& shape : item.shapes)
+    if (!dots.isEmpty() && isSmooth())
+        flush();
+    for (const Shape& shape : item.shapes) {
+        if (isStopped && *isStopped)
+            return;
         draw(shape);
+    }
+}
+
+bool ItemPainter::isSmooth() const { return target.testRenderHint(QPainter::Antialiasing); }
+
+void ItemPainter::addDot(const QPointF& at) {
+    if (!lines.isEmpty() && isSmooth())
+        flush();
+    dots.append(at);
 }
 
 void ItemPainter::draw(const Shape& shape) {
@@ -187,7 +205,7 @@ void ItemPainter::paintFill(const Shape& fill) {
     QColor color = colorOf(fill.ink);
     if (!isSolid)
         color.setAlpha(shadeAlpha * opacity / 255);
-    const bool smooth = target.testRenderHint(QPainter::Antialiasing);
+    const bool smooth = isSmooth();
     target.setRenderHint(QPainter::Antialiasing, false); // no seams between areas that touch
     target.setPen(isSolid && opacity == 255 ? QPen(color, 0) : QPen(Qt::NoPen));
     target.setBrush(color);

@@ -7,6 +7,7 @@
 #include <QLineF>
 #include <QPainter>
 #include <QVector>
+#include <atomic>
 
 namespace standin {
 
@@ -20,6 +21,8 @@ public:
     // All shapes in one pen from now on, as for what is selected.
     void setPen(const QPen& pen);
     void draw(const Item& item);
+    // Draws no more as soon as it is true; another thread may change it.
+    void stopAt(const std::atomic<bool>* wanted) { isStopped = wanted; }
 
 private:
     void draw(const Shape& shape);
@@ -35,6 +38,9 @@ private:
     QColor colorOf(Ink ink) const;
     void use(const Shape& shape);
     QPen currentPen() const;
+    bool isApart() const;
+    bool isSmooth() const;
+    void addDot(const QPointF& at);
     void flush();
 
     QPainter& target;
@@ -44,9 +50,11 @@ private:
     QPen ownPen;
     bool hasOwnPen = false;
     Ink current = kForeground;
+    const std::atomic<bool>* isStopped = nullptr;
     int weight = 0;
     int opacity = 255;
-    QVector<QLineF> lines; // waiting to be painted in the current ink
+    // Waiting to be painted in the current ink. Smooth edges are painted in their order.
+    QVector<QLineF> lines;
     QVector<QPointF> dots;
 };
 

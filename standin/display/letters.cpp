@@ -33,7 +33,7 @@ Letters* makeLetters(const QString& text, bool isBold) {
 } // namespace
 
 const Letters& lettersOf(const QString& text, bool isBold) {
-    static QCache<std::pair<QString, bool>, Letters> made(cachedTexts);
+    thread_local QCache<std::pair<QString, bool>, Letters> made(cachedTexts);
     Letters* found = made.object({text, isBold});
     if (!found) {
         found = makeLetters(text, isBold);

@@ -1,4 +1,4 @@
-// The outlines of texts, made once for each text.
+// The outlines of texts, made once for each text by each thread that paints.
 #pragma once
 
 #include <QPainterPath>
@@ -12,6 +12,7 @@ struct Letters {
     double width = 0;
 };
 
+// Good until the next call of the same thread.
 const Letters& lettersOf(const QString& text, bool isBold = false);
 
 } // namespace standin

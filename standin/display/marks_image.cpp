@@ -1,43 +1,27 @@
 #include "standin/display/marks_image.h"
 
-#include "standin/display/item_painter.h"
-
 namespace standin {
 
-namespace {
-
-const std::size_t mostSmoothMarks = 2000; // more of them are painted without smooth edges
-
-} // namespace
-
-const QPixmap& MarksImage::of(const DisplayList& list, const OdDbObjectIdArray& selected, const View& view,
-                              double ratio) {
-    if (isCurrent && painted == view)
-        return image;
-    isCurrent = true;
-    painted = view;
+void MarksImage::find(const DisplayList& list, const OdDbObjectIdArray& selected) {
+    if (marks && revision == list.revision())
+        return;
     std::unordered_set<OdDbObjectId> marked = list.highlighted();
     marked.insert(selected.begin(), selected.end());
-    image = marked.empty() ? QPixmap() : QPixmap(view.size() * ratio);
-    if (marked.empty())
-        return image;
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::transparent);
-    paint(list, marked);
-    return image;
+    std::vector<const Item*> found;
+    found.reserve(marked.size());
+    for (const OdDbObjectId& id : marked)
+        if (const Item* item = list.find(id))
+            found.push_back(item);
+    marks = std::make_shared<const std::vector<const Item*>>(std::move(found));
+    revision = list.revision();
 }
 
-void MarksImage::paint(const DisplayList& list, const std::unordered_set<OdDbObjectId>& marked) {
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing, marked.size() <= mostSmoothMarks);
-    ItemPainter itemPainter(painter, painted, pen.color());
-    itemPainter.setPen(pen);
-    const Box visible = painted.visible();
-    for (const OdDbObjectId& id : marked) {
-        const Item* item = list.find(id);
-        if (item && item->box.intersects(visible))
-            itemPainter.draw(*item);
-    }
+PictureOrder MarksImage::orderOf(const OdDbObjectIdArray& selected, const PictureOrder& scene) {
+    find(*scene.list, selected);
+    PictureOrder order = scene;
+    order.only = marks;
+    order.pen = pen;
+    return order;
 }
 
 } // namespace standin

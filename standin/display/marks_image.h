@@ -1,29 +1,25 @@
-// The picture of what is selected or highlighted, kept for as long as neither that nor the view changes.
+// The picture of what is selected or highlighted.
 #pragma once
 
-#include "standin/display/display_list.h"
-#include "standin/display/view.h"
-
-#include <QPen>
-#include <QPixmap>
+#include "standin/display/live_picture.h"
 
 namespace standin {
 
-class MarksImage {
+// Over nothing, in one pen.
+class MarksImage : public LivePicture {
 public:
     void setPen(const QPen& wanted) { pen = wanted; }
-    void forget() { isCurrent = false; } // something else is selected or highlighted
-    // Of these objects and of those that are highlighted, over nothing; null when there are none.
-    const QPixmap& of(const DisplayList& list, const OdDbObjectIdArray& selected, const View& view,
-                      double ratio);
+    void forgetMarks() { marks.reset(); } // something else is selected or highlighted
+    // Of these objects and of those that are highlighted; the rest is that of the
+    // picture below.
+    PictureOrder orderOf(const OdDbObjectIdArray& selected, const PictureOrder& scene);
 
 private:
-    void paint(const DisplayList& list, const std::unordered_set<OdDbObjectId>& marked);
+    void find(const DisplayList& list, const OdDbObjectIdArray& selected);
 
-    QPixmap image;
     QPen pen;
-    View painted;
-    bool isCurrent = false;
+    std::shared_ptr<const std::vector<const Item*>> marks; // null when they are not known
+    std::uint64_t revision = 0;                            // of the list, when they were found
 };
 
 } // namespace standin

@@ -1,6 +1,6 @@
 #include "standin/display/preview_picture.h"
 
-#include "standin/display/scene_image.h"
+#include "standin/display/live_picture.h"
 
 #include <QBuffer>
 #include <algorithm>
@@ -53,12 +53,12 @@ OdThumbnailImage previewPicture(const DisplayList& list, const QColor& backgroun
     const Box box = list.extents();
     if (box.isEmpty())
         return result;
-    View view;
-    view.resize(pictureSize(box));
-    view.fit(box);
-    SceneImage scene;
-    scene.setBackground(background);
-    result.bmp = bitmapOf(scene.of(list, view, 1).toImage());
+    PictureOrder order;
+    order.list = &list;
+    order.view.resize(pictureSize(box));
+    order.view.fit(box);
+    order.background = background;
+    result.bmp = bitmapOf(LivePicture().finished(order));
     return result;
 }
 

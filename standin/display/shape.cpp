@@ -8,6 +8,8 @@ namespace standin {
 
 namespace {
 
+const float largestName = 64; // pixels from the middle of a mark to the end of its letters, up or down
+
 QPointF arcPoint(const Shape& arc, double angle) {
     return arc.points[0] + arc.points[1] * std::cos(angle) + arc.points[2] * std::sin(angle);
 }
@@ -92,6 +94,26 @@ Box extentsOf(const Item& item) {
     for (const Shape& shape : item.shapes)
         box.add(shape.isEndless ? boxOf(shape.points[0], shape.points[0]) : boxOf(shape));
     return box;
+}
+
+// Letters may reach out of the corners of their text, as those below the base line do.
+Reach reachOf(const Shape& shape) {
+    Reach reach;
+    if (shape.kind == Shape::Missing)
+        reach.pixels = largestName;
+    if (shape.kind == Shape::Dot)
+        reach.pixels = 1;
+    if (shape.kind == Shape::Dot && shape.points.size() > 1)
+        reach.ofWindow = static_cast<float>(std::fabs(shape.points[1].y()) / 100);
+    if (shape.kind != Shape::Text)
+        return reach;
+    const Letters& letters = lettersOf(shape.text, shape.isBold);
+    const QRectF drawn = letters.outline.controlPointRect();
+    const double out =
+        std::max({0.0, -drawn.left(), drawn.right() - letters.width, -drawn.top(), drawn.bottom() - 1});
+    reach.units = static_cast<float>(out * (std::hypot(shape.points[1].x(), shape.points[1].y()) +
+                                            std::hypot(shape.points[2].x(), shape.points[2].y())));
+    return reach;
 }
 
 Box boxOf(const Shape& shape) {

@@ -52,10 +52,24 @@ struct Shape {
 // Pixels across a line of this weight, on a screen of 96 dots to the inch.
 double weightInPixels(int weight);
 
+// How far above and below its box something may be painted.
+struct Reach {
+    float units = 0;    // of the drawing
+    float pixels = 0;   // whatever the view
+    float ofWindow = 0; // parts of the window's height
+
+    void add(const Reach& other) {
+        units = std::max(units, other.units);
+        pixels = std::max(pixels, other.pixels);
+        ofWindow = std::max(ofWindow, other.ofWindow);
+    }
+};
+
 struct Item {
     OdDbObjectId id;
     Box box;
     std::vector<Shape> shapes;
+    Reach reach;
     bool isEndless = false; // there are shapes without end
     bool isCut = false;     // there would be more shapes than can be shown
 };
@@ -71,6 +85,7 @@ std::vector<QPointF> textCorners(const Shape& text);
 std::vector<std::vector<QPointF>> bordersOf(const Shape& fill);
 bool isInside(const Shape& fill, const QPointF& point);
 Box boxOf(const Shape& shape);
+Reach reachOf(const Shape& shape);
 
 // Half the size of the mark of a missing reference, in pixels.
 constexpr double kMissingMark = 12;

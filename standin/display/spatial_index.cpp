@@ -60,16 +60,23 @@ void SpatialIndex::remove(int item, const Box& box) {
 }
 
 void SpatialIndex::visit(const Box& box, const std::function<void(int item)>& visitor) const {
-    for (const int item : outside)
+    visitWhile(box, [&](int item) {
         visitor(item);
+        return true;
+    });
+}
+
+void SpatialIndex::visitWhile(const Box& box, const std::function<bool(int item)>& visitor) const {
+    if (!std::all_of(outside.begin(), outside.end(), visitor))
+        return;
     std::vector<int> open{0};
     while (!open.empty()) {
         const Node& node = nodes[static_cast<std::size_t>(open.back())];
         open.pop_back();
         if (!reachOf(node.area).intersects(box))
             continue;
-        for (const int item : node.items)
-            visitor(item);
+        if (!std::all_of(node.items.begin(), node.items.end(), visitor))
+            return;
         for (const int quarter : node.quarters)
             if (quarter >= 0)
                 open.push_back(quarter);

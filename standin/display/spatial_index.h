@@ -18,6 +18,8 @@ public:
     void remove(int item, const Box& box); // `box` as it was inserted
     // Items whose box may touch `box`, in no order.
     void visit(const Box& box, const std::function<void(int item)>& visitor) const;
+    // The same until the visitor says false.
+    void visitWhile(const Box& box, const std::function<bool(int item)>& visitor) const;
 
 private:
     struct Node {

@@ -81,12 +81,14 @@ TEST(HatchDisplay, IsPickedInsideButNotInItsHoles) {
 
 TEST(HatchDisplay, IsMarkedByItsBordersSoThatWhatLiesUponItIsStillSeen) {
     const Drawing drawing(hatch(square(0, 10) + square(3, 7), true));
-    View view;
+    PictureOrder scene;
+    scene.list = &drawing.list;
+    View& view = scene.view;
     view.resize({100, 100});
     view.fit({0, 0, 10, 10});
     MarksImage marks;
     marks.setPen(QPen(Qt::blue, 3));
-    const QImage image = marks.of(drawing.list, {drawing.items.at(0)->id}, view, 1).toImage();
+    const QImage image = marks.finished(marks.orderOf({drawing.items.at(0)->id}, scene));
     const auto alphaAt = [&](double x, double y) {
         return image.pixelColor(view.toPixel({x, y}).toPoint()).alpha();
     };

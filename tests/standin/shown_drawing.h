@@ -3,7 +3,7 @@
 
 #include "sdk/db/block_table.h"
 #include "standin/display/display_list.h"
-#include "standin/display/scene_image.h"
+#include "standin/display/live_picture.h"
 
 #include <string>
 #include <vector>
@@ -42,17 +42,18 @@ struct Drawing {
 class Screen {
 public:
     Screen(const Drawing& drawing, const standin::Box& box) {
-        view.resize({100, 100});
-        view.fit(box);
-        scene.setBackground(Qt::black);
-        image = scene.of(drawing.list, view, 1).toImage();
+        standin::PictureOrder order;
+        order.list = &drawing.list;
+        order.view.resize({100, 100});
+        order.view.fit(box);
+        view = order.view;
+        image = standin::LivePicture().finished(order);
     }
     QColor at(double x, double y) const { return image.pixelColor(view.toPixel({x, y}).toPoint()); }
     int grey(double x, double y) const { return qGray(at(x, y).rgb()); }
 
 private:
     standin::View view;
-    standin::SceneImage scene;
     QImage image;
 };
 

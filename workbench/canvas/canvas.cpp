@@ -56,11 +56,12 @@ void Canvas::connectSignals() {
     connect(&io, &Console::promptChanged, this, &Canvas::promptChanged);
     connect(&loop, &CommandLoop::commandStarted, this, [this] { windowCorner.reset(); });
     connect(&loop, &CommandLoop::commandEnded, this, &Canvas::refresh);
+    for (LivePicture* picture : {&scene, static_cast<LivePicture*>(&marks)})
+        connect(picture, &LivePicture::improved, this, [this] { update(); });
 }
 
 void Canvas::apply(const Settings& settings) {
     background = settings.canvasBack;
-    scene.setBackground(background);
     rubberBand = settings.rubberBand;
     cursorLook = settings.cursor;
     update();
@@ -78,6 +79,7 @@ void Canvas::showCurrent() {
     }
     windowCorner.reset();
     scene.forget();
+    marks.forget();
     refresh();
     promptChanged();
 }
@@ -121,7 +123,7 @@ OdDbObjectIdArray Canvas::objectsAt(const Sheet& shown, const OdGePoint3d& point
 EditorSelection& Canvas::editor() const { return sheet->document.editor(); }
 
 void Canvas::refresh() {
-    marks.forget();
+    marks.forgetMarks();
     update();
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "standin/display/marks_image.h"
-#include "standin/display/scene_image.h"
 #include "workbench/canvas/sheet.h"
 #include "workbench/settings.h"
 
@@ -39,7 +38,10 @@ public:
     void zoomTo(const OdDbObjectId& id);
     void refresh();           // something was highlighted, selected or changed
     void referencesChanged(); // other drawings are shown in the current one than before
-    void escape();            // gives up a window that is being drawn, else the selection
+    // Waits until the picture that is shown is finished; while the view moves it is a rough one.
+    void finishPicture();
+    bool isPictureFinished() const;
+    void escape(); // gives up a window that is being drawn, else the selection
     // What is shown of the drawing, up to date; null when it was never the current one.
     const standin::DisplayList* listOf(const OdDbDatabase& drawing);
     const standin::View* view() const { return sheet ? &sheet->view() : nullptr; }
@@ -74,7 +76,8 @@ private:
     void finishWindow(const QPoint& pixel, Qt::KeyboardModifiers modifiers);
     void choose(const OdDbObjectIdArray& ids, Qt::KeyboardModifiers modifiers);
 
-    void paintMarks(QPainter& painter);
+    standin::PictureOrder sceneOrder() const;
+    standin::PictureOrder marksOrder();
     void paintPrompt(QPainter& painter, const standin::OpenPrompt& prompt);
     void paintWindow(QPainter& painter, const QPointF& first, const QPointF& second) const;
     void paintWelcome(QPainter& painter) const;
@@ -85,7 +88,7 @@ private:
     standin::DocumentManager& documents;
     std::map<const standin::Document*, std::unique_ptr<Sheet>> sheets;
     Sheet* sheet = nullptr; // of the current drawing
-    standin::SceneImage scene;
+    standin::LivePicture scene;
     standin::MarksImage marks;
     std::unique_ptr<standin::TrackerPicture> tracked; // of the prompt that is open
     QColor background, rubberBand;

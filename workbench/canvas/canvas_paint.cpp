@@ -36,8 +36,10 @@ void Canvas::paintEvent(QPaintEvent*) {
         return paintWelcome(painter);
     }
     sheet->list.refresh();
-    painter.drawPixmap(0, 0, scene.of(sheet->list, sheet->view(), devicePixelRatioF()));
-    paintMarks(painter);
+    scene.paintAtOnce(painter, sceneOrder());
+    const PictureOrder marked = marksOrder();
+    if (!marked.only->empty())
+        marks.paintAtOnce(painter, marked);
     const OpenPrompt* prompt = pointPrompt();
     if (prompt)
         paintPrompt(painter, *prompt);
@@ -47,15 +49,33 @@ void Canvas::paintEvent(QPaintEvent*) {
         paintCursor(painter);
 }
 
-void Canvas::paintMarks(QPainter& painter) {
+PictureOrder Canvas::sceneOrder() const {
+    PictureOrder order;
+    order.list = &sheet->list;
+    order.view = sheet->view();
+    order.ratio = devicePixelRatioF();
+    order.background = background;
+    return order;
+}
+
+void Canvas::finishPicture() {
+    if (!sheet)
+        return;
+    sheet->list.refresh();
+    scene.finished(sceneOrder());
+    marks.finished(marksOrder());
+    update();
+}
+
+bool Canvas::isPictureFinished() const { return !sheet || scene.isFinished(sceneOrder()); }
+
+PictureOrder Canvas::marksOrder() {
     const hostSelectionSetPtr selection = editor().getSelection();
     OdDbObjectIdArray selected;
     if (!selection.isNull())
         selection->objectIds(selected);
     marks.setPen(QPen(markColor, markWidth, Qt::SolidLine, Qt::RoundCap));
-    const QPixmap& image = marks.of(sheet->list, selected, sheet->view(), devicePixelRatioF());
-    if (!image.isNull())
-        painter.drawPixmap(0, 0, image);
+    return marks.orderOf(selected, sceneOrder());
 }
 
 void Canvas::paintPrompt(QPainter& painter, const OpenPrompt& prompt) {
