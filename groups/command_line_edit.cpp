@@ -3,7 +3,6 @@
 #include "groups/current_drawing.h"
 #include "groups/existing_group_prompt.h"
 #include "groups/group_messages.h"
-#include "groups/keyword_list.h"
 #include "groups/prompt_flags.h"
 #include "groups/selected_objects.h"
 #include "host/text.h"
@@ -46,17 +45,15 @@ bool CCommandLineGroupEdit::findGroup(const Scene& scene, Found& found) {
 // while the prompt comes again: that is meant. The keyword Name ends the run like a cancel, and that is meant
 // too.
 bool CCommandLineGroupEdit::selectMember(const Scene& scene, Found& found) {
-    const QString keywords = group_messages::selectGroupKeywords();
-    const OdString keywordText = hostqt::odString(keywords);
-    const OdString prompt = hostqt::odString(
-        group_messages::selectGroupOr().arg(keywordBracket(keywordWordsHelpFirst(localKeywords(keywords)))));
+    const OdString keywords = hostqt::odString(group_messages::selectGroupKeywords());
+    const OdString prompt = hostqt::odString(group_messages::selectGroup());
     int reply = kInputNone;
     for (;;) {
         const hostSelectionSetPtr current = scene.editor->getSelection();
         if (!current.isNull() && current->count() != 0)
             found.selection = current;
         else
-            reply = scene.editor->selectObjects(&found.selection, 0, prompt.c_str(), keywordText.c_str(),
+            reply = scene.editor->selectObjects(&found.selection, 0, prompt.c_str(), keywords.c_str(),
                                                 kSelectGroupPrompt, 0, 0, 0, 0);
         if (reply != kInputKeyword)
             return reply == kInputPicked || reply == kInputNone;

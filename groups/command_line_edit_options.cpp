@@ -30,7 +30,8 @@ QString optionPrompt(const QString& keywords) {
 
 // Any reply that is no option ends the run well, with the members still highlighted: that is meant.
 int CCommandLineGroupEdit::runOption(const Scene& scene, Found& found) {
-    scene.editor->setSelection(hostSelectionSet::createObject(scene.database.get()));
+    const hostSelectionSetPtr prepared = hostSelectionSet::createObject(scene.database.get());
+    scene.editor->setSelection(prepared);
     const OdDbObjectIdArray members = highlightMembers(found.group);
     const QString keywords = optionKeywords();
     switch (askInput(scene.io, optionPrompt(keywords), keywords, kKeywordPrompt, nullptr)) {
@@ -40,7 +41,7 @@ int CCommandLineGroupEdit::runOption(const Scene& scene, Found& found) {
         setObjectsHighlight(members, false);
         return end(1);
     case kAddObjects:
-        return addToGroup(scene, found.group, members);
+        return addToGroup(scene, found.group, members, prepared);
     case kRemoveObjects:
         return removeObjects(scene, found, members);
     case kRename:

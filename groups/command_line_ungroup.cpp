@@ -5,7 +5,6 @@
 #include "groups/explode_group.h"
 #include "groups/group_listing.h"
 #include "groups/group_messages.h"
-#include "groups/keyword_list.h"
 #include "groups/selected_objects.h"
 #include "groups/selection_step.h"
 #include "host/transaction_guard.h"
@@ -39,11 +38,8 @@ int CCommandLineGroupUngroup::Run(IParam*) {
         return end(1);
     status = 2;
     const Scene scene{currentDatabase(), *currentIO(), currentEditor()};
-    const QString keywords = group_messages::selectGroupKeywords();
-    GroupSelectionRequest request = selectionRequest(
-        scene.database,
-        group_messages::selectGroupOr().arg(keywordBracket(keywordWordsHelpFirst(localKeywords(keywords)))),
-        keywords);
+    GroupSelectionRequest request = selectionRequest(scene.database, group_messages::selectGroup(),
+                                                     group_messages::selectGroupKeywords());
     request.single = true;
     for (;;) {
         OdDbObjectIdArray ids;

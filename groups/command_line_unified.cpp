@@ -74,12 +74,14 @@ int CCommandLineGroupUnified::runAdd(const Scene& scene) {
     const OdDbGroupPtr group = groupByName(dictionary, name, OdDb::kForWrite);
     if (!scene.editor || group->isNotAccessible())
         return 1;
-    return addToGroup(scene, group, highlightMembers(group));
+    const OdDbObjectIdArray members = highlightMembers(group);
+    return addToGroup(scene, group, members, hostSelectionSet::createObject(scene.database.get()));
 }
 
 int CCommandLineGroupUnified::addToGroup(const Scene& scene, const OdDbGroupPtr& group,
-                                         const OdDbObjectIdArray& members) {
+                                         const OdDbObjectIdArray& members, const hostSelectionSetPtr& set) {
     printLine(scene.io, group_messages::selectObjectsToAdd());
+    set->clear();
     OdDbObjectIdArray added;
     const int picked = askForAdditions(scene.editor, group, members, added);
     if (picked == kNoSelectionStep)

@@ -20,9 +20,10 @@ protected:
         HostCommandIO& io;
         HostEditorSelection* editor;
     };
-    // The end of an Add flow. Without a selection step of the host nothing is added, the members stay
-    // highlighted and `status` stays 2: that is meant.
-    int addToGroup(const Scene& scene, const OdDbGroupPtr& group, const OdDbObjectIdArray& members);
+    // The end of an Add flow, which clears `set`. Without a selection step of the host nothing is added, the
+    // members stay highlighted and `status` stays 2: that is meant.
+    int addToGroup(const Scene& scene, const OdDbGroupPtr& group, const OdDbObjectIdArray& members,
+                   const hostSelectionSetPtr& set);
 
 private:
     int runOption(int reply, const Scene& scene, IParam* params);

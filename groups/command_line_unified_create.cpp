@@ -42,7 +42,8 @@ int CCommandLineGroupUnified::createNamed(const Scene& scene, const OdString& na
         askInput(scene.io, group_messages::enterDescription(), {}, kDescriptionPrompt, &data.description);
     if (reply == kInputCancelled || reply == kInputKeyword)
         return end(1);
-    scene.editor->clearSelection();
+    if (scene.editor)
+        scene.editor->clearSelection();
     OdDbObjectIdArray ids;
     const int picked =
         askForObjects(scene.editor, selectionRequest(scene.database, group_messages::selectObjects()), ids);

@@ -1,10 +1,16 @@
 #include "groups/create_group.h"
 
+#include "groups/current_drawing.h"
 #include "groups/group_messages.h"
 #include "groups/highlight.h"
+#include "groups/keyword_list.h"
 #include "groups/selected_objects.h"
+#include "groups/selection_step.h"
+#include "host/app.h"
+#include "host/group_services.h"
 #include "host/text.h"
 #include "host/transaction_guard.h"
+#include "sdk/db/class_registry.h"
 #include "sdk/db/dictionary.h"
 
 #include <QDebug>
@@ -13,7 +19,7 @@
 namespace {
 
 OdDbGroupPtr newGroup() {
-    OdRxClass* const description = OdDbGroup::desc();
+    const OdRxClass* const description = odDbRegisteredClass("GROUP");
     if (!description)
         throw OdError(L"OdDbOdDbGroupis not loaded"); // the text is meant to stand like this
     const OdDbGroupPtr group = odrxQuery<OdDbGroup>(description->create().get());
@@ -45,12 +51,30 @@ void makeGroup(HostEditorSelection& editor, const hostSelectionSetPtr& selection
     data.name = group->name();
 }
 
+// A host with a selection step lets the user select what the group is made of. False when nothing is
+// selected afterwards.
+bool askForMembers(HostEditorSelection* editor, GroupData& data) {
+    const QString words = keywordBracket(shownKeywordWords(localKeywords(group_messages::endKeywords())));
+    const OdDbDatabasePtr database = currentDatabase();
+    const GroupSelectionRequest request =
+        selectionRequest(database, group_messages::selectObjectsIn().arg(words));
+    OdDbObjectIdArray ids;
+    const int reply = askForObjectsUntilEnd(editor, request, ids);
+    if (reply == kInputPicked)
+        selectIds(*editor, database, ids);
+    else if (reply != kNoSelectionStep)
+        data.createOk = false;
+    return reply == kInputPicked;
+}
+
 } // namespace
 
 // A group that fails after it has entered the dictionary stays there: that is meant. So does an empty
-// selection end without asking for one.
+// selection end well, with no group made.
 int createGroupFromData(HostEditorSelection* editor, OdDbObjectId dictionaryId, GroupData& data) {
-    const hostSelectionSetPtr selection = editor ? editor->getSelection() : hostSelectionSetPtr();
+    if (selectedIds(editor).empty() && !askForMembers(editor, data))
+        return 0;
+    const hostSelectionSetPtr selection = editor->getSelection(); // anew: it may have gone meanwhile
     if (idsOf(selection).empty())
         return 0;
     try {
@@ -59,6 +83,8 @@ int createGroupFromData(HostEditorSelection* editor, OdDbObjectId dictionaryId, 
     } catch (const OdError& error) {
         qDebug("OdError: code %d, description %s", static_cast<int>(error.code()),
                error.description().toLocal8Bit().c_str());
+        if (const Ref<IGroupServices> services = appService<IGroupServices>())
+            services->creationFailed(error);
         return error.code();
     }
 }

@@ -8,10 +8,11 @@
 
 // Makes the group that `data` describes from the current selection and puts its name into `data`. 0 when it
 // is made and when nothing is selected; otherwise the code of the OdError that stopped it, which is written
-// to the debug log.
+// to the debug log. A host's selection step is asked when nothing is selected; when that gives nothing
+// either, `createOk` is cleared.
 int createGroupFromData(HostEditorSelection* editor, OdDbObjectId dictionaryId, GroupData& data);
 
 // One transaction around createGroupFromData. 0 with a message that names the group, also when nothing was
-// selected and no group exists; otherwise 1, and everything is taken back.
+// selected and no group exists; 1 after a failure and without `createOk`, and everything is taken back.
 int createInTransaction(const OdDbDatabasePtr& database, HostCommandIO& io, HostEditorSelection* editor,
                         GroupData& data);

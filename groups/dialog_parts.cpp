@@ -37,7 +37,10 @@ int firstSelectedRow(const QTableWidget& table) {
     return rows.isEmpty() ? -1 : rows.front().row();
 }
 
-void scrollToRow(QTableWidget& table, int row) { table.scrollTo(table.model()->index(row, 0)); }
+void scrollToRow(QTableWidget& table, int row) {
+    table.doItemsLayout(); // the range of the scroll bar follows new rows only later
+    table.scrollTo(table.model()->index(row, 0));
+}
 
 QString yesOrNo(bool yes) { return yes ? QDialog::tr("Yes") : QDialog::tr("No"); }
 

@@ -1,4 +1,5 @@
-// "Find Name": from an object to the names of the groups that hold it.
+#include "groups/find_name.h"
+
 #include "groups/current_drawing.h"
 #include "groups/group_member_dlg.h"
 #include "groups/group_messages.h"

@@ -2,14 +2,12 @@
 
 #include "groups/create_group.h"
 #include "groups/current_drawing.h"
+#include "groups/find_name.h"
 #include "groups/group_dlg.h"
-#include "groups/group_messages.h"
 #include "groups/group_reorder_dlg.h"
 #include "groups/highlight.h"
-#include "groups/keyword_list.h"
 #include "groups/local_undo.h"
 #include "groups/obj_highlight_dlg.h"
-#include "groups/selected_objects.h"
 #include "groups/selection_step.h"
 #include "host/modal_runner.h"
 #include "host/qt_ui_core.h"
@@ -21,18 +19,6 @@ namespace {
 constexpr int kNotAccessible = 4;
 constexpr int kNoParent = 20;
 constexpr int kNotConfirmed = 314;
-
-// A host with a selection step lets the user select what a new group is made of, when nothing is selected.
-void askForMembers(HostEditorSelection* editor) {
-    if (!selectedIds(editor).empty())
-        return;
-    const OdDbDatabasePtr database = currentDatabase();
-    const QString words = keywordBracket(shownKeywordWords(localKeywords(group_messages::endKeywords())));
-    const QString prompt = group_messages::selectObjectsIn().arg(words);
-    OdDbObjectIdArray ids;
-    if (askForObjectsUntilEnd(editor, selectionRequest(database, prompt), ids) == kInputPicked)
-        selectIds(*editor, database, ids);
-}
 
 bool endsRun(int result) {
     return result == CGroupDlg::kAccepted || result == CGroupDlg::kEnded || result == CGroupDlg::kCancelled;
@@ -79,7 +65,11 @@ int CGroupCmd::runDialog(const DialogRun& run) {
     }
 }
 
+// The buttons Add and Remove can be pressed without a chosen row, after a new fill of the table.
 int CGroupCmd::workFor(int result, const DialogRun& run) {
+    const bool asks = result == CGroupDlg::kAdd || result == CGroupDlg::kRemove;
+    if (asks && run.data.group.isNull())
+        return kCannotAsk;
     if (result == CGroupDlg::kRemove)
         return removeObjectsPrompt(run.editor, run.data, false);
     if (result == CGroupDlg::kAdd)
@@ -88,7 +78,6 @@ int CGroupCmd::workFor(int result, const DialogRun& run) {
         return orderGroup(run.dictionaryId, run.data);
     if (result == CGroupDlg::kFindName)
         return pickGroupMember(run.editor, run.dictionaryId);
-    askForMembers(run.editor);
     const int failure = createGroupFromData(run.editor, run.dictionaryId, run.data);
     run.dialog.refillTable();
     return failure;

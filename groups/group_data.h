@@ -12,7 +12,7 @@ struct GroupData {
     bool selectable = true;      // of a new group
     bool unnamed = false;        // a new group is to be anonymous
     bool includeUnnamed = false; // list anonymous groups
-    bool createOk = true;        // tested after a creation; nothing clears it
+    bool createOk = true;        // tested after a creation; only a host's selection step clears it
     int currentRow = -1;         // of `group` in the dialog's table
     int errorCode = 0;           // the last GroupDialogError
     bool highlight = false;      // the dialog's Highlight check box

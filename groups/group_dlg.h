@@ -43,6 +43,7 @@ protected:
     void closeEvent(QCloseEvent* event) override; // counts as Cancel
 
 private:
+    static constexpr int kRowHeight = 22;
     enum Order { kCollated = 0, kSorted = 1 }; // of the three fills of the table
     struct Row {
         QString name;
@@ -53,6 +54,7 @@ private:
     void build();
     void buildIdentification();
     void buildButtons();
+    void flatten();
     void layOut();
     QGroupBox* identificationBox();
     QGroupBox* createBox();
@@ -83,6 +85,7 @@ private:
     bool isListed(const QString& name) const;
     int countNamedRows() const;
     void explode();
+    void giveUpRow(int row);
     void rename();
     void changeDescription();
     void changeSelectable();

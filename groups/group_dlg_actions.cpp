@@ -2,6 +2,8 @@
 #include "groups/dialog_parts.h"
 #include "groups/group_dlg.h"
 #include "groups/group_names.h"
+#include "host/app.h"
+#include "host/group_services.h"
 #include "host/text.h"
 
 #include <QCheckBox>
@@ -65,7 +67,16 @@ int CGroupDlg::countNamedRows() const {
     return count;
 }
 
-// `rowIds` keeps its entry: that is meant.
+// `rowIds` keeps its entry unless the host wants it otherwise: that is meant.
+void CGroupDlg::giveUpRow(int row) {
+    const Ref<IGroupServices> services = appService<IGroupServices>();
+    if (services && services->explodeGivesUpRow()) {
+        groupTable->setCurrentItem(nullptr);
+        rowIds.erase(rowIds.begin() + row);
+    }
+    groupTable->removeRow(row);
+}
+
 void CGroupDlg::explode() {
     const QTableWidgetItem* const item = groupTable->currentItem();
     if (!item)
@@ -81,7 +92,7 @@ void CGroupDlg::explode() {
     }
     const auto dictionary = odrxCast<OdDbDictionary>(dictionaryId.safeOpenObject(OdDb::kForWrite));
     group->erase(true);
-    groupTable->removeRow(row);
+    giveUpRow(row);
     reorderButton->setEnabled(groupTable->rowCount() > 0);
 }
 

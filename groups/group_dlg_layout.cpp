@@ -14,11 +14,24 @@
 
 using group_dialogs::named;
 
+namespace {
+
+// Rows close together, with next to no room above and below them.
+void packRows(QLayout& layout, int vertically) {
+    group_dialogs::tighten(layout);
+    const QMargins margins = layout.contentsMargins();
+    layout.setContentsMargins(margins.left(), vertically, margins.right(), vertically);
+    layout.setSpacing(1);
+}
+
+} // namespace
+
 void CGroupDlg::build() {
     groupTable = named(new QTableWidget(this), "groupTable");
     group_dialogs::setUpTable(*groupTable, {QDialog::tr("Group name"), QDialog::tr("Selectable")});
     buildIdentification();
     buildButtons();
+    flatten();
     nameEdit->setEnabled(!data->unnamed);
 }
 
@@ -53,11 +66,23 @@ void CGroupDlg::buildButtons() {
     okButton = named(new QPushButton(QDialog::tr("OK"), this), "okButton");
     cancelButton = named(new QPushButton(QDialog::tr("Cancel"), this), "cancelButton");
     helpButton = named(new QPushButton(QDialog::tr("Help"), this), "helpButton");
+    for (QPushButton* const button : findChildren<QPushButton*>())
+        button->setAutoDefault(false); // Enter in a field presses none of them
+}
+
+// The window leaves the table room for five rows only where the other controls are no higher than these.
+void CGroupDlg::flatten() {
+    for (QPushButton* const button : findChildren<QPushButton*>())
+        button->setFixedHeight(kRowHeight);
+    for (QLineEdit* const edit : {nameEdit, descriptionEdit})
+        edit->setFixedHeight(kRowHeight);
+    for (QCheckBox* const check : {highlightCheck, includeUnnamedCheck, selectableCheck, unnamedCheck})
+        check->setFixedHeight(kRowHeight);
 }
 
 void CGroupDlg::layOut() {
     auto* const column = new QVBoxLayout(this);
-    group_dialogs::tighten(*column);
+    packRows(*column, 2);
     column->addWidget(groupTable);
     column->addWidget(identificationBox());
     column->addWidget(createBox());
@@ -72,7 +97,7 @@ void CGroupDlg::layOut() {
 QGroupBox* CGroupDlg::identificationBox() {
     auto* const box = new QGroupBox(QDialog::tr("Group Identification"), this);
     auto* const grid = new QGridLayout(box);
-    group_dialogs::tighten(*grid);
+    packRows(*grid, 0);
     grid->addWidget(new QLabel(QDialog::tr("Group name") + QLatin1Char(':'), box), 0, 0);
     grid->addWidget(nameEdit, 0, 1, 1, 2);
     grid->addWidget(new QLabel(QDialog::tr("Description") + QLatin1Char(':'), box), 1, 0);
@@ -88,7 +113,7 @@ QGroupBox* CGroupDlg::identificationBox() {
 QGroupBox* CGroupDlg::createBox() {
     auto* const box = new QGroupBox(QDialog::tr("Create Group"), this);
     auto* const row = new QHBoxLayout(box);
-    group_dialogs::tighten(*row);
+    packRows(*row, 0);
     row->addWidget(newButton);
     row->addWidget(selectableCheck);
     row->addWidget(unnamedCheck);
@@ -98,7 +123,7 @@ QGroupBox* CGroupDlg::createBox() {
 QGroupBox* CGroupDlg::changeBox() {
     auto* const box = new QGroupBox(QDialog::tr("Change Group"), this);
     auto* const rows = new QVBoxLayout(box);
-    group_dialogs::tighten(*rows);
+    packRows(*rows, 0);
     auto* const first = new QHBoxLayout;
     for (QPushButton* const button : {removeButton, addButton, renameButton, reorderButton})
         first->addWidget(button);

@@ -1,6 +1,8 @@
 // The three fills of the table of groups. They differ in order and strictness, and that is meant.
 #include "groups/dialog_parts.h"
 #include "groups/group_dlg.h"
+#include "groups/highlight.h"
+#include "host/selection.h"
 #include "host/text.h"
 
 #include <QCheckBox>
@@ -9,8 +11,6 @@
 #include <QTableWidget>
 
 namespace {
-
-constexpr int kRowHeight = 22;
 
 // Where the fill isn't strict, an entry that does not open or is no group is passed over.
 OdDbGroupPtr groupOf(const OdDbDictionaryIteratorPtr& entry, bool strict) {
@@ -32,6 +32,9 @@ void CGroupDlg::fillTable() {
 
 // `currentRow` keeps its value when no row has the name: that is meant.
 void CGroupDlg::refillTable() {
+    data->group = {};
+    if (dropHighlight(*data))
+        HostUpdateDisplay();
     clearTable();
     showRows(rowsOf(odrxCast<OdDbDictionary>(dictionaryId.openObject()), kSorted, false), false);
     const bool isRow = data->currentRow >= 0 && data->currentRow < groupTable->rowCount();
@@ -49,7 +52,9 @@ void CGroupDlg::fillForIncludeUnnamed() {
     data->currentRow = currentRow;
 }
 
+// The group that was chosen does not come back by this: only a choice of the user fills the controls.
 void CGroupDlg::clearTable() {
+    const QSignalBlocker blocker(groupTable);
     groupTable->clearContents();
     groupTable->setRowCount(0);
     rowIds.clear();

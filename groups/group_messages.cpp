@@ -1,5 +1,6 @@
 #include "groups/group_messages.h"
 
+#include "groups/keyword_list.h"
 #include "host/text.h"
 
 #include <QObject>
@@ -14,9 +15,12 @@ QString enterDescription() { return QObject::tr("Enter a group description:"); }
 
 QString enterGroupOption() { return QObject::tr("Enter a group option [%1]"); }
 
-QString selectGroupOr() { return QObject::tr("Select group or [%1]"); }
-
 QString selectGroupKeywords() { return QObject::tr("? Name _ ? Name"); }
+
+QString selectGroup() {
+    const QStringList words = keywordWordsHelpFirst(localKeywords(selectGroupKeywords()));
+    return QObject::tr("Select group or [%1]").arg(keywordBracket(words));
+}
 
 QString selectObjects() { return QObject::tr("Select objects"); }
 

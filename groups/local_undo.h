@@ -15,6 +15,9 @@ public:
     void takeBack(); // everything since the start, once
 
 private:
+    struct OpenBlock {};
+    HostLocalUndo(OdDbDatabasePtr changed, OpenBlock);
+
     OdDbDatabasePtr database;
     bool undoBlockWasStarted;
     int undoMarks = 0;

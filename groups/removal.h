@@ -8,7 +8,8 @@
 
 class HostEditorSelection;
 
-// Asks before a group of more than one member loses all of them; otherwise true without a question.
+// Asks before a group of more than one member loses all of them, and only Ok is consent; otherwise true
+// without a question.
 bool mayRemove(const OdDbGroupPtr& group, std::size_t count, const OdString& name, const QString& title,
                QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
 

@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr int kCannotAsk = 314;
-
 bool canAsk(HostEditorSelection* editor, const GroupData& data) {
     return editor && !data.group->isNotAccessible();
 }

@@ -11,6 +11,7 @@
 
 // Without an editor, or when the host has no selection step, a request is dropped: kNoSelectionStep.
 enum { kNoSelectionStep = -100 };
+constexpr int kCannotAsk = 314; // without an editor or for a group that is not accessible
 bool hasSelectionStep();
 
 GroupSelectionRequest selectionRequest(const OdDbDatabasePtr& database, const QString& prompt,
@@ -25,9 +26,7 @@ void selectIds(HostEditorSelection& editor, const OdDbDatabasePtr& database, con
 int askForAdditions(HostEditorSelection* editor, const OdDbGroupPtr& group, const OdDbObjectIdArray& members,
                     OdDbObjectIdArray& ids);
 
-// "Find Name": asks for a member of a group and tells the names of its groups. 0.
-int pickGroupMember(HostEditorSelection* editor, OdDbObjectId dictionaryId);
-// Ask for objects that are to join or to leave the group of `data`: 0, or 314 when that can't be asked. The
+// Ask for objects that are to join or to leave the group of `data`: 0, or kCannotAsk. The
 // members are highlighted; without a selection step they stay so.
 int addObjectsPrompt(HostEditorSelection* editor, GroupData& data);
 int removeObjectsPrompt(HostEditorSelection* editor, GroupData& data, bool alreadyHighlighted);

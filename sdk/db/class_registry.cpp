@@ -15,6 +15,8 @@
 #include "sdk/db/xrecord.h"
 
 #include <map>
+#include <string>
+#include <utility>
 
 namespace {
 
@@ -46,8 +48,8 @@ const Classes& entityClasses() {
 }
 
 // Tables are told apart by the name behind the colon.
-const Classes& objectClasses() {
-    static const Classes classes{
+Classes& objectClasses() {
+    static Classes classes{
         {"DICTIONARY", OdDbDictionary::desc()},
         {"ACDBDICTIONARYWDFLT", OdDbDictionary::desc()},
         {"GROUP", OdDbGroup::desc()},
@@ -78,10 +80,19 @@ std::vector<std::string_view> odDbEntityNames() {
     return names;
 }
 
+OdRxClass* odDbRegisteredClass(std::string_view dxfName) {
+    const auto found = objectClasses().find(dxfName);
+    return found == objectClasses().end() ? nullptr : found->second;
+}
+
+OdRxClass* odDbRegisterClass(std::string_view dxfName, OdRxClass* objectClass) {
+    return std::exchange(objectClasses()[std::string(dxfName)], objectClass);
+}
+
 OdRxClass* odDbClassForDxfName(std::string_view name, bool isEntity) {
     const Classes& classes = isEntity ? entityClasses() : objectClasses();
     const auto found = classes.find(name);
-    if (found != classes.end())
+    if (found != classes.end() && found->second)
         return found->second;
     if (!isEntity && name.substr(0, 6) == "TABLE:")
         return OdDbSymbolTable::desc();

@@ -7,6 +7,7 @@
 #include "standin/params/yaml_tree.h"
 #include "standin/references/attach_services.h"
 #include "standin/selection/group_selection_step.h"
+#include "standin/selection/group_services.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -87,6 +88,7 @@ Application::Application(const ApplicationSetup& setup)
         hub->add(profile);
     hub->add(made(new AttachServices));
     hub->add(made(new GroupSelectionStep));
+    hub->add(made(new GroupServices));
     theOnlyIApp = hub.get();
     OdDbXRefMan::setSearchFolders(foldersOfReferences);
 }

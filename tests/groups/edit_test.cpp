@@ -143,12 +143,18 @@ TEST_F(Edit, AddFlowAddsNothingAndLeavesTheMembersHighlighted) {
 }
 
 TEST_F(Edit, RepliesThatEndTheOptionsUnhighlight) {
+    int prompts = 0;
+    io.onPrompt = [&](const OdString&) {
+        ++prompts;
+        EXPECT_THAT(highlightedLines(), ElementsAre(0, 1));
+    };
     for (const ScriptedAnswer& end : {cancel(), enter(), picked({})}) {
         selection.select(pick({0}));
         EXPECT_EQ(edit({end}), 1);
         EXPECT_EQ(status, 1);
         EXPECT_THAT(highlightedLines(), IsEmpty());
     }
+    EXPECT_EQ(prompts, 3);
 }
 
 TEST_F(Edit, OtherRepliesEndWellAndLeaveTheMembersHighlighted) {
@@ -229,7 +235,9 @@ TEST_F(Edit, RenameToAnExistingNameEndsWellAndLeavesTheMembersHighlighted) {
 
 TEST_F(Edit, CancelledRenameUnhighlights) {
     selection.select(pick({0}));
+    io.onPrompt = [&](const OdString&) { EXPECT_THAT(highlightedLines(), ElementsAre(0, 1)); };
     EXPECT_EQ(edit({keyword(2), keyword(0), enter(), enter(), cancel()}), 1);
+    EXPECT_EQ(io.prompts.size(), 4u);
     EXPECT_EQ(status, 1);
     EXPECT_THAT(highlightedLines(), IsEmpty());
 }

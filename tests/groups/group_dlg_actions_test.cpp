@@ -35,9 +35,12 @@ TEST_F(GroupDialog, RenameStoresUpperCaseAndTellsIt) {
 TEST_F(GroupDialog, RenameToTheGroupsOwnNameCountsAsADuplicate) {
     user.then([](QDialog& dialog) {
         choose(dialog, "TABLE");
+        DialogUser::clickIn(dialog, "descriptionButton");
+        in<QPushButton>(dialog, "renameButton").setFocus();
         DialogUser::clickIn(dialog, "renameButton");
-        EXPECT_EQ(message(dialog), QString());
+        EXPECT_EQ(message(dialog), QStringLiteral("Group description has been updated."));
         EXPECT_EQ(dialog.focusWidget(), &in<QLineEdit>(dialog, "nameEdit"));
+        EXPECT_EQ(in<QLineEdit>(dialog, "nameEdit").selectedText(), QStringLiteral("TABLE"));
         DialogUser::clickIn(dialog, "okButton");
     });
     runDialog();
@@ -46,12 +49,19 @@ TEST_F(GroupDialog, RenameToTheGroupsOwnNameCountsAsADuplicate) {
 
 TEST_F(GroupDialog, RenameWithoutARowOrWithUnnamedOnlyClearsTheMessage) {
     user.then([](QDialog& dialog) {
+        const QString updated = QStringLiteral("Group description has been updated.");
+        choose(dialog, "TABLE");
+        DialogUser::clickIn(dialog, "descriptionButton");
+        in<QCheckBox>(dialog, "includeUnnamedCheck").click(); // no row is chosen from here on
         type(dialog, "nameEdit", "desk");
+        EXPECT_EQ(message(dialog), updated);
         DialogUser::clickIn(dialog, "renameButton");
         EXPECT_EQ(message(dialog), QString());
         choose(dialog, "TABLE");
+        type(dialog, "nameEdit", "desk");
         DialogUser::clickIn(dialog, "descriptionButton");
         in<QCheckBox>(dialog, "unnamedCheck").click();
+        EXPECT_EQ(message(dialog), updated);
         DialogUser::clickIn(dialog, "renameButton");
         EXPECT_EQ(message(dialog), QString());
         DialogUser::clickIn(dialog, "okButton");

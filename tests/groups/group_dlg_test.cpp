@@ -45,13 +45,6 @@ TEST_F(GroupDialog, WithOneNamedGroupReorderIsDisabledAndFindNameEnabled) {
     runDialog();
 }
 
-TEST_F(GroupDialog, WithoutAParentTheRunEndsBeforeAnyUndoRecord) {
-    standin::registry().dialogParent = nullptr;
-    EXPECT_EQ(run<CGroupCmd>(), 1);
-    EXPECT_EQ(status, 1);
-    EXPECT_FALSE(database->isUndoBlockStarted());
-}
-
 TEST_F(GroupDialog, EscapeBringsTheDialogBack) {
     user.then([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }).click("okButton");
     EXPECT_EQ(runDialog(), 0);
@@ -295,12 +288,4 @@ TEST_F(GroupDialog, FailedCreationEndsTheRunAndKeepsEarlierChanges) {
     });
     EXPECT_EQ(runDialog(), 0);
     EXPECT_FALSE(group(L"TABLE")->isSelectable());
-}
-
-TEST_F(GroupDialog, RunningUndoBlockIsLeftOpen) {
-    database->blockUndoRecording(true);
-    user.click("okButton");
-    EXPECT_EQ(run<CGroupCmd>(), 0);
-    EXPECT_TRUE(database->isUndoBlockStarted());
-    database->blockUndoRecording(false);
 }

@@ -9,10 +9,14 @@ class HookedIO : public ScriptedIO {
 public:
     // Called with the text of each prompt before it is answered.
     std::function<void(const OdString& prompt)> onPrompt;
+    OdString leftInResult; // what stands in the result after a reply that typed nothing
     int getInput(const wchar_t* prompt, const wchar_t* keywords, int flags, OdString* result,
                  int reserved) override {
         if (onPrompt)
             onPrompt(prompt);
-        return ScriptedIO::getInput(prompt, keywords, flags, result, reserved);
+        const int reply = ScriptedIO::getInput(prompt, keywords, flags, result, reserved);
+        if (reply != kInputTyped && result && !leftInResult.isEmpty())
+            *result = leftInResult;
+        return reply;
     }
 };

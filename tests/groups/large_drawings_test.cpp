@@ -41,6 +41,7 @@ TEST_F(ManyGroups, DialogShowsAllAndCancelTakesItsChangesBack) {
         choose(dialog, "Group4711");
         in<QLineEdit>(dialog, "nameEdit").setText(QStringLiteral("RENAMED"));
         DialogUser::clickIn(dialog, "renameButton");
+        EXPECT_EQ(message(dialog), QStringLiteral("Group name has been updated."));
         choose(dialog, "Group99999");
         DialogUser::clickIn(dialog, "explodeButton");
         EXPECT_EQ(table(dialog).rowCount(), kCount - 1);

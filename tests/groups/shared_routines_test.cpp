@@ -1,4 +1,5 @@
 // Names, parameters, system variables, keywords and the other routines that the group commands share.
+#include "groups/find_name.h"
 #include "groups/group_names.h"
 #include "groups/highlight.h"
 #include "groups/keyword_list.h"
@@ -219,14 +220,6 @@ TEST_F(GroupRoutines, LocalUndoTakesEverythingBackOnceAndClosesItsBlock) {
         EXPECT_TRUE(hasGroup(L"KEPT"));
         EXPECT_TRUE(database->isUndoBlockStarted());
     }
-    EXPECT_FALSE(database->isUndoBlockStarted());
-}
-
-TEST_F(GroupRoutines, LocalUndoLeavesARunningBlockOpen) {
-    database->blockUndoRecording(true);
-    { const HostLocalUndo undo(database); }
-    EXPECT_TRUE(database->isUndoBlockStarted());
-    database->blockUndoRecording(false);
     EXPECT_FALSE(database->isUndoBlockStarted());
 }
 

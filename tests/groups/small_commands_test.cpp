@@ -1,9 +1,9 @@
-// The four short commands, and the routine that makes a group.
+// The four short commands.
 #include "groups/command_line_create.h"
 #include "groups/command_line_from_selection.h"
 #include "groups/command_line_remove_object.h"
 #include "groups/command_line_ungroup.h"
-#include "groups/create_group.h"
+#include "tests/groups/debug_lines.h"
 #include "tests/groups/dialog_user.h"
 #include "tests/groups/group_fixture.h"
 
@@ -13,99 +13,6 @@
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-namespace {
-
-QStringList* debugLines = nullptr;
-void collectDebug(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (type == QtDebugMsg && debugLines && qstrcmp(context.category, "default") == 0)
-        debugLines->append(text);
-}
-
-// Collects the debug lines of a scope.
-class DebugLines {
-public:
-    DebugLines() : former(qInstallMessageHandler(collectDebug)) { debugLines = &collected; }
-    ~DebugLines() {
-        debugLines = nullptr;
-        qInstallMessageHandler(former);
-    }
-    QStringList collected;
-
-private:
-    QtMessageHandler former;
-};
-
-} // namespace
-
-class CreateGroup : public GroupTest {
-protected:
-    int create(GroupData& data) { return createGroupFromData(&selection, dictionary()->objectId(), data); }
-};
-
-TEST_F(CreateGroup, NamedGroupHasEverythingOfTheRecord) {
-    GroupData data;
-    data.name = L"NEW";
-    data.description = L"A description";
-    data.selectable = false;
-    selection.select(pick({3, 1}));
-    EXPECT_EQ(create(data), 0);
-    EXPECT_THAT(members(L"NEW"), ElementsAre(3, 1));
-    EXPECT_EQ(group(L"NEW")->description(), OdString(L"A description"));
-    EXPECT_FALSE(group(L"NEW")->isSelectable());
-    EXPECT_FALSE(group(L"NEW")->isAnonymous());
-    EXPECT_EQ(data.name, OdString(L"NEW"));
-    EXPECT_EQ(selection.cleared, 1);
-}
-
-TEST_F(CreateGroup, UnnamedGroupLeavesItsNameInTheRecord) {
-    GroupData data;
-    data.name = L"IGNORED";
-    data.unnamed = true;
-    selection.select(pick({0}));
-    EXPECT_EQ(create(data), 0);
-    EXPECT_EQ(data.name.left(2), OdString(L"*A"));
-    EXPECT_TRUE(group(data.name.c_str())->isAnonymous());
-    EXPECT_FALSE(hasGroup(L"IGNORED"));
-}
-
-TEST_F(CreateGroup, HighlightOfTheSelectionIsTakenOff) {
-    GroupData data;
-    data.name = L"NEW";
-    odrxCast<OdDbEntity>(lines[0].safeOpenObject())->highlight(true);
-    selection.select(pick({0}));
-    EXPECT_EQ(create(data), 0);
-    EXPECT_THAT(highlightedLines(), IsEmpty());
-}
-
-TEST_F(CreateGroup, EmptySelectionAsksNothingAndMakesNothing) {
-    GroupData data;
-    data.name = L"NEW";
-    EXPECT_EQ(create(data), 0);
-    EXPECT_FALSE(hasGroup(L"NEW"));
-    EXPECT_TRUE(io.transcript.empty());
-}
-
-TEST_F(CreateGroup, TakenNameGivesTheCodeAndOneDebugLine) {
-    addGroup(L"TAKEN", pick({1}));
-    GroupData data;
-    data.name = L"TAKEN";
-    selection.select(pick({0}));
-    const DebugLines debug;
-    EXPECT_EQ(create(data), eDuplicateKey);
-    EXPECT_EQ(debug.collected, QStringList{"OdError: code 24, description TAKEN"});
-    EXPECT_THAT(members(L"TAKEN"), ElementsAre(1));
-}
-
-TEST_F(CreateGroup, GroupThatFailsLaterStaysInTheDictionary) {
-    GroupData data;
-    data.name = L"NEW";
-    selection.select({dictionary()->objectId()});
-    const DebugLines debug;
-    EXPECT_EQ(create(data), eNotThatKindOfClass);
-    EXPECT_TRUE(hasGroup(L"NEW"));
-    EXPECT_EQ(debug.collected.size(), 1);
-}
 
 class QuietCommands : public GroupTest {};
 
