@@ -9,6 +9,7 @@
 #include "tests/e2e/workbench_fixture.h"
 #include "workbench/canvas/canvas.h"
 
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QTableWidget>
@@ -149,6 +150,85 @@ TEST_F(GroupWorkbench, OrderDialogOpensBehindTheDialogThatMakesWayForIt) {
           },
           [&] { press("okButton"); }, [&] { press("okButton"); }});
     EXPECT_EQ(membersOf(L"STUDY"), "15C 15A");
+}
+
+TEST_F(GroupWorkbench, ExplodeGivesUpItsRowAndTheNextOnesStayThemselves) {
+    play({[this] { submit("GROUP"); },
+          [] {
+              auto* dialog = QApplication::activeModalWidget();
+              auto* table = dialog->findChild<QTableWidget*>("groupTable");
+              const auto click = [&](const char* name) { dialog->findChild<QPushButton*>(name)->click(); };
+              const int row = table->findItems("STUDY", Qt::MatchExactly).front()->row();
+              ASSERT_GT(row, 0);
+              const QString before = table->item(row - 1, 0)->text();
+              table->selectRow(row - 1);
+              click("explodeButton");
+              EXPECT_TRUE(table->findItems(before, Qt::MatchExactly).isEmpty());
+              EXPECT_TRUE(table->selectedItems().isEmpty());
+              table->selectRow(row - 1);
+              dialog->findChild<QLineEdit*>("descriptionEdit")->setText("Where one works");
+              click("descriptionButton");
+              click("okButton");
+          }});
+    const auto groups = odrxCast<OdDbDictionary>(drawing().getGroupDictionaryId().safeOpenObject());
+    const auto study = odrxCast<OdDbGroup>(groups->getAt(L"STUDY", OdDb::kForRead));
+    EXPECT_EQ(study->description(), OdString(L"Where one works"));
+}
+
+TEST_F(GroupWorkbench, TableOfTheDialogHasRoomForFiveRowsInBothThemes) {
+    for (const char* theme : {"Dark", "Light"}) {
+        enter({"THEME", theme});
+        play({[this] { submit("GROUP"); },
+              [] {
+                  auto* table = QApplication::activeModalWidget()->findChild<QTableWidget*>("groupTable");
+                  EXPECT_GE(table->viewport()->height(), 5 * table->rowHeight(0));
+                  QApplication::activeModalWidget()->findChild<QPushButton*>("okButton")->click();
+              }});
+    }
+}
+
+TEST_F(GroupWorkbench, WhatACommandLeavesHighlightedGoesOffWhenItEnds) {
+    int atThePrompt = -1;
+    play({[this] { submit("SELECT"); }, [this] { submit(desk); }, [this] { submit(""); },
+          [this] { submit("GROUPEDIT"); },
+          [&] {
+              atThePrompt = highlighted();
+              submit("REName");
+          },
+          [this] { submit("BATHROOM"); }});
+    EXPECT_EQ(atThePrompt, 2);
+    EXPECT_EQ(membersOf(L"STUDY"), "15A 15C"); // the name was taken
+    EXPECT_EQ(highlighted(), 0);
+}
+
+TEST_F(GroupWorkbench, GroupSelectionAsksWhenNothingIsSelected) {
+    enter({"GROUPSELECTION", bed, ""});
+    EXPECT_EQ(membersOf(L"Group1"), bed);
+    enter({"UNDO"});
+    enter({"GROUPSELECTION", ""});
+    EXPECT_EQ(membersOf(L"Group1"), "none");
+    EXPECT_EQ(lastLine(), QStringLiteral("Nothing was changed."));
+}
+
+TEST_F(GroupWorkbench, ReasonOfAGroupThatWasNotMadeIsTold) {
+    enter({"SELECT", bed, ""});
+    drawing()
+        .getOdDbObjectId(OdDbHandle(OdString(bed, CP_UTF8)))
+        .safeOpenObject(OdDb::kForWrite)
+        ->erase(true);
+    enter({"GROUPSELECTION"});
+    EXPECT_EQ(membersOf(L"Group1"), "none");
+    EXPECT_TRUE(wasPrinted("The group was not made: Object was erased."));
+    EXPECT_EQ(lastLine(), QStringLiteral("Nothing was changed."));
+}
+
+TEST_F(GroupWorkbench, ListNamesTheGroupsOfEachObjectInTheirOrder) {
+    enter({"SELECT", desk, bed, "", "GROUPSELECTION", "SELECT", bed, desk, "", "LIST"});
+    EXPECT_TRUE(wasPrinted("    in group STUDY, Group1"));
+    const QStringList lines = transcript().filter(QStringLiteral("in group"));
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_TRUE(lines[0].endsWith(QStringLiteral("Group1")));
+    EXPECT_EQ(lines[1], QStringLiteral("    in group STUDY, Group1"));
 }
 
 TEST_F(GroupWorkbench, EveryCommandSaysThatItNeedsADrawing) {

@@ -59,8 +59,9 @@ void list(const CommandScope& scope) {
         return;
     OdDbObjectIdArray ids;
     set->objectIds(ids);
+    const GroupNames groups(*scope.documents.currentOne()->database(), ids);
     for (const OdDbObjectId& id : ids)
-        for (const QString& line : objectText(id))
+        for (const QString& line : objectText(id, groups))
             scope.console.print(line);
 }
 

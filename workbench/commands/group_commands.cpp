@@ -6,6 +6,7 @@
 #include "standin/documents/document_manager.h"
 #include "workbench/canvas/canvas.h"
 #include "workbench/commands/commands.h"
+#include "workbench/commands/left_highlight.h"
 #include "workbench/module_loader.h"
 
 #include <QCoreApplication>
@@ -19,7 +20,7 @@ namespace {
 
 QString tr(const char* text) { return QCoreApplication::translate("GroupCommands", text); }
 
-constexpr int kCancelledOrFailed = 1; // of a command's status
+constexpr int kCancelledOrFailed = 1; // of a command's run
 
 struct GroupCommand {
     const char* name;
@@ -59,8 +60,8 @@ void run(const CommandScope& scope, const LoadedModule& module, const GroupComma
     const Ref<ICmdProcess> command = module.command(entry.className);
     if (!command)
         return scope.console.print(tr("The plug-in has no group commands."));
-    command->Run(nullptr);
-    if (command->getStatus() == kCancelledOrFailed)
+    const LeftHighlight tidying(scope.documents.currentOne()->database());
+    if (command->Run(nullptr) == kCancelledOrFailed)
         scope.console.print(tr("Nothing was changed."));
     scope.canvas.refresh();
 }

@@ -85,23 +85,29 @@ QString geometryText(const OdDbEntity& entity) {
     return {};
 }
 
-QStringList groupsOf(const OdDbEntity& entity) {
-    QStringList names;
-    const auto groups =
-        odrxQuery<OdDbDictionary>(entity.database()->getGroupDictionaryId().openObject().get());
-    if (groups.isNull())
-        return names;
-    for (auto it = groups->newIterator(); !it->done(); it->next()) {
-        const auto group = odrxQuery<OdDbGroup>(it->getObject().get());
-        if (!group.isNull() && group->has(&entity))
-            names.append(qString(it->name()));
-    }
-    return names;
-}
-
 } // namespace
 
-QStringList objectText(OdDbObjectId id) {
+GroupNames::GroupNames(OdDbDatabase& drawing, const OdDbObjectIdArray& objects) {
+    const auto groups = odrxQuery<OdDbDictionary>(drawing.getGroupDictionaryId().openObject().get());
+    if (groups.isNull())
+        return;
+    for (const OdDbObjectId& id : objects)
+        names.insert(id.getStub(), {});
+    OdDbObjectIdArray members;
+    for (const auto it = groups->newIterator(); !it->done(); it->next()) {
+        const auto group = odrxQuery<OdDbGroup>(it->getObject().get());
+        if (group.isNull())
+            continue;
+        group->allEntityIds(members);
+        for (const OdDbObjectId& member : members) {
+            const auto found = names.find(member.getStub());
+            if (found != names.end())
+                found->append(qString(it->name()));
+        }
+    }
+}
+
+QStringList objectText(OdDbObjectId id, const GroupNames& groups) {
     const auto entity = odrxQuery<OdDbEntity>(id.openObject().get());
     if (entity.isNull())
         return {};
@@ -111,9 +117,9 @@ QStringList objectText(OdDbObjectId id) {
     const QString geometry = geometryText(*entity);
     if (!geometry.isEmpty())
         lines.append(QStringLiteral("    ") + geometry);
-    const QStringList groups = groupsOf(*entity);
-    if (!groups.isEmpty())
-        lines.append(tr("    in group %1").arg(groups.join(QStringLiteral(", "))));
+    const QStringList names = groups.of(id);
+    if (!names.isEmpty())
+        lines.append(tr("    in group %1").arg(names.join(QStringLiteral(", "))));
     return lines;
 }
 
