@@ -28,6 +28,13 @@ OdDbEntityPtr beginOf(const OdDbBlockTableRecord& record, OdDb::OpenMode mode = 
     return odrxQuery<OdDbEntity>(record.blockBeginId().openObject(mode, true).get());
 }
 
+bool isLivingReference(OdDbDatabaseImpl& impl, OdDbStub& stub, OdDbObjectId block) {
+    if (stub.has(OdDbStub::kErased) || impl.typeName(stub) != "INSERT")
+        return false;
+    const auto insert = odrxQuery<OdDbBlockReference>(impl.load(stub).get());
+    return !insert.isNull() && insert->blockTableRecord() == block;
+}
+
 // References know their block by its name.
 void renameInserts(OdDbDatabase& database, const OdString& former, const OdString& name) {
     OdDbDatabaseImpl& impl = database.impl();
@@ -189,12 +196,28 @@ OdGeExtents3d OdDbBlockTableRecord::extents() const {
     return found;
 }
 
-void OdDbBlockTableRecord::erase(bool erasing) {
+bool OdDbBlockTableRecord::hasLivingReferences() const {
+    if (!database())
+        return false;
+    OdDbDatabaseImpl& impl = database()->impl();
+    for (const auto& [owner, block] : impl.blocks) {
+        if (owner == objectId().getStub() || owner->has(OdDbStub::kErased))
+            continue;
+        for (OdDbStub* stub : block.entities)
+            if (isLivingReference(impl, *stub, objectId()))
+                return true;
+    }
+    return false;
+}
+
+OdResult OdDbBlockTableRecord::erase(bool erasing) {
     if (isLayout())
         throw OdError(eInvalidInput, L"A layout can't be erased");
+    if (erasing && !isErased() && hasLivingReferences())
+        return eIsReferenced;
     OdDbSymbolTableRecord::erase(erasing);
     if (!database())
-        return;
+        return eOk;
     OdDbDatabaseImpl& impl = database()->impl();
     const OdDbBlockContent& block = impl.blocks[objectId().getStub()];
     std::vector<OdDbStub*> parts = block.entities;
@@ -204,6 +227,7 @@ void OdDbBlockTableRecord::erase(bool erasing) {
     for (OdDbStub* part : parts)
         if (part->has(OdDbStub::kErased) != erasing)
             impl.setErased(*part, erasing);
+    return eOk;
 }
 
 OdDbObjectId OdDbBlockTable::add(OdDbSymbolTableRecord* record) {

@@ -46,8 +46,11 @@ public:
     OdDbObjectIdArray entityIds() const;
     // The box around everything in the block. A block that contains itself counts once.
     OdGeExtents3d extents() const;
-    // Erases the record with its entities, or brings them back. Throws eInvalidInput for a layout.
-    void erase(bool erasing = true) override;
+    // Whether an INSERT shows the block that is neither erased nor itself in an erased block or in this one.
+    bool hasLivingReferences() const;
+    // Erases the record with its entities, or brings them back. eIsReferenced, with nothing changed, for a
+    // block with living references. Throws eInvalidInput for a layout.
+    OdResult erase(bool erasing = true) override;
 
     // The entity that opens the block in the file; it holds path, base point and flags. Null when there is
     // none.

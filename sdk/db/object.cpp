@@ -45,12 +45,13 @@ OdString OdDbObject::dxfName() const {
     return content.empty() ? OdString() : codec().decode(content[0].value());
 }
 
-void OdDbObject::erase(bool erasing) {
+OdResult OdDbObject::erase(bool erasing) {
     if (!ownStub)
-        return;
+        return eOk;
     assertWriteEnabled();
     if (isErased() != erasing)
         ownStub->database->impl().setErased(*ownStub, erasing);
+    return eOk;
 }
 
 OdDbObjectId OdDbObject::extensionDictionary() const {

@@ -26,8 +26,8 @@ public:
     bool isWriteEnabled() const { return !ownStub || writable; }
     void upgradeOpen() { writable = true; }
     void downgradeOpen() { writable = false; }
-    // false brings an erased object back.
-    virtual void erase(bool erasing = true);
+    // false brings an erased object back. eOk, or why the object stays as it is.
+    virtual OdResult erase(bool erasing = true);
 
     // Dictionary of extra data; null when there is none.
     OdDbObjectId extensionDictionary() const;

@@ -40,8 +40,9 @@ public:
     OdString getHyperlinkBase() const { return fields[kHyperlinkBase]; }
     void setHyperlinkBase(const OdString& text) { fields[kHyperlinkBase] = text; }
 
-    // Custom properties keep their order; names may repeat. Reading and deleting throw OdError_InvalidIndex
-    // outside of the list; writing at or past the end adds one entry.
+    // Custom properties keep their order; names may repeat. Those that have no name in the drawing are not
+    // among them, and oddbPutSummaryInfo keeps them where they are. Reading and deleting throw
+    // OdError_InvalidIndex outside of the list; writing at or past the end adds one entry.
     int numCustomInfo() const { return static_cast<int>(custom.size()); }
     void getCustomSummaryInfo(int index, OdString& key, OdString& value) const;
     void setCustomSummaryInfo(int index, const OdString& key, const OdString& value);
@@ -50,8 +51,15 @@ public:
     OdDbDatabase* database() const { return owner.get(); }
     void setDatabase(OdDbDatabase* database) { owner = OdDbDatabasePtr(database); }
 
+    // A property without a name, behind so many with one.
+    struct Nameless {
+        std::size_t place;
+        OdString value;
+    };
+
     OdString fields[kFieldCount];
     CustomEntries custom;
+    std::vector<Nameless> nameless;
 
 private:
     std::size_t checkedIndex(int index) const;

@@ -22,6 +22,23 @@ constexpr int kRecordCodes[Info::kFieldCount] = {2, 3, 4, 7, 6, 8, 9, 1};
 constexpr int kFirstCustom = 300;
 constexpr int kLastCustom = 309;
 
+void take(Info& info, const OdString& name, const OdString& value) {
+    if (name.isEmpty())
+        info.nameless.push_back({info.custom.size(), value});
+    else
+        info.custom.emplace_back(name, value);
+}
+
+// All that goes into the file, in its order.
+Info::CustomEntries allProperties(const Info& info) {
+    Info::CustomEntries all = info.custom;
+    for (std::size_t i = 0; i < info.nameless.size(); ++i) {
+        const auto place = std::min(info.nameless[i].place + i, all.size());
+        all.emplace(all.begin() + static_cast<std::ptrdiff_t>(place), OdString(), info.nameless[i].value);
+    }
+    return all;
+}
+
 OdDbXrecordPtr summaryRecord(OdDbDatabase& database, OdDb::OpenMode mode) {
     const auto root = odrxCast<OdDbDictionary>(database.getNamedObjectsDictionaryId().safeOpenObject());
     return odrxQuery<OdDbXrecord>(root->getAt(kRecordName, mode).get());
@@ -39,8 +56,7 @@ void readRecord(const OdDbXrecord& record, const DxfCodec& codec, Info& info) {
                 info.fields[field] = codec.decode(value);
         const std::size_t equals = value.find('=');
         if (tags[i].code >= kFirstCustom && tags[i].code <= kLastCustom && equals != std::string_view::npos)
-            info.custom.emplace_back(codec.decode(value.substr(0, equals)),
-                                     codec.decode(value.substr(equals + 1)));
+            take(info, codec.decode(value.substr(0, equals)), codec.decode(value.substr(equals + 1)));
     }
 }
 
@@ -80,7 +96,7 @@ void odDbReadSummary(OdDbDatabase& database, Info& info) {
     for (int field = 0; field < Info::kFieldCount; ++field)
         info.fields[field] = impl.codec.decode(impl.header.value(kHeaderNames[field]));
     for (const auto& [key, value] : impl.header.customProperties())
-        info.custom.emplace_back(impl.codec.decode(key), impl.codec.decode(value));
+        take(info, impl.codec.decode(key), impl.codec.decode(value));
 }
 
 bool odDbWriteSummaryToHeader(OdDbDatabase& database, const Info& info) {
@@ -94,10 +110,11 @@ bool odDbWriteSummaryToHeader(OdDbDatabase& database, const Info& info) {
         impl.header.set(kHeaderNames[field], 1, impl.codec.encode(info.fields[field]));
         changed = true;
     }
-    if (former.custom == info.custom)
+    const Info::CustomEntries all = allProperties(info);
+    if (allProperties(former) == all)
         return changed;
     std::vector<std::pair<std::string, std::string>> properties;
-    for (const auto& [key, value] : info.custom)
+    for (const auto& [key, value] : all)
         properties.emplace_back(impl.codec.encode(key), impl.codec.encode(value));
     impl.header.setCustomProperties(properties);
     return true;
@@ -117,7 +134,7 @@ void fillRecord(DxfTagList& tags, const OdDbXrecord& record, const DxfCodec& cod
     for (int field = 0; field < Info::kHyperlinkBase; ++field)
         tags.insert(place++, kRecordCodes[field], codec.encode(info.fields[field]));
     int code = kFirstCustom;
-    for (const auto& [key, value] : info.custom) {
+    for (const auto& [key, value] : allProperties(info)) {
         tags.insert(place++, code, codec.encode(key + OdString(L"=") + value));
         code = code == kLastCustom ? kLastCustom : code + 1;
     }
@@ -127,7 +144,7 @@ void fillRecord(DxfTagList& tags, const OdDbXrecord& record, const DxfCodec& cod
 bool isSameSummary(OdDbDatabase& database, const Info& info) {
     Info present;
     odDbReadSummary(database, present);
-    return present.custom == info.custom &&
+    return allProperties(present) == allProperties(info) &&
            std::equal(present.fields, present.fields + Info::kFieldCount, info.fields);
 }
 

@@ -30,6 +30,7 @@ const wchar_t* plainText(OdResult code) {
         {eAlreadyInDb, L"Object is already in a database"},
         {eNoActiveTransactions, L"No active transactions"},
         {eSelfReference, L"Object refers to itself"},
+        {eIsReferenced, L"Object is still referred to"},
         {eUserBreak, L"Cancelled by the user"},
         {eDxfReadError, L"DXF file can't be read"},
         {eAmbiguousInput, L"Ambiguous input"},

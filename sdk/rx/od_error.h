@@ -27,6 +27,7 @@ enum OdResult : int {
     eAlreadyInDb = 88,
     eNoActiveTransactions = 95,
     eSelfReference = 96,
+    eIsReferenced = 98,
     eUserBreak = 160,
     eDxfReadError = 169,
     eAmbiguousInput = 300

@@ -54,7 +54,8 @@ protected:
         case 4:
             return group->setDescription(anyName());
         case 5:
-            return group->erase(true);
+            group->erase(true);
+            return;
         default:
             group->clear();
         }

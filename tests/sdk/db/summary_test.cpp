@@ -54,6 +54,32 @@ TEST_P(Summary, EveryFieldSurvivesSavingAndReading) {
     EXPECT_EQ(info->database(), read.get());
 }
 
+TEST_P(Summary, PropertiesWithoutANameAreKeptWhereTheyAreAndNotHandedOut) {
+    const OdDbDatabasePtr database = drawingOf(GetParam());
+    auto info = oddbGetSummaryInfo(database.get());
+    for (const auto& [name, value] :
+         Entries{{L"", L"0"}, {L"a", L"1"}, {L"", L"2"}, {L"b", L"3"}, {L"", L"4"}})
+        info->setCustomSummaryInfo(9, name, value);
+    oddbPutSummaryInfo(info.get());
+    const std::string written = database->writeBytes();
+    const OdDbDatabasePtr read = OdDbDatabase::readBytes(written);
+    info = oddbGetSummaryInfo(read.get());
+    EXPECT_EQ(info->custom, (Entries{{L"a", L"1"}, {L"b", L"3"}}));
+    oddbPutSummaryInfo(info.get());
+    EXPECT_EQ(read->writeBytes(), written) << "nothing was changed";
+    info->setCustomSummaryInfo(2, L"c", L"5");
+    oddbPutSummaryInfo(info.get());
+    info->deleteCustomSummaryInfo(0);
+    info->deleteCustomSummaryInfo(0);
+    info->deleteCustomSummaryInfo(0);
+    oddbPutSummaryInfo(info.get());
+    info = oddbGetSummaryInfo(again(*read).get());
+    EXPECT_EQ(info->numCustomInfo(), 0);
+    ASSERT_EQ(info->nameless.size(), 3u);
+    EXPECT_EQ(info->nameless[0].value, OdString(L"0"));
+    EXPECT_EQ(info->nameless[2].value, OdString(L"4"));
+}
+
 TEST_P(Summary, AbortTakesTheRecordBack) {
     const OdDbDatabasePtr database = drawingOf(GetParam());
     const std::string before = database->writeBytes();

@@ -173,6 +173,43 @@ TEST_F(References, ErasedDefinitionTakesItsBlockAlong) {
     EXPECT_EQ(codeOf([&] { attach("a.dxf"); }), eOk);
 }
 
+TEST_F(References, DefinitionThatALivingReferenceUsesRefusesToBeErased) {
+    const auto record = attach("a.dxf");
+    const auto space =
+        odrxCast<OdDbBlockTableRecord>(database->getModelSpaceId().safeOpenObject(OdDb::kForWrite));
+    OdDbBlockReferencePtr reference(new OdDbBlockReference);
+    reference->setBlockTableRecord(record->objectId());
+    EXPECT_FALSE(record->hasLivingReferences()) << "in no space yet";
+    space->appendOdDbEntity(reference.get());
+    record->upgradeOpen();
+    const std::string before = database->writeBytes();
+    EXPECT_EQ(record->erase(true), eIsReferenced);
+    EXPECT_FALSE(record->isErased());
+    EXPECT_EQ(database->writeBytes(), before);
+    EXPECT_EQ(reference->erase(true), eOk);
+    EXPECT_EQ(record->erase(true), eOk);
+    EXPECT_TRUE(graphNames().empty());
+    EXPECT_EQ(record->erase(false), eOk);
+    EXPECT_EQ(graphNames(), Names{"a.dxf"});
+}
+
+TEST_F(References, ReferencesInErasedBlocksAndInTheBlockItselfDoNotCount) {
+    const auto record = attach("a.dxf");
+    OdDbBlockTableRecordPtr outer(new OdDbBlockTableRecord);
+    outer->setName(L"OUTER");
+    odrxCast<OdDbBlockTable>(database->getBlockTableId().safeOpenObject(OdDb::kForWrite))->add(outer.get());
+    outer->upgradeOpen();
+    for (const OdDbBlockTableRecordPtr& shown : {record, outer}) {
+        OdDbBlockReferencePtr reference(new OdDbBlockReference);
+        reference->setBlockTableRecord(shown->objectId());
+        outer->appendOdDbEntity(reference.get());
+    }
+    record->upgradeOpen();
+    EXPECT_EQ(record->erase(true), eIsReferenced);
+    EXPECT_EQ(outer->erase(true), eOk);
+    EXPECT_EQ(record->erase(true), eOk);
+}
+
 TEST_F(References, ReferenceEntitySurvivesSaving) {
     write("a.dxf", {});
     OdDbBlockReferencePtr reference(new OdDbBlockReference);
