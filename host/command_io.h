@@ -43,4 +43,6 @@ public:
 // Reads of typed numbers, in the unit style of the drawing when it is -1; false when the text is no number.
 bool hostdbDisToF(const OdString& text, int unitStyle, double& value);
 bool hostdbAngToF(const OdString& text, int unitStyle, double& value, int);
+// The text of a length in a unit style; with -1 the shortest plain decimal that reads as the same number,
+// whatever the units of the drawing.
 void hostdbRToS(double value, int unitStyle, int, OdString& text, int, int);

@@ -1,6 +1,7 @@
 // Lengths as text and back: decimal, scientific, feet and inches, fractions.
 #include "standin/units/unit_text.h"
 
+#include <QLocale>
 #include <QRegularExpression>
 #include <cmath>
 #include <numeric>
@@ -103,5 +104,7 @@ QString lengthText(double value, const LengthUnits& units) {
     const bool zero = lengthFromText(text, units.style).value_or(1) == 0;
     return value < 0 && !zero ? QLatin1Char('-') + text : text;
 }
+
+QString plainNumberText(double value) { return QString::number(value, 'f', QLocale::FloatingPointShortest); }
 
 } // namespace standin

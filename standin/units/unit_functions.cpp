@@ -54,9 +54,14 @@ bool hostdbAngToF(const OdString& text, int unitStyle, double& value, int) {
     return read.has_value();
 }
 
+// Without a style of its own the text is for a field that reads plain numbers, so the units of the drawing
+// are none of its business.
 void hostdbRToS(double value, int unitStyle, int, OdString& text, int, int) {
+    if (unitStyle == -1) {
+        text = hostqt::odString(standin::plainNumberText(value));
+        return;
+    }
     standin::LengthUnits units = standin::currentLengthUnits();
-    if (unitStyle != -1)
-        units.style = unitStyle;
+    units.style = unitStyle;
     text = hostqt::odString(standin::lengthText(value, units));
 }

@@ -25,6 +25,8 @@ struct AngleUnits {
 // 5'2-1/2". Null when the text is no length.
 std::optional<double> lengthFromText(const QString& text, int style);
 QString lengthText(double value, const LengthUnits& units);
+// The shortest decimal, without an exponent, that reads as this very number.
+QString plainNumberText(double value);
 
 // Radians counter-clockwise from the X axis. Read in the style given or with a mark of its own: 45d30'15",
 // 50g, 1.2r, N45dE. Null when the text is no angle.

@@ -83,10 +83,17 @@ TEST(UnitsFunctions, FailedReadLeavesTheValue) {
     EXPECT_NEAR(value, M_PI, 1e-12);
 }
 
-TEST(UnitsFunctions, RealIsWrittenInTheUnitsOfTheDrawing) {
+TEST(UnitsFunctions, RealIsWrittenInAStyleOrElseAsThePlainNumberThatReadsBack) {
     OdString text;
-    hostdbRToS(2.5, -1, 1, text, -1, -1);
-    EXPECT_EQ(text, OdString(L"2.5"));
+    hostdbRToS(62.5, kArchitectural, 1, text, -1, -1);
+    EXPECT_EQ(text, OdString(L"5'-2-1/2\""));
+    for (const wchar_t* number : {L"2.5", L"0.125", L"-0.00001", L"0.1", L"1000000", L"123456.789012345"}) {
+        const double value = QString::fromWCharArray(number).toDouble();
+        hostdbRToS(value, -1, 1, text, -1, -1);
+        EXPECT_EQ(text, OdString(number));
+    }
+    hostdbRToS(1e300, -1, 1, text, -1, -1);
+    EXPECT_EQ(QString::fromStdWString(text.wide()).toDouble(), 1e300);
 }
 
 } // namespace
