@@ -3,6 +3,7 @@
 
 #include "host/text.h"
 #include "sdk/db/xref_man.h"
+#include "standin/documents/property_names.h"
 #include "standin/params/std_dirs.h"
 #include "standin/params/yaml_tree.h"
 #include "standin/references/attach_services.h"
@@ -58,9 +59,10 @@ Ref<ParamOf<IConfigParam>> loadConfig(const ApplicationSetup& setup) {
     return tree;
 }
 
-Ref<FileProfile> openOwnProfile(const ApplicationSetup& setup) {
+Ref<FileProfile> openOwnProfile(const ApplicationSetup& setup, IParam* options) {
     const QString shipped = setup.dataDir + QStringLiteral("/profile_defaults.yaml");
-    setProfileDefaults({QFileInfo::exists(shipped) ? shipped : QString(), setup.io, setup.remembered});
+    setProfileDefaults({QFileInfo::exists(shipped) ? shipped : QString(), setup.io, setup.remembered,
+                        rangesOfProfile(options)});
     return openProfile(setup.rootDir);
 }
 
@@ -74,7 +76,7 @@ std::vector<OdString> foldersOfReferences() {
 } // namespace
 
 Application::Application(const ApplicationSetup& setup)
-    : hub(made(new ServiceHub)), config(loadConfig(setup)), profile(openOwnProfile(setup)),
+    : hub(made(new ServiceHub)), config(loadConfig(setup)), profile(openOwnProfile(setup, config.get())),
       ioParams(made(new InFile<ParamOf<IIOParams>>(storeFiles(setup, "formats", 0), setup.io))),
       papers(made(new InFile<StdPapers>(storeFiles(setup, "papers", 0), setup.io))),
       dirs(made(new InFile<MemParam>(storeFiles(setup, "stddirs", 2), setup.io))), before(theOnlyIApp) {
@@ -89,6 +91,7 @@ Application::Application(const ApplicationSetup& setup)
     hub->add(made(new AttachServices));
     hub->add(made(new GroupSelectionStep));
     hub->add(made(new GroupServices));
+    hub->add(made(new PropertyNames));
     theOnlyIApp = hub.get();
     OdDbXRefMan::setSearchFolders(foldersOfReferences);
 }

@@ -27,6 +27,8 @@ public:
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
     bool flush(); // false when something could not be written
+    // One more service of the application object.
+    void add(Ref<IKWUnknown> service) { hub->add(std::move(service)); }
 
 private:
     Ref<ServiceHub> hub;

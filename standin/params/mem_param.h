@@ -9,7 +9,8 @@ namespace standin {
 // sections below any root are MemParam. The count starts at 0.
 template <class I> class ParamOf : public CKWUnknownImpl<I>, public SectionOwner {
 public:
-    explicit ParamOf(TreeRulesPtr rules = {}) : data(std::move(rules)) {}
+    explicit ParamOf(TreeRulesPtr rules = {}, std::string path = {})
+        : data(std::move(rules), std::move(path)) {}
 
     IParam* createChild(const char* name) override { return data.createChild(name).detach(); }
     IParam* openSection(const char* name, int create) override {

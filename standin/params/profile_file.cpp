@@ -30,11 +30,20 @@ StoreFiles filesBelow(const QString& root) {
             profileDefaults().remembered};
 }
 
+TreeRulesPtr profileRules() {
+    auto rules = std::make_shared<TreeRules>();
+    rules->ranges = profileDefaults().ranges;
+    return rules;
+}
+
 class SharedProfile : public FileProfile {
 public:
     explicit SharedProfile(const QString& rootDir)
-        : FileProfile(filesBelow(rootDir), profileDefaults().io), root(rootDir) {
+        : FileProfile(filesBelow(rootDir), profileDefaults().io, profileRules()), root(rootDir) {
         openProfiles()[root] = this;
+        for (const QString& line : valuesOutOfRange(section(), profileDefaults().ranges))
+            profileDefaults().io.report(QDir::toNativeSeparators(filesBelow(root).user) +
+                                        QStringLiteral(": ") + line);
     }
     ~SharedProfile() override { openProfiles().erase(root); }
 

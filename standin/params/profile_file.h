@@ -8,11 +8,13 @@ namespace standin {
 using FileProfile = InFile<ParamOf<IProfile>>;
 
 // What every profile that is opened from now on starts with: the shipped default (may be empty), how files
-// are accessed, and what is remembered as in StoreFiles.
+// are accessed, what is remembered as in StoreFiles, and the ranges of numbers. A number beyond its range is
+// told once, stays in the file, and is handed out as the end of the range.
 struct ProfileDefaults {
     QString shipped;
     StoreIo io;
     std::vector<std::string> remembered = {};
+    ValueRanges ranges = {};
 };
 void setProfileDefaults(ProfileDefaults defaults);
 

@@ -63,10 +63,31 @@ Ref<MemParam> Section::child(std::string_view name, bool create) {
         return *found;
     if (!create || !mayChange())
         return nullptr;
-    auto made = Ref<MemParam>::share(new MemParam(rules));
+    auto made = newChild(name);
     ownChildren[name] = made;
     changed();
     return made;
+}
+
+Ref<MemParam> Section::newChild(std::string_view name) const {
+    return Ref<MemParam>::share(
+        new MemParam(rules, ownPath.empty() ? std::string(name) : ownPath + '/' + std::string(name)));
+}
+
+Ref<MemParam> Section::find(const std::string& sectionPath) const {
+    std::string_view rest = sectionPath;
+    bool last = false;
+    const Ref<MemParam>* node = ownChildren.find(takePart(rest, last));
+    while (node && !last)
+        node = (*node)->section().children().find(takePart(rest, last));
+    return node ? *node : nullptr;
+}
+
+CKWVariant Section::served(std::string_view name, const CKWVariant& value) const {
+    if (!rules || rules->ranges.empty())
+        return value;
+    const auto range = rules->ranges.find(ownPath + '/' + std::string(name));
+    return range == rules->ranges.end() ? value : withinRange(value, range->second);
 }
 
 Ref<MemParam> Section::openSection(const char* path, bool create) {
@@ -111,7 +132,7 @@ Ref<IParamEnum> Section::newEnum() const { return Ref<IParamEnum>::share(new Nam
 int Section::getValue(const char* name, tagKWVARIANT* out) const {
     const CKWVariant* found = ownValues.find(plain(name));
     if (found && out)
-        hand(*found, out);
+        hand(served(plain(name), *found), out);
     return found ? 1 : 0;
 }
 
@@ -134,7 +155,7 @@ void Section::mergeFrom(const Section& other) {
     for (const auto& entry : other.ownChildren) {
         Ref<MemParam>& mine = ownChildren[entry.name];
         if (!mine)
-            mine = Ref<MemParam>::share(new MemParam(rules));
+            mine = newChild(entry.name);
         mine->section().mergeFrom(entry.value->section());
     }
 }

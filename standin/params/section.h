@@ -4,6 +4,7 @@
 
 #include "host/param.h"
 #include "standin/params/ordered_map.h"
+#include "standin/params/value_ranges.h"
 
 #include <functional>
 #include <memory>
@@ -14,6 +15,7 @@ namespace standin {
 struct TreeRules {
     std::function<bool()> mayChange; // asked before each change; empty: yes. A refused change does nothing.
     std::function<void()> changed;   // told after each change
+    ValueRanges ranges;              // a number beyond its range is handed out as the end of it
 };
 using TreeRulesPtr = std::shared_ptr<TreeRules>;
 
@@ -27,10 +29,13 @@ public:
     using Values = OrderedMap<CKWVariant>;
     using Children = OrderedMap<Ref<MemParam>>;
 
-    explicit Section(TreeRulesPtr treeRules) : rules(std::move(treeRules)) {}
+    // `pathFromRoot` has '/' between its parts and is empty for the root itself.
+    explicit Section(TreeRulesPtr treeRules, std::string pathFromRoot = {})
+        : rules(std::move(treeRules)), ownPath(std::move(pathFromRoot)) {}
 
     Ref<MemParam> createChild(const char* path); // an existing one is emptied; null when refused
     Ref<MemParam> openSection(const char* path, bool create);
+    Ref<MemParam> find(const std::string& path) const; // null when there is no such section
     void removeEntry(const char* path);
     void clear(); // the children; the values stay
     Ref<IParamEnum> newEnum() const;
@@ -49,11 +54,14 @@ private:
     bool mayChange() const { return !rules || !rules->mayChange || rules->mayChange(); }
     void changed() const;
     Ref<MemParam> child(std::string_view name, bool create);
+    Ref<MemParam> newChild(std::string_view name) const;
+    CKWVariant served(std::string_view name, const CKWVariant& value) const;
     void mergeFrom(const Section& other);
 
     Values ownValues;
     Children ownChildren;
     TreeRulesPtr rules;
+    std::string ownPath;
 };
 
 // Implemented by every node of these trees, so that code of the stand-in can look at values without knowing

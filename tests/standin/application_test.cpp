@@ -2,6 +2,7 @@
 #include "standin/params/application.h"
 
 #include "host/app.h"
+#include "host/property_names.h"
 #include "host/std_dirs.h"
 #include "host/text.h"
 #include "host/typed_reads.h"
@@ -99,6 +100,13 @@ TEST_F(ApplicationTest, EveryServiceAnswersAndTheInteriorTellsRootAndMode) {
     EXPECT_TRUE(sectionOf<IParam>("StdDirsDescriptions"));
     EXPECT_TRUE(appService<IProfile>());
     EXPECT_EQ(problems, QStringList());
+}
+
+TEST_F(ApplicationTest, NamesOfBlanksOfAnyKindAreNoNamesOfProperties) {
+    const auto names = appService<IPropertyNames>();
+    for (const wchar_t* blank : {L"", L" ", L"\t", L"\u00a0\u2003"})
+        EXPECT_FALSE(names->isName(blank));
+    EXPECT_TRUE(names->isName(L" x "));
 }
 
 TEST_F(ApplicationTest, TheObjectIsGoneWithTheApplication) {
