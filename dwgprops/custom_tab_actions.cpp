@@ -3,12 +3,24 @@
 
 #include "dwgprops/add_dlg.h"
 #include "dwgprops/custom_table.h"
+#include "host/app.h"
 #include "host/modal_runner.h"
+#include "host/property_names.h"
 #include "host/qt_ui_core.h"
 
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
+
+namespace {
+
+// A name of other blanks than code 32 passes the dialog's own check, and is trimmed away afterwards.
+bool isRefusedByHost(const QString& name) {
+    const auto names = appService<IPropertyNames>();
+    return names && !names->isName(name.toStdWString().c_str());
+}
+
+} // namespace
 
 // The dialog is not deleted here, on purpose: it goes with the tab.
 void CustomTab::onAdd() {
@@ -32,7 +44,7 @@ void CustomTab::checkName(AddDlg& dialog) {
     QString fault;
     if (name.size() > maxNameLength)
         fault = tr("This name is too long. Maximum length is %1 characters.").arg(maxNameLength);
-    else if (isBlankName(name))
+    else if (isBlankName(name) || isRefusedByHost(name))
         fault = tr("This name must be at least one char long.");
     else if (nameInUse(name))
         fault = tr("The name,%1, is already in use.\nYou will need to enter a different name.").arg(name);

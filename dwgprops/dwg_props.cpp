@@ -7,6 +7,7 @@
 #include "dwgprops/db_text.h"
 #include "dwgprops/general_tab.h"
 #include "dwgprops/history_tab.h"
+#include "dwgprops/property_tabs.h"
 #include "dwgprops/start_line_edit.h"
 #include "dwgprops/statistic_tab.h"
 #include "dwgprops/summary_tab.h"
@@ -57,7 +58,7 @@ dwgProps::~dwgProps() = default;
 
 // Each tab gets the dialog as parent at once, so that it is freed when a later one throws.
 void dwgProps::build(const QFileInfo& fileInfo) {
-    tabs = new QTabWidget(this);
+    tabs = new PropertyTabs(this);
     tabs->setObjectName(QStringLiteral("tabs"));
     const auto adopted = [this](auto* tab, const char* name) {
         tab->setParent(this);

@@ -5,6 +5,7 @@
 #include "dwgprops/db_text.h"
 #include "dwgprops/elided_label.h"
 #include "dwgprops/start_line_edit.h"
+#include "host/text.h"
 
 #include <QCheckBox>
 #include <QFileIconProvider>
@@ -12,10 +13,21 @@
 #include <QGridLayout>
 #include <QMimeDatabase>
 
+namespace {
+
+// Owned before it is filled: what the rows ask of the drawing may throw.
+QGridLayout& newGrid(QVBoxLayout& column) {
+    auto* const grid = new QGridLayout;
+    column.addLayout(grid);
+    return *grid;
+}
+
+} // namespace
+
 GeneralTab::GeneralTab(const QFileInfo& fileInfo) {
     auto* const column = new QVBoxLayout(this);
-    column->addLayout(nameGrid(fileInfo));
-    column->addLayout(factsGrid(fileInfo));
+    addName(newGrid(*column), fileInfo);
+    addFacts(newGrid(*column), fileInfo);
 }
 
 QString GeneralTab::formatFileType(const QString& path) {
@@ -38,7 +50,7 @@ QString GeneralTab::formatFileSize(qint64 size) {
            suffix;
 }
 
-QGridLayout* GeneralTab::nameGrid(const QFileInfo& fileInfo) {
+void GeneralTab::addName(QGridLayout& grid, const QFileInfo& fileInfo) {
     QPixmap picture(32, 32);
     if (fileInfo.fileName().isEmpty())
         picture.fill(Qt::transparent);
@@ -50,23 +62,19 @@ QGridLayout* GeneralTab::nameGrid(const QFileInfo& fileInfo) {
     auto* const nameEdit = new m_LineEdit(fileInfo.fileName(), this);
     nameEdit->setObjectName(QStringLiteral("nameEdit"));
     nameEdit->setReadOnly(true);
-    nameEdit->setToolTip(fileInfo.fileName());
-    auto* const grid = new QGridLayout;
-    grid->addWidget(iconLabel, 0, 0);
-    grid->addWidget(nameEdit, 0, 1);
-    return grid;
+    nameEdit->setToolTip(plainToolTip(fileInfo.fileName()));
+    grid.addWidget(iconLabel, 0, 0);
+    grid.addWidget(nameEdit, 0, 1);
 }
 
-QGridLayout* GeneralTab::factsGrid(const QFileInfo& fileInfo) {
-    auto* const grid = new QGridLayout;
-    addFileFacts(*grid, fileInfo);
-    addDates(*grid, fileInfo);
-    addAttributes(*grid, fileInfo);
+void GeneralTab::addFacts(QGridLayout& grid, const QFileInfo& fileInfo) {
+    addFileFacts(grid, fileInfo);
+    addDates(grid, fileInfo);
+    addAttributes(grid, fileInfo);
     for (const int row : {0, 4, 8})
-        grid->addItem(new QSpacerItem(40, 20, QSizePolicy::Expanding, QSizePolicy::Fixed), row, 1);
-    grid->addItem(new QSpacerItem(20, 40, QSizePolicy::Minimum, QSizePolicy::Expanding), 10, 1);
-    grid->setRowStretch(2, 1);
-    return grid;
+        grid.addItem(new QSpacerItem(40, 20, QSizePolicy::Expanding, QSizePolicy::Fixed), row, 1);
+    grid.addItem(new QSpacerItem(20, 40, QSizePolicy::Minimum, QSizePolicy::Expanding), 10, 1);
+    grid.setRowStretch(2, 1);
 }
 
 // The kind is asked of the bare name, not of the path.
@@ -77,7 +85,7 @@ void GeneralTab::addFileFacts(QGridLayout& grid, const QFileInfo& fileInfo) {
     const QString location = fileInfo.canonicalPath();
     auto* const locationLabel = new ElidedLabel(location, this);
     locationLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    locationLabel->setToolTip(location);
+    locationLabel->setToolTip(plainToolTip(location));
     addRow(grid, 2, tr("Location:"), locationLabel, "locationLabel");
     addRow(grid, 3, tr("Size:"), new QLabel(formatFileSize(fileInfo.size()), this), "sizeLabel");
 }

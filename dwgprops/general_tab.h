@@ -20,8 +20,8 @@ public:
     static QString formatFileSize(qint64 size);
 
 private:
-    QGridLayout* nameGrid(const QFileInfo& fileInfo);
-    QGridLayout* factsGrid(const QFileInfo& fileInfo);
+    void addName(QGridLayout& grid, const QFileInfo& fileInfo);
+    void addFacts(QGridLayout& grid, const QFileInfo& fileInfo);
     void addFileFacts(QGridLayout& grid, const QFileInfo& fileInfo);
     void addDates(QGridLayout& grid, const QFileInfo& fileInfo);
     void addAttributes(QGridLayout& grid, const QFileInfo& fileInfo);

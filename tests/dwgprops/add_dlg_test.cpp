@@ -2,6 +2,7 @@
 #include "tests/dwgprops/dialog_driver.h"
 
 #include "dwgprops/add_dlg.h"
+#include "host/property_names.h"
 
 namespace {
 
@@ -103,6 +104,28 @@ TEST_F(AddProperty, DialogOpensWithItsTitleAndSizeAndTheFocusOnTheName) {
     EXPECT_TRUE(nameFocused);
 }
 
+TEST_F(AddProperty, DialogHasItsTextsFromTopToBottom) {
+    QStringList texts;
+    int okAt = 0, cancelAt = 0;
+    bool inOrder = false;
+    onNextDialog<AddDlg>([&](AddDlg& add) {
+        for (const QLabel* label : add.findChildren<QLabel*>())
+            texts << label->text();
+        texts << add.okButton->text() << add.cancelButton->text();
+        const auto labels = add.findChildren<QLabel*>();
+        inOrder = labels[0]->y() < add.nameEdit->y() && add.nameEdit->y() < labels[1]->y() &&
+                  labels[1]->y() < add.valueEdit->y() && add.valueEdit->y() < add.okButton->y();
+        okAt = add.okButton->x();
+        cancelAt = add.cancelButton->x();
+        add.reject();
+    });
+    dialog.click("addButton");
+    EXPECT_EQ(texts, QStringList({"Custom property name:", "Value:", "OK", "Cancel"}));
+    EXPECT_TRUE(inOrder);
+    EXPECT_GT(okAt, 290 / 4) << "the buttons stand at the right";
+    EXPECT_GT(cancelAt, okAt);
+}
+
 TEST_F(AddProperty, ANameOf255CharactersPasses) {
     add(QString(255, 'n'), "value");
     EXPECT_TRUE(host.messages.empty());
@@ -128,6 +151,16 @@ TEST_F(AddProperty, ANameOfATabIsNotBlankAndIsTrimmedAway) {
     EXPECT_EQ(shown(), (Properties{{"", "value"}}));
 }
 
+TEST_F(AddProperty, ANameThatTheHostDoesNotTakeIsRefusedAsBlank) {
+    class OnlyX : public CKWUnknownImpl<IPropertyNames> {
+        bool isName(const wchar_t* text) override { return text == std::wstring(L"x"); }
+    };
+    static_cast<standin::ServiceHub*>(host.application())->add(Ref<IPropertyNames>::share(new OnlyX));
+    expectRefusal("\t", "This name must be at least one char long.");
+    add("x", "value");
+    EXPECT_EQ(shown(), (Properties{{"x", "value"}}));
+}
+
 TEST_F(AddProperty, ANameInUseFailsWithItsText) {
     add("a%1", "1");
     expectRefusal("a%1", "The name,a%1, is already in use.\nYou will need to enter a different name.");
@@ -135,8 +168,9 @@ TEST_F(AddProperty, ANameInUseFailsWithItsText) {
 
 // As many rows count as have names, from the first row on, wherever the named ones stand.
 TEST_F(AddProperty, BehindARowWithoutANameTheLastNameIsNeitherComparedNorKept) {
-    setProperties({{"", "1"}, {"b", "2"}});
+    setProperties({{"a", "1"}, {"b", "2"}});
     OpenProperties other(kCustom);
+    other.customTable()->item(0, 0)->setText("");
     onNextDialog<AddDlg>([](AddDlg& add) {
         add.nameEdit->setText("b");
         QTest::mouseClick(add.okButton, Qt::LeftButton);

@@ -1,5 +1,6 @@
 // The command as a whole: what becomes of its transaction, however the dialog is left.
 #include "dwgprops/dwg_props_command.h"
+#include "sdk/db/xref_man.h"
 #include "tests/dwgprops/dialog_driver.h"
 
 namespace {
@@ -93,6 +94,18 @@ TEST_F(PropertiesCommand, EditsReachTheDrawingOnOkAndNotOnCancel) {
         });
         runDwgProps();
         EXPECT_EQ(summary()->getTitle(), accept ? OdString(L"A house") : OdString());
+    }
+}
+
+TEST_F(PropertiesCommand, WhatOthersDidInTheDrawingMeanwhileIsKeptOnOkAndAbortedOnCancel) {
+    for (const bool accept : {false, true}) {
+        onNextDialog<dwgProps>([&](dwgProps& dialog) {
+            OdDbXRefManExt::addNewXRefDefBlock(drawing.get(), L"/x/part.dxf", L"part", false);
+            accept ? dialog.onOK() : dialog.onCancel();
+        });
+        runDwgProps();
+        const auto blocks = odrxCast<OdDbBlockTable>(drawing->getBlockTableId().safeOpenObject());
+        EXPECT_EQ(blocks->has(L"part"), accept);
     }
 }
 

@@ -55,6 +55,7 @@ TEST_F(CustomEdit, ADoubleClickOnTheNameEditsTheValueToo) {
 
 TEST_F(CustomEdit, ADoubleClickOnABlankRowEditsNothing) {
     const QPoint place(20, table->rowViewportPosition(6) + 5);
+    ASSERT_EQ(table->rowAt(place.y()), 6);
     QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, place);
     EXPECT_EQ(editor(), nullptr);
 }

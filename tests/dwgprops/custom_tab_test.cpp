@@ -44,6 +44,38 @@ TEST_F(CustomPage, EntriesKeepTheirOrderAndStayTogetherThoughSortingIsEnabled) {
     EXPECT_EQ(shownProperties(*dialog.customTable()), mixed);
 }
 
+TEST_F(CustomPage, PropertiesWithoutANameStayInTheDrawingAndOutOfTheTable) {
+    setProperties({{"", "first"}, {"a", "1"}, {"", "second"}, {"b", "2"}, {"", "last"}});
+    OpenProperties dialog(kCustom);
+    EXPECT_EQ(shownProperties(*dialog.customTable()), (Properties{{"a", "1"}, {"b", "2"}}));
+    dialog.customTable()->item(1, 1)->setText("3");
+    select(*dialog.customTable(), {0});
+    dialog.click("deleteButton");
+    dialog.click("okButton");
+    EXPECT_EQ(properties(), (Properties{{"b", "3"}}));
+    QStringList values;
+    const OdDbDatabaseSummaryInfoPtr info = summary();
+    for (const auto& property : info->nameless)
+        values << QString::fromStdWString(property.value.wide());
+    EXPECT_EQ(values, QStringList({"first", "second", "last"}));
+}
+
+TEST_F(CustomPage, TableStandsBelowItsLabelAndBesideItsButtons) {
+    const OpenProperties dialog(kCustom);
+    const auto* const page = dialog.control<QWidget>("customTab");
+    const QLabel* const label = page->findChild<QLabel*>();
+    const QRect table = dialog.customTable()->geometry();
+    EXPECT_EQ(label->text(), "Custom properties:");
+    EXPECT_LT(label->geometry().bottom(), table.top());
+    for (const auto& [name, text] : {std::pair("addButton", "Add"), std::pair("deleteButton", "Delete")}) {
+        const auto* const button = dialog.control<QPushButton>(name);
+        EXPECT_EQ(button->text(), text);
+        EXPECT_GT(button->geometry().left(), table.right());
+    }
+    EXPECT_LT(dialog.control<QWidget>("addButton")->y(), dialog.control<QWidget>("deleteButton")->y());
+    EXPECT_LT(dialog.control<QWidget>("deleteButton")->geometry().bottom(), table.center().y());
+}
+
 TEST_F(CustomPage, ClicksOnTheHeadersSortNothing) {
     const Properties mixed{{"b", "1"}, {"a", "3"}, {"c", "2"}};
     setProperties(mixed);
@@ -77,8 +109,9 @@ TEST_F(CustomPage, TableIsSetUpAsItsUsersKnowIt) {
 }
 
 TEST_F(CustomPage, DeleteIsOfferedOnlyForASelectedRowWithAName) {
-    setProperties({{"a", "1"}, {"", "2"}});
+    setProperties({{"a", "1"}, {"b", "2"}});
     const OpenProperties dialog(kCustom);
+    dialog.customTable()->item(1, 0)->setText("");
     const auto* deleteButton = dialog.control<QWidget>("deleteButton");
     EXPECT_FALSE(deleteButton->isEnabled());
     select(*dialog.customTable(), {0});

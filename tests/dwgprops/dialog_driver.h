@@ -29,11 +29,13 @@ enum TabNumber { kGeneral, kSummary, kStatistics, kCustom, kHistory };
 class OpenProperties : public dwgProps {
 public:
     explicit OpenProperties(TabNumber tab = kGeneral) : dwgProps(nullptr) {
+        connect(this, &QDialog::finished, this, [this](int how) { ended = how; });
         show();
         activateWindow();
         waitUntil([this] { return isActiveWindow() && isVisible(); });
         goTo(tab);
     }
+    int ended = -1; // how it has ended; result() begins as a rejection
     template <class Control> Control* control(const char* name) const { return in<Control>(this, name); }
     QTabWidget* tabs() const { return control<QTabWidget>("tabs"); }
     void goTo(TabNumber tab) {

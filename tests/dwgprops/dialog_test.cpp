@@ -2,8 +2,11 @@
 #include "tests/dwgprops/dialog_driver.h"
 
 #include "dwgprops/file_history.h"
+#include "standin/themes/style_manager.h"
 
 #include <QFile>
+#include <QTabBar>
+#include <QToolButton>
 
 namespace {
 using PropertiesDialog = DrawingProperties;
@@ -15,6 +18,21 @@ public:
     ~WrongExtension() { OdDbDatabase::desc()->delX(OdRxObject::desc()); }
     WrongExtension(const WrongExtension&) = delete;
     WrongExtension& operator=(const WrongExtension&) = delete;
+};
+// The size of letters on a plain desktop; without one Qt takes larger ones, with which the dialog grows.
+class DesktopFont {
+public:
+    DesktopFont() : former(QApplication::font()) {
+        QFont font = former;
+        font.setPointSize(9);
+        QApplication::setFont(font);
+    }
+    ~DesktopFont() { QApplication::setFont(former); }
+    DesktopFont(const DesktopFont&) = delete;
+    DesktopFont& operator=(const DesktopFont&) = delete;
+
+private:
+    QFont former;
 };
 } // namespace
 
@@ -55,11 +73,58 @@ TEST_F(PropertiesDialog, ButtonsFollowTheTabsInTabOrder) {
     EXPECT_EQ(order, QStringList({"tabs", "titleEdit", "okButton", "cancelButton", "helpButton"}));
 }
 
+TEST_F(PropertiesDialog, ButtonsStandAtTheRightBelowTheTabs) {
+    const OpenProperties dialog;
+    int right = dialog.width() / 3;
+    for (const auto& [name, text] : {std::pair("okButton", "OK"), std::pair("cancelButton", "Cancel"),
+                                     std::pair("helpButton", "Help")}) {
+        const auto* const button = dialog.control<QPushButton>(name);
+        EXPECT_EQ(button->text(), text);
+        EXPECT_GT(button->geometry().left(), right) << name;
+        EXPECT_GT(button->geometry().top(), dialog.tabs()->geometry().bottom()) << name;
+        right = button->geometry().right();
+    }
+    EXPECT_LT(dialog.width() - right, 20);
+}
+
+TEST_F(PropertiesDialog, TabsGoFromOneToTheNextWithTheirOwnPages) {
+    const OpenProperties dialog;
+    const char* const pages[] = {"generalTab", "summaryTab", "statisticTab", "customTab", "historyTab"};
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(dialog.tabs()->widget(i)->objectName(), pages[i]);
+}
+
+TEST_F(PropertiesDialog, AllFiveTabsShowAtItsSizeInEveryTheme) {
+    standin::StyleManager styles;
+    const DesktopFont font;
+    for (const int theme : {standin::kThemeLight, standin::kThemeDark}) {
+        styles.setTheme(theme);
+        const OpenProperties dialog;
+        EXPECT_EQ(dialog.size(), QSize(400, 450));
+        const auto* const bar = dialog.tabs()->findChild<QTabBar*>();
+        EXPECT_TRUE(bar->rect().contains(bar->tabRect(4))) << "theme " << theme;
+        EXPECT_LE(bar->mapTo(dialog.tabs(), bar->tabRect(4).topRight()).x(), dialog.tabs()->width());
+        for (const QToolButton* arrow : bar->findChildren<QToolButton*>())
+            EXPECT_FALSE(arrow->isVisible()) << "theme " << theme;
+    }
+}
+
+TEST_F(PropertiesDialog, AllFiveTabsShowWithLargeLettersToo) {
+    const OpenProperties dialog;
+    const auto* const bar = dialog.tabs()->findChild<QTabBar*>();
+    ASSERT_GT(bar->sizeHint().width(), dialog.tabs()->width()) << "they would have more room if they could";
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_TRUE(bar->rect().contains(bar->tabRect(i))) << i;
+        const int text = bar->fontMetrics().size(Qt::TextShowMnemonic, bar->tabText(i)).width();
+        EXPECT_GE(bar->tabRect(i).width(), text) << i;
+    }
+}
+
 TEST_F(PropertiesDialog, ReturnInAnEditPressesOkAndEscapePressesCancel) {
     OpenProperties dialog(kSummary);
     dialog.type("titleEdit", "typed");
     QTest::keyClick(dialog.control<QLineEdit>("titleEdit"), Qt::Key_Return);
-    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.ended, QDialog::Accepted);
     EXPECT_EQ(summary()->getTitle(), OdString(L"typed"));
     OpenProperties again(kSummary);
     again.type("titleEdit", "typed anew");
@@ -111,7 +176,7 @@ TEST_F(PropertiesDialog, OkWithNoChangesStillWritesAllFieldsAndEntries) {
                            &OdDbDatabaseSummaryInfo::getComments, &OdDbDatabaseSummaryInfo::getHyperlinkBase})
         EXPECT_EQ((info.get()->*get)(), OdString());
     EXPECT_EQ(properties(), (Properties{{"b", "1"}, {"a", "2"}}));
-    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.ended, QDialog::Accepted);
 }
 
 TEST_F(PropertiesDialog, OkWritesTheSixFieldsAsTyped) {
@@ -151,7 +216,7 @@ TEST_F(PropertiesDialog, CancelChangesNeitherRecordNorDrawing) {
     dialog.type("titleEdit", "A house");
     dialog.customTable()->item(0, 1)->setText("2");
     dialog.click("cancelButton");
-    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_EQ(dialog.ended, QDialog::Rejected);
     EXPECT_EQ(summary()->getTitle(), OdString());
     EXPECT_EQ(properties(), (Properties{{"a", "1"}}));
 }
@@ -175,17 +240,22 @@ TEST_F(PropertiesDialog, OkRemovesSurplusEntriesFromTheEnd) {
 }
 
 TEST_F(PropertiesDialog, RowsAreReadByPositionSoAnEmptyNameInFrontIsWrittenWithAnEmptyKey) {
-    setProperties({{"", "1"}, {"b", "2"}, {"c", "3"}});
+    setProperties({{"a", "1"}, {"b", "2"}, {"c", "3"}});
     OpenProperties dialog;
+    dialog.customTable()->item(0, 0)->setText("");
     dialog.click("okButton");
-    EXPECT_EQ(properties(), (Properties{{"", "1"}, {"b", "2"}}));
+    EXPECT_EQ(properties(), (Properties{{"b", "2"}}));
+    ASSERT_EQ(summary()->nameless.size(), 1U);
+    EXPECT_EQ(summary()->nameless[0].value, OdString(L"1"));
 }
 
 TEST_F(PropertiesDialog, ARowWithAValueButNoNameIsNeitherCountedNorWritten) {
-    setProperties({{"a", "1"}, {"", "2"}});
+    setProperties({{"a", "1"}});
     OpenProperties dialog;
+    dialog.customTable()->setItem(1, 1, new QTableWidgetItem("2"));
     dialog.click("okButton");
     EXPECT_EQ(properties(), (Properties{{"a", "1"}}));
+    EXPECT_TRUE(summary()->nameless.empty());
 }
 
 TEST_F(PropertiesDialog, KeysAreTrimmedOnTheWayAndValuesAreNot) {

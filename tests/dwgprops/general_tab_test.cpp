@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QMimeDatabase>
+#include <QTextDocument>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -117,10 +118,52 @@ TEST_F(GeneralPage, LocationIsTheRealFolderBehindALink) {
 }
 
 TEST_F(GeneralPage, DatesAreTheDrawingsAndNotTheFiles) {
+    useDrawing(OdDbDatabase::readBytes("0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1032\n"
+                                       "9\n$TDCREATE\n40\n2460377.586909722\n"
+                                       "9\n$TDUPDATE\n40\n2460378.0\n0\nENDSEC\n0\nEOF\n"));
     useFile("house.txt");
     const OpenProperties dialog;
-    EXPECT_EQ(label(dialog, "createdLabel"), DbDateToLocalString(drawing->getTDCREATE()));
-    EXPECT_EQ(label(dialog, "modifiedLabel"), DbDateToLocalString(drawing->getTDUPDATE()));
+    EXPECT_EQ(label(dialog, "createdLabel"), QStringLiteral("07 March 2024 14:05:09"));
+    EXPECT_EQ(label(dialog, "modifiedLabel"), QStringLiteral("08 March 2024 00:00:00"));
+}
+
+TEST_F(GeneralPage, PictureOfAFileIs32By32) {
+    useFile("house.txt");
+    EXPECT_EQ(OpenProperties().control<QLabel>("iconLabel")->pixmap(Qt::ReturnByValue).size(), QSize(32, 32));
+}
+
+TEST_F(GeneralPage, PictureStandsBesideTheNameAndTheFactsBelow) {
+    useFile("house.txt");
+    const OpenProperties dialog;
+    const auto place = [&dialog](const char* name) {
+        return dialog.control<QWidget>("generalTab")->findChild<QWidget*>(name)->pos();
+    };
+    EXPECT_LT(place("iconLabel").x(), place("nameEdit").x());
+    EXPECT_LT(place("nameEdit").y(), place("typeLabel").y());
+}
+
+TEST_F(GeneralPage, NamesInToolTipsAreNeverTakenForMarkup) {
+    ASSERT_TRUE(QDir(folder.path()).mkpath("a <b>bold</b>  place"));
+    useFile("a <b>bold</b>  place/<i>house<i> &lt;.txt");
+    const OpenProperties dialog;
+    auto* const page = dialog.control<QWidget>("generalTab");
+    for (const auto& [name, shown] :
+         {std::pair("nameEdit", QStringLiteral("<i>house<i> &lt;.txt")),
+          std::pair("locationLabel", QDir(folder.filePath("a <b>bold</b>  place")).canonicalPath())}) {
+        QTextDocument document;
+        const QString tip = page->findChild<QWidget*>(name)->toolTip();
+        ASSERT_TRUE(Qt::mightBeRichText(tip)) << tip.toStdString();
+        document.setHtml(tip);
+        QString text = document.toPlainText();
+        EXPECT_EQ(text.replace(QChar::Nbsp, ' '), shown);
+    }
+}
+
+TEST_F(GeneralPage, NothingIsLeftWhenTheDrawingGivesNoDates) {
+    host.closeDocument();
+    const int widgets = QApplication::allWidgets().size();
+    EXPECT_THROW(GeneralTab{QFileInfo(useFile("house.txt"))}, OdError);
+    EXPECT_EQ(QApplication::allWidgets().size(), widgets);
 }
 
 TEST_F(GeneralPage, AnUnsavedDrawingHasNoNameKindSizeOrPicture) {

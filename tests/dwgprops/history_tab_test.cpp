@@ -200,5 +200,16 @@ TEST_F(HistoryPage, TableIsSetUpAsTheCustomOneButTakesOneRow) {
     EXPECT_EQ(table.editTriggers(), QAbstractItemView::NoEditTriggers);
     EXPECT_EQ(table.focusPolicy(), Qt::NoFocus);
     EXPECT_FALSE(table.horizontalHeader()->sectionsClickable());
+    EXPECT_FALSE(table.verticalHeader()->sectionsClickable());
+    EXPECT_FALSE(table.isSortingEnabled());
+    EXPECT_EQ(table.horizontalHeader()->defaultAlignment(), Qt::AlignLeft);
+    EXPECT_EQ(int(table.verticalHeader()->defaultAlignment()), 132);
+    EXPECT_TRUE(table.horizontalHeader()->stretchLastSection());
+    EXPECT_EQ(table.horizontalScrollMode(), QAbstractItemView::ScrollPerPixel);
+    EXPECT_EQ(table.horizontalHeader()->styleSheet(),
+              QStringLiteral("QHeaderView::section { padding: 5px;}"));
+    const auto* const label = dialog.control<QWidget>("historyTab")->findChild<QLabel*>();
+    EXPECT_EQ(label->text(), QStringLiteral("File versions:"));
+    EXPECT_LT(label->y(), table.y());
     EXPECT_NE(qobject_cast<CustomDelegate*>(table.itemDelegate()), nullptr);
 }

@@ -1,5 +1,6 @@
 // Characters that the local 8-bit code page cannot express are lost on the way into the drawing, and only
 // those.
+#include "dwgprops/db_text.h"
 #include "tests/dwgprops/dialog_driver.h"
 #include "tests/support/local_code_page.h"
 
@@ -40,15 +41,38 @@ TEST_F(TextOnItsWay, ArrivesAsFarAsTheLocaleOfTheProcessCanExpressIt) {
     expectArrival(mixed, expected);
 }
 
-// What the plain C locale can express is the system's matter; nothing but that may be lost in it.
-TEST(TextInThePlainCLocale, ArrivesAsFarAsThatLocaleCanExpressIt) {
+namespace {
+
+// Runs one test of this program in another locale; 0 when it passes there.
+int runIn(const char* locale, const char* test, QByteArray& output) {
     QProcess child;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("LC_ALL", "C");
+    environment.insert("LC_ALL", locale);
+    environment.insert("LANGUAGE", locale);
     child.setProcessEnvironment(environment);
     child.setProcessChannelMode(QProcess::MergedChannels);
-    child.start(QCoreApplication::applicationFilePath(),
-                {"--gtest_filter=TextOnItsWay.ArrivesAsFarAsTheLocaleOfTheProcessCanExpressIt"});
-    ASSERT_TRUE(child.waitForFinished(60000));
-    EXPECT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
+    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--gtest_filter=") + test});
+    EXPECT_TRUE(child.waitForFinished(60000));
+    output = child.readAll();
+    return child.exitCode();
+}
+
+} // namespace
+
+TEST(MonthNames, AreThoseOfTheSystemsLanguage) {
+    const OdDbDate seventhOfMarch(2460377, 0);
+    if (qgetenv("LC_ALL").startsWith("de_DE")) {
+        EXPECT_EQ(DbDateToLocalString(seventhOfMarch), QString::fromUtf8("07 M\xC3\xA4rz 2024 00:00:00"));
+        return;
+    }
+    EXPECT_EQ(DbDateToLocalString(seventhOfMarch), QStringLiteral("07 March 2024 00:00:00"));
+    QByteArray output;
+    EXPECT_EQ(runIn("de_DE.UTF-8", "MonthNames.AreThoseOfTheSystemsLanguage", output), 0) << output.data();
+}
+
+// What the plain C locale can express is the system's matter; nothing but that may be lost in it.
+TEST(TextInThePlainCLocale, ArrivesAsFarAsThatLocaleCanExpressIt) {
+    QByteArray output;
+    EXPECT_EQ(runIn("C", "TextOnItsWay.ArrivesAsFarAsTheLocaleOfTheProcessCanExpressIt", output), 0)
+        << output.data();
 }
