@@ -117,6 +117,7 @@ void Workbench::addCommands() {
     addEditCommands(scope);
     addViewCommands(scope);
     addXrefCommands(scope, *module);
+    application->add(attachFilesFor(scope));
     addGroupCommands(scope, *module);
     addPlugInEntries(*mainWindow);
     addProgramCommands(scope);

@@ -1,6 +1,8 @@
 // One run of the attach command: files, dialog, and what is kept of it.
 #include "xref/attach_command.h"
 
+#include "host/app.h"
+#include "host/attach_files.h"
 #include "host/modal_runner.h"
 #include "host/text.h"
 #include "host/transaction_guard.h"
@@ -50,26 +52,45 @@ void centreOnScreen(QWidget* window) {
     window->move((room.width() - window->width()) / 2, (room.height() - window->height()) / 2);
 }
 
-void showDialog(QDialog& dialog, DbTransactionGuard& guard) {
+void showDialog(QDialog& dialog) {
     dialog.setModal(true);
     dialog.setWindowFlags(Qt::Window | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowCloseButtonHint);
     dialog.setFocus(Qt::OtherFocusReason);
     dialog.setWindowTitle(OdQCmd_hostAttachExternalReferenceCommand::tr("External reference"));
-    if (runModal(dialog) != 0)
-        guard.commit();
-    else
-        guard.abort();
+    runModal(dialog);
 }
+
+void keepOrTakeBack(bool keep, DbTransactionGuard& guard) {
+    if (!keep)
+        return guard.abort();
+    eraseUnusedDefinitions();
+    guard.commit();
+}
+
+// From the host's own prompts, or else from the file dialog.
+struct ChosenFiles {
+    explicit ChosenFiles(QWidget* parent) {
+        std::vector<OdString> typed;
+        const Ref<IAttachFiles> prompts = appService<IAttachFiles>();
+        byPrompts = prompts && prompts->askForFiles(typed);
+        for (const OdString& file : typed)
+            paths << hostqt::qString(file);
+        if (!byPrompts)
+            paths = selectXRefFiles(parent, true);
+    }
+    QStringList paths;
+    bool byPrompts = false;
+};
 
 } // namespace
 
 int OdQCmd_hostAttachExternalReferenceCommand::Run(IParam*) {
     QWidget* const parent = QApplication::topLevelWidgets().value(0);
-    const QStringList files = selectXRefFiles(parent, true);
-    if (files.isEmpty())
+    const ChosenFiles files(parent);
+    if (files.paths.isEmpty())
         return 0;
     const Ref<IParam> params = Ref<IParam>::take(new_MemParam());
-    const CKWVariant paths = joinedPaths(files);
+    const CKWVariant paths = joinedPaths(files.paths);
     params->setValue("PATH", &paths);
     const NewDefinitionsScope newDefinitions;
     const OdDbDatabasePtr database = attach::database();
@@ -78,9 +99,14 @@ int OdQCmd_hostAttachExternalReferenceCommand::Run(IParam*) {
     guard.begin();
     const AbortAtEnd abortAtEnd(guard);
     hostInsertExternalReferenceDialog dialog(parent, params.get());
-    if (dialog.initialized) {
+    if (!dialog.initialized)
+        return 0;
+    if (files.byPrompts) {
+        dialog.onOK();
+    } else {
         centreOnScreen(parent);
-        showDialog(dialog, guard);
+        showDialog(dialog);
     }
+    keepOrTakeBack(dialog.result() != 0, guard);
     return 0;
 }

@@ -42,11 +42,12 @@ hostInsertExternalReferenceDialog::~hostInsertExternalReferenceDialog() { depth.
 
 namespace {
 
-// A value of the map over the number that the edit shows.
+// A value of the map in place of the number that the edit shows, with all its digits and no exponent, which
+// the edit would not take.
 void readNumber(IParam* params, const char* key, QLineEdit* edit) {
-    double value = edit->text().toDouble();
-    readValue(params, key, &value);
-    edit->setText(QString::number(value, 'g', 6));
+    double value = 0;
+    if (readValue(params, key, &value))
+        edit->setText(QString::number(value, 'f', QLocale::FloatingPointShortest));
 }
 
 void readCheck(IParam* params, const char* key, QCheckBox* check) {
@@ -71,9 +72,9 @@ void hostInsertExternalReferenceDialog::readPlacement(IParam* params) {
 }
 
 void hostInsertExternalReferenceDialog::readTypes(IParam* params) {
-    int row = pathTypeCombo->currentIndex();
-    readValue(params, "PATH_TYPE", &row);
-    pathTypeCombo->setCurrentIndex(row);
+    int row = 0;
+    if (readValue(params, "PATH_TYPE", &row) && row >= 0 && row < pathTypeCombo->count())
+        pathTypeCombo->setCurrentIndex(row);
     int overlay = isOverlay();
     readValue(params, "REFERENCE_TYPE", &overlay);
     (overlay ? overlayRadio : attachmentRadio)->setChecked(true);
@@ -184,9 +185,5 @@ void hostInsertExternalReferenceDialog::accept() {
 }
 
 bool hostInsertExternalReferenceDialog::isOverlay() const { return !attachmentRadio->isChecked(); }
-
-OdDbBlockTablePtr hostInsertExternalReferenceDialog::blockTable() const {
-    return odrxCast<OdDbBlockTable>(database->getBlockTableId().safeOpenObject());
-}
 
 #include "moc_attach_dialog.cpp"

@@ -83,12 +83,15 @@ private:
     QLayout* middleColumn();
     QLayout* rightColumn();
     QLayout* buttonRow() const;
+    void orderTabs() const;
+    void nameForScreenReaders() const;
     void connectSignals();
     void connectChecks();
     void connectButtons();
 
     void loadAttachSettings();
     void saveAttachSettings() const;
+    bool isOnScreenCheck(const QObject* control) const;
     void readPlacement(IParam* params);
     void readTypes(IParam* params);
     void readChecks(IParam* params);
@@ -105,7 +108,6 @@ private:
     bool requireDistance(QLineEdit* edit, const wchar_t* message) const;
     bool requireFactor(QLineEdit* edit, bool free) const;
     bool isOverlay() const;
-    OdDbBlockTablePtr blockTable() const;
     // The name that a chosen file can take; empty when the file is attached already and was taken over.
     OdString nameForChosenFile(const QString& candidate, const QString& native, const QString& baseFile);
     void takeOver(const QString& candidate, const QString& native, const QString& baseFile);

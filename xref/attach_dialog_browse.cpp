@@ -3,9 +3,11 @@
 
 #include "host/text.h"
 #include "sdk/db/xref_graph.h"
+#include "xref/attach_host.h"
 #include "xref/block_name.h"
 #include "xref/file_selection.h"
 #include "xref/new_definitions.h"
+#include "xref/xref_blocks.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -24,19 +26,33 @@ void hostInsertExternalReferenceDialog::onBrowse() {
         replaceDefinition(blockName, native, baseFile);
 }
 
-// A block of that name that is no reference is in the way just as a reference to another file is.
+namespace {
+
+// The path of a reference of the wanted name against that of the chosen file, ignoring case.
+bool refersTo(const OdDbBlockTableRecordPtr& record, const QString& native) {
+    if (attach::numbersTakenNames())
+        return isSameFile(record->pathName(), native);
+    return record->pathName().iCompare(hostqt::odString(native)) == 0;
+}
+
+} // namespace
+
+// A plain block of that name keeps it, and the dialog shows that block from then on; a host may have the file
+// numbered instead.
 OdString hostInsertExternalReferenceDialog::nameForChosenFile(const QString& candidate, const QString& native,
                                                               const QString& baseFile) {
     const OdString wanted = hostqt::odString(candidate);
     OdDbXrefGraph graph;
     OdDbXrefGraph::getFrom(database.get(), graph, false);
-    const OdDbBlockTablePtr table = blockTable();
+    const OdDbBlockTablePtr table = blockTableOf(database);
     const auto record = odrxCast<OdDbBlockTableRecord>(table->getAt(wanted, OdDb::kForRead));
     if (record.isNull())
         return wanted;
     const OdDbXrefGraphNode* const node = graph.xrefNode(wanted);
     const bool isReference = node && (node->flags & OdDbXrefGraphNode::kReference);
-    if (!isReference || record->pathName().iCompare(hostqt::odString(native)) != 0)
+    if (!isReference)
+        return attach::numbersTakenNames() ? uniqueBlockName(table, wanted) : wanted;
+    if (!refersTo(record, native))
         return uniqueBlockName(table, wanted);
     takeOver(candidate, native, baseFile);
     return {};
@@ -53,11 +69,11 @@ void hostInsertExternalReferenceDialog::takeOver(const QString& candidate, const
 
 void hostInsertExternalReferenceDialog::replaceDefinition(const OdString& candidate, const QString& native,
                                                           const QString& baseFile) {
-    const OdDbBlockTablePtr table = blockTable();
-    const OdDbSymbolTableRecordPtr old = table->getAt(hostqt::odString(name), OdDb::kForWrite);
+    const OdDbBlockTablePtr table = blockTableOf(database);
+    const OdDbSymbolTableRecordPtr old = table->getAt(hostqt::odStringFromWidget(name), OdDb::kForWrite);
     if (!old.isNull()) {
         old->upgradeOpen();
-        old->erase(true);
+        old->erase(true); // one that the drawing uses stays
     }
     if (table->getAt(candidate, OdDb::kForRead).isNull())
         noteNewDefinition(OdDbXRefManExt::addNewXRefDefBlock(

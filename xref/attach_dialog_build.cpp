@@ -21,6 +21,10 @@ template <class Control> Control* named(Control* control, const char* objectName
 QLineEdit* readOnlyEdit(QWidget* parent, const char* objectName) {
     auto* const edit = named(new QLineEdit(parent), objectName);
     edit->setReadOnly(true);
+    // Drawn like the window around it, so that nobody tries to type there.
+    QPalette colors = edit->palette();
+    colors.setBrush(QPalette::Base, colors.brush(QPalette::Window));
+    edit->setPalette(colors);
     return edit;
 }
 
@@ -38,7 +42,7 @@ void hostInsertExternalReferenceDialog::build() {
     buildPlaceControls();
     buildNumberEdits();
     okButton = bottomButton(this, tr("OK"), "okButton");
-    okButton->setDefault(true);
+    okButton->setDefault(true); // or Return in an edit would press Browse, the first button
     cancelButton = bottomButton(this, tr("Cancel"), "cancelButton");
     helpButton = bottomButton(this, tr("Help"), "helpButton");
 }
@@ -91,6 +95,7 @@ void hostInsertExternalReferenceDialog::buildNumberEdits() {
     insertYEdit = numberEdit("insertYEdit");
     insertZEdit = numberEdit("insertZEdit");
     angleEdit = numberEdit("angleEdit");
+    angleEdit->setToolTip(tr("In radians, counterclockwise from the X axis."));
 }
 
 void hostInsertExternalReferenceDialog::setDefaults() {

@@ -10,6 +10,16 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+namespace {
+
+// For who can't see which group a control stands in.
+void nameAfterGroup(const QString& group, std::initializer_list<std::pair<QWidget*, QString>> controls) {
+    for (const auto& [control, name] : controls)
+        control->setAccessibleName(QStringLiteral("%1, %2").arg(group, name));
+}
+
+} // namespace
+
 void hostInsertExternalReferenceDialog::layOut() {
     auto* const columns = new QHBoxLayout;
     columns->addLayout(leftColumn());
@@ -19,12 +29,65 @@ void hostInsertExternalReferenceDialog::layOut() {
     rows->addLayout(fileRow());
     rows->addLayout(columns);
     rows->addLayout(buttonRow());
+    orderTabs();
+    nameForScreenReaders();
+}
+
+// Down each column, from the left to the right.
+void hostInsertExternalReferenceDialog::orderTabs() const {
+    QWidget* former = nameCombo;
+    for (QWidget* next : std::initializer_list<QWidget*>{browseButton,
+                                                         foundInEdit,
+                                                         savedPathEdit,
+                                                         attachmentRadio,
+                                                         overlayRadio,
+                                                         scaleOnScreenCheck,
+                                                         scaleXEdit,
+                                                         scaleYEdit,
+                                                         scaleZEdit,
+                                                         uniformScaleCheck,
+                                                         insertionOnScreenCheck,
+                                                         insertXEdit,
+                                                         insertYEdit,
+                                                         insertZEdit,
+                                                         pathTypeCombo,
+                                                         rotationOnScreenCheck,
+                                                         angleEdit,
+                                                         unitEdit,
+                                                         factorEdit,
+                                                         autoZoomCheck,
+                                                         okButton,
+                                                         cancelButton,
+                                                         helpButton}) {
+        QWidget::setTabOrder(former, next);
+        former = next;
+    }
+}
+
+void hostInsertExternalReferenceDialog::nameForScreenReaders() const {
+    const QString onScreen = scaleOnScreenCheck->text();
+    nameAfterGroup(tr("Scale"), {{scaleOnScreenCheck, onScreen},
+                                 {scaleXEdit, QStringLiteral("X")},
+                                 {scaleYEdit, QStringLiteral("Y")},
+                                 {scaleZEdit, QStringLiteral("Z")}});
+    nameAfterGroup(tr("Insertion Point"), {{insertionOnScreenCheck, onScreen},
+                                           {insertXEdit, QStringLiteral("X")},
+                                           {insertYEdit, QStringLiteral("Y")},
+                                           {insertZEdit, QStringLiteral("Z")}});
+    nameAfterGroup(tr("Rotation"), {{rotationOnScreenCheck, onScreen}});
+    pathTypeCombo->setAccessibleName(tr("Path Type"));
+    previewLabel->setAccessibleName(tr("Preview"));
 }
 
 QLayout* hostInsertExternalReferenceDialog::fileRow() const {
     auto* const labels = new QVBoxLayout;
-    for (const QString& text : {tr("Name:"), tr("Found in:"), tr("Saved path:")})
-        labels->addWidget(new QLabel(text));
+    const std::pair<QString, QWidget*> labelled[] = {
+        {tr("Name:"), nameCombo}, {tr("Found in:"), foundInEdit}, {tr("Saved path:"), savedPathEdit}};
+    for (const auto& [text, control] : labelled) {
+        auto* const label = new QLabel(text);
+        label->setBuddy(control);
+        labels->addWidget(label);
+    }
     auto* const nameRow = new QHBoxLayout;
     nameRow->addWidget(nameCombo);
     nameRow->addWidget(browseButton);

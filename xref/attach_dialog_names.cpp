@@ -6,6 +6,7 @@
 #include "xref/attach_host.h"
 #include "xref/block_name.h"
 #include "xref/unit_ratio.h"
+#include "xref/xref_blocks.h"
 #include "xref/xref_paths.h"
 
 #include <QComboBox>
@@ -15,7 +16,7 @@
 
 bool fillEntries(const QString& path, std::vector<XRefEntry>& entries) {
     const OdDbDatabasePtr database = attach::database();
-    const auto table = odrxCast<OdDbBlockTable>(database->getBlockTableId().safeOpenObject());
+    const OdDbBlockTablePtr table = blockTableOf(database);
     std::vector<XRefEntry> collected;
     for (const QString& part : path.split(QLatin1Char(';'))) {
         const QString native = QDir::toNativeSeparators(part);
@@ -68,7 +69,8 @@ void hostInsertExternalReferenceDialog::updateUnit(const QString& blockName,
         factorEdit->setText(QString::number(unitRatio(OdDb::kUnitsUndefined, OdDb::kUnitsUndefined), 'g', 6));
         return;
     }
-    record = odrxCast<OdDbBlockTableRecord>(blockTable()->getAt(hostqt::odString(blockName), OdDb::kForRead));
+    record = odrxCast<OdDbBlockTableRecord>(
+        blockTableOf(database)->getAt(hostqt::odStringFromWidget(blockName), OdDb::kForRead));
     if (record.isNull() || OdDbXRefMan::load(record.get()) != eOk)
         return;
     unitEdit->setText(QString());

@@ -50,9 +50,16 @@ void hostInsertExternalReferenceDialog::loadAttachSettings() {
         pathTypeCombo->setCurrentIndex(row);
 }
 
+bool hostInsertExternalReferenceDialog::isOnScreenCheck(const QObject* control) const {
+    return control == scaleOnScreenCheck || control == rotationOnScreenCheck ||
+           control == insertionOnScreenCheck;
+}
+
 void hostInsertExternalReferenceDialog::saveAttachSettings() const {
     const Ref<IParam> store = settingsStore();
+    // For several files the three boxes are off by force, which says nothing about what the user wants.
     for (const auto& [key, button] : settingButtons(*this))
-        writeValue(store.get(), key, int(button->isChecked()));
+        if (!multipleFiles || !isOnScreenCheck(button))
+            writeValue(store.get(), key, int(button->isChecked()));
     writeValue(store.get(), kPathTypeKey, pathTypeCombo->currentIndex());
 }

@@ -26,7 +26,7 @@ QString reformatted(const QLineEdit* edit) {
 
 bool hostInsertExternalReferenceDialog::requireDistance(QLineEdit* edit, const wchar_t* message) const {
     double value = 0;
-    if (hostdbDisToF(hostqt::odString(edit->text()), -1, value))
+    if (hostdbDisToF(hostqt::odStringFromWidget(edit->text()), -1, value))
         return true;
     refuse(edit, message);
     return false;

@@ -1,6 +1,7 @@
 // Which error is told in which words.
 #include "xref/attach_failures.h"
 
+#include "host/command_io.h"
 #include "xref/attach_host.h"
 
 namespace {
@@ -22,17 +23,28 @@ OdString messageFor(const OdString& path, OdResult code) {
     }
 }
 
+OdString besides(const OdString& path, const OdString& reason) { return path + OdString(L": ") + reason; }
+
 } // namespace
 
 void tellAttachFailure(HostCommandIO* io, const OdString& path, const OdError& error) {
     const OdString message = messageFor(path, error.code());
     if (message.isEmpty())
-        return tellUnknownAttachFailure(io, path + OdString(L": ") + error.description());
+        return tellUnknownAttachFailure(io, besides(path, error.description()));
     attach::notice(kFileNotice, message);
-    reportToConsole(io, path + OdString(L": ") + message);
+    reportToConsole(io, besides(path, message));
 }
 
-void tellUnknownAttachFailure(HostCommandIO* io, const OdString& path) {
+void tellUnknownAttachFailure(HostCommandIO* io, const OdString& what) {
     reportToConsole(io, attach::word(L"XattachCmd Exception "));
+    reportToConsole(io, what);
+    attach::refuse(what);
+}
+
+void tellCircle(HostCommandIO* io, const OdString& path) {
+    const OdString message = attach::word(L"Error: Possible circular reference to current drawing.");
+    if (io)
+        io->printFormatted(message.c_str());
     reportToConsole(io, path);
+    attach::refuse(besides(path, message));
 }

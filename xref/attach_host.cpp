@@ -37,6 +37,16 @@ int notice(NoticeKind kind, const OdString& text) {
     return events ? events->notify(kind, text.c_str(), 0, 7) : 0;
 }
 
+void refuse(const OdString& text) {
+    if (const auto services = appService<IAttachServices>())
+        services->refuse(text.c_str());
+}
+
+bool numbersTakenNames() {
+    const auto services = appService<IAttachServices>();
+    return services && services->numbersTakenNames();
+}
+
 } // namespace attach
 
 void reportToConsole(HostCommandIO* io, const OdString& text) {

@@ -20,6 +20,9 @@ bool isUnsaved();                   // the database or the document has no file 
 OdString word(const wchar_t* text); // in the user's language
 // Puts a finished text in front of the user; the answer is that of the event interface, 0 without one.
 int notice(NoticeKind kind, const OdString& text);
+// Both ask the attach services: silent, and false, without them.
+void refuse(const OdString& text);
+bool numbersTakenNames();
 
 } // namespace attach
 

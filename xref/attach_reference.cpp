@@ -42,13 +42,8 @@ OdDbObjectId targetSpace(const OdDbDatabasePtr& database) {
 
 // By base name alone and with case, on purpose: two drawings of one base name can't be attached to each
 // other.
-bool refuseCircular(HostCommandIO* io, const QString& path) {
-    if (QFileInfo(attach::documentFile()).baseName() != QFileInfo(path).baseName())
-        return false;
-    if (io)
-        io->printFormatted(attach::word(L"Error: Possible circular reference to current drawing.").c_str());
-    reportToConsole(io, hostqt::odString(path));
-    return true;
+bool isCircular(const QString& path) {
+    return QFileInfo(attach::documentFile()).baseName() == QFileInfo(path).baseName();
 }
 
 OdDb::UnitsValue prepareRecord(const OdDbBlockTableRecordPtr& record, const OdString& path,
@@ -113,8 +108,10 @@ bool attachTo(HostCommandIO* io, const OdString& path, Wishes& wishes) {
     const QString file = hostqt::qString(path);
     const OdDbDatabasePtr database = attach::database();
     const OdDbObjectId space = targetSpace(database);
-    if (refuseCircular(io, file))
+    if (isCircular(file)) {
+        tellCircle(io, path);
         return false;
+    }
     QString blockName;
     OdDbBlockReferencePtr reference;
     bool hadDefinition = false;

@@ -7,6 +7,7 @@
 #include "xref/attach_host.h"
 #include "xref/block_name.h"
 #include "xref/new_definitions.h"
+#include "xref/xref_blocks.h"
 #include "xref/xref_paths.h"
 
 #include <QDir>
@@ -14,15 +15,7 @@
 
 namespace {
 
-OdDbBlockTablePtr blockTableOf(const OdDbDatabasePtr& database) {
-    return odrxCast<OdDbBlockTable>(database->getBlockTableId().safeOpenObject());
-}
-
 QString canonical(const OdString& path) { return QFileInfo(hostqt::qString(path)).canonicalFilePath(); }
-
-bool isSamePath(const OdString& path, const QString& native) {
-    return QDir::toNativeSeparators(hostqt::qString(path)).compare(native, Qt::CaseInsensitive) == 0;
-}
 
 // The external reference whose path, as stored or as found, is the given one; null when there is none.
 OdDbBlockTableRecordPtr recordOfPath(const OdDbBlockTablePtr& table, const QString& path) {
@@ -30,7 +23,7 @@ OdDbBlockTableRecordPtr recordOfPath(const OdDbBlockTablePtr& table, const QStri
     for (OdDbSymbolTableIterator it = table->newIterator(); !it.done(); it.step()) {
         const auto record = odrxCast<OdDbBlockTableRecord>(it.getRecord());
         if (record->isFromExternalReference() &&
-            (isSamePath(record->pathName(), native) || isSamePath(resolveXRefPath(record), native)))
+            (isSameFile(record->pathName(), native) || isSameFile(resolveXRefPath(record), native)))
             return record;
     }
     return {};
@@ -45,9 +38,12 @@ OdString freeName(const OdDbBlockTablePtr& table, const QString& given, const QF
     return table->has(name) ? uniqueBlockName(table, name) : name;
 }
 
-// A drawing comes back to the current one when it attaches it, at any depth; overlays are not carried on.
+// A drawing comes back to the current one when it attaches it, at any depth; overlays are not carried on. One
+// that has no file yet can't be attached by anybody.
 bool comesBackTo(const OdDbDatabase& current, OdDbDatabase* loaded) {
     const QString target = canonical(current.getFilename());
+    if (target.isEmpty())
+        return false;
     OdDbXrefGraph graph;
     OdDbXrefGraph::getFrom(loaded, graph, false);
     for (std::size_t i = 1; i < graph.numNodes(); ++i) {
@@ -59,13 +55,12 @@ bool comesBackTo(const OdDbDatabase& current, OdDbDatabase* loaded) {
     return false;
 }
 
-void requireReadable(const OdDbBlockTableRecordPtr& record, const OdString& path) {
+void requireReadable(const OdDbBlockTableRecordPtr& record) {
     const OdResult result = OdDbXRefMan::load(record.get());
     if (result != eOk)
-        throw OdError(result, path);
-    OdDbDatabase& current = *record->database();
-    if (!current.getFilename().isEmpty() && comesBackTo(current, record->xrefDatabase(false).get()))
-        throw OdError(eSelfReference, path);
+        throw OdError(result);
+    if (comesBackTo(*record->database(), record->xrefDatabase(false).get()))
+        throw OdError(eSelfReference);
 }
 
 void eraseRecord(const OdDbBlockTableRecordPtr& record) {
@@ -82,9 +77,9 @@ OdDbBlockTableRecordPtr newDefinition(const OdDbDatabasePtr& database, const OdS
 }
 
 // What can't be read leaves no new definition behind.
-void requireReadableOrErase(const OdDbBlockTableRecordPtr& record, const OdString& path, bool isNew) {
+void requireReadableOrErase(const OdDbBlockTableRecordPtr& record, bool isNew) {
     try {
-        requireReadable(record, path);
+        requireReadable(record);
     } catch (...) {
         if (isNew)
             eraseRecord(record);
@@ -114,7 +109,7 @@ bool createXRefReference(const QString& path, QString& blockName, bool overlay,
         record = newDefinition(database, pathText, name, overlay);
     }
     if (attachPhase)
-        requireReadableOrErase(record, pathText, !reused);
+        requireReadableOrErase(record, !reused);
     hadDefinition = reused && !isNewDefinition(record->objectId());
     blockId = record->objectId();
     reference = OdDbBlockReferencePtr(new OdDbBlockReference);

@@ -6,6 +6,8 @@
 
 void noteNewDefinition(OdDbObjectId id);
 bool isNewDefinition(OdDbObjectId id);
+// Erases those that nothing in the drawing refers to: another name was chosen, or the placing given up.
+void eraseUnusedDefinitions();
 
 // The list is empty at both ends of its life: ids must not outlive their drawing.
 class NewDefinitionsScope {

@@ -5,7 +5,7 @@
 
 double ucsRotation(const OdDbBlockReferencePtr& reference, double angle) {
     const OdDbDatabasePtr database = attach::database();
-    OdGeVector3d direction = get_UCSXDIR(database.get());
+    OdGeVector3d direction = database.isNull() ? OdGeVector3d::kXAxis : get_UCSXDIR(database.get());
     direction.transformBy(OdGeMatrix3d::worldToPlane(reference->normal()));
     return OdGeVector3d::kXAxis.angleTo(direction, OdGeVector3d::kZAxis) + angle;
 }

@@ -4,5 +4,5 @@
 #include "sdk/db/block_reference.h"
 
 // The rotation in the reference's plane for an angle that counts from the X axis of the current coordinate
-// system; radians.
+// system, or of the world without a current drawing; radians.
 double ucsRotation(const OdDbBlockReferencePtr& reference, double angle);

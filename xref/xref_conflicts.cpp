@@ -6,6 +6,7 @@
 #include "host/text.h"
 #include "sdk/db/block_table.h"
 #include "xref/attach_host.h"
+#include "xref/xref_blocks.h"
 
 #include <QFileInfo>
 
@@ -15,10 +16,6 @@ const int shareAll = 64;
 
 OdString baseNameOf(const OdDbDatabasePtr& database) {
     return hostqt::odString(QFileInfo(hostqt::qString(database->getFilename())).baseName());
-}
-
-OdDbBlockTablePtr blockTableOf(const OdDbDatabasePtr& database) {
-    return odrxCast<OdDbBlockTable>(database->getBlockTableId().safeOpenObject());
 }
 
 bool isStandardBlock(const OdDbBlockTablePtr& table, const OdString& name) {

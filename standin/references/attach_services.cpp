@@ -5,11 +5,13 @@
 #include "host/command_io.h"
 #include "host/dir_list.h"
 #include "host/documents.h"
+#include "host/qt_ui_core.h"
 #include "host/std_dirs.h"
 #include "host/text.h"
 #include "host/typed_reads.h"
 #include "sdk/db/database.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace standin {
@@ -28,6 +30,11 @@ void AttachServices::report(HostCommandIO* io, const wchar_t* text) {
     HostCommandIO* const console = io || !documents ? io : documents->fallbackIO();
     if (console)
         console->printLine(text);
+}
+
+void AttachServices::refuse(const wchar_t* text) {
+    host_qt_ui_core::QHostMessageBox::critical(QCoreApplication::applicationName(), hostqt::qString(text),
+                                               EV_MB_OK);
 }
 
 QStringList referenceFolders() {

@@ -21,7 +21,7 @@
 namespace {
 
 struct AttachTest : WorkbenchFixture {
-    AttachTest() { enter({"FILEDIA", "0"}); } // OPEN and SAVEAS ask on the console
+    AttachTest() { enter({"FILEDIA", "0"}); } // files are asked for on the console; ~ calls for the dialogs
     QString inFolder(const QString& file) const { return drawings.filePath(file); }
     // A drawing with one line of that length.
     QString write(const QString& file, double length = 10) const {
@@ -66,7 +66,8 @@ struct AttachTest : WorkbenchFixture {
     }
     void openSite() { enter({"SAVEAS", qPrintable(inFolder("site.dxf"))}); }
     void attachPart() {
-        play({typing("XATTACH"), choosing(write("part.dxf")), clicking("okButton"), typing("3,4")});
+        play({typing("XATTACH"), typing("~"), choosing(write("part.dxf")), clicking("okButton"),
+              typing("3,4")});
     }
     bool printed(const QString& line) { return transcript().contains(line); }
 
@@ -76,7 +77,7 @@ struct AttachTest : WorkbenchFixture {
 
 TEST_F(AttachTest, MenuAttachesAndUndoTakesItBackInOneStep) {
     const std::string before = drawing()->writeBytes();
-    play({[this] { action("External reference...")->trigger(); }, choosing(write("part.dxf")),
+    play({[this] { action("External reference...")->trigger(); }, typing("~"), choosing(write("part.dxf")),
           clicking("okButton"), typing("3,4")});
     ASSERT_FALSE(block(L"part").isNull());
     EXPECT_FALSE(block(L"part")->xrefDatabase().isNull());
@@ -85,7 +86,7 @@ TEST_F(AttachTest, MenuAttachesAndUndoTakesItBackInOneStep) {
 }
 
 TEST_F(AttachTest, FileDialogOfTheShippedCatalogueListsDrawings) {
-    play({typing("XATTACH"), choosing(write("part.dxf")), clicking("cancelButton")});
+    play({typing("XATTACH"), typing("~"), choosing(write("part.dxf")), clicking("cancelButton")});
     EXPECT_EQ(filters, QStringList("Drawings (*.dxf *.dwg)"));
 }
 
@@ -95,14 +96,35 @@ TEST_F(AttachTest, ToolBarAttaches) {
     const auto found = std::find_if(buttons.begin(), buttons.end(), isAttach);
     ASSERT_NE(found, buttons.end());
     EXPECT_FALSE((*found)->icon().isNull());
-    play(
-        {[found] { (*found)->trigger(); }, choosing(write("part.dxf")), clicking("okButton"), typing("3,4")});
+    play({[found] { (*found)->trigger(); }, typing("~"), choosing(write("part.dxf")), clicking("okButton"),
+          typing("3,4")});
     EXPECT_FALSE(block(L"part").isNull());
+}
+
+TEST_F(AttachTest, FilesArePromptedForWhenFilediaIsOff) {
+    openSite();
+    write("part.dxf");
+    write("other.dxf");
+    enter({"XATTACH", "part.dxf", "3,4"}); // beside the current drawing
+    ASSERT_FALSE(block(L"part").isNull());
+    EXPECT_FALSE(block(L"part")->xrefDatabase().isNull());
+    enter({"UNDO"});
+    EXPECT_TRUE(block(L"part").isNull());
+    enter({"XATTACH", qPrintable(inFolder("part.dxf") + ";\"" + inFolder("other.dxf") + '"')});
+    EXPECT_FALSE(block(L"part").isNull());
+    EXPECT_FALSE(block(L"other").isNull());
+}
+
+TEST_F(AttachTest, EnterOrEscapeAtThePromptForFilesAttachesNothing) {
+    const std::string before = drawing()->writeBytes();
+    enter({"XATTACH", ""});
+    play({typing("XATTACH"), [this] { bench->console().escape(); }});
+    EXPECT_EQ(drawing()->writeBytes(), before);
 }
 
 TEST_F(AttachTest, RelativePathOfASavedDrawingIsKept) {
     openSite();
-    play({typing("XATTACH"), choosing(write("part.dxf")),
+    play({typing("XATTACH"), typing("~"), choosing(write("part.dxf")),
           [] {
               auto* list = control<QComboBox>("pathTypeCombo");
               list->setFocus();
@@ -116,7 +138,7 @@ TEST_F(AttachTest, RelativePathOfASavedDrawingIsKept) {
 }
 
 TEST_F(AttachTest, SettingsAreThereAgainInTheNextRun) {
-    play({typing("XATTACH"), choosing(write("part.dxf")),
+    play({typing("XATTACH"), typing("~"), choosing(write("part.dxf")),
           [] {
               click("overlayRadio");
               click("autoZoomCheck");
@@ -125,7 +147,7 @@ TEST_F(AttachTest, SettingsAreThereAgainInTheNextRun) {
           typing("3,4")});
     restart();
     bool overlay = false, zoom = false, uniform = true;
-    play({typing("XATTACH"), choosing(write("part.dxf")), [&] {
+    play({typing("XATTACH"), typing("~"), choosing(write("part.dxf")), [&] {
               overlay = control<QRadioButton>("overlayRadio")->isChecked();
               zoom = control<QCheckBox>("autoZoomCheck")->isChecked();
               uniform = control<QCheckBox>("uniformScaleCheck")->isChecked();
@@ -142,7 +164,7 @@ TEST_F(AttachTest, BadFileIsToldInABoxAndOnTheConsoleWithItsPath) {
     file.write("no drawing");
     file.close();
     QString shown;
-    play({typing("XATTACH"), choosing(inFolder("bad.dxf")), clicking("okButton"), [&] {
+    play({typing("XATTACH"), typing("~"), choosing(inFolder("bad.dxf")), clicking("okButton"), [&] {
               auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
               ASSERT_NE(box, nullptr);
               shown = box->text();
@@ -155,7 +177,7 @@ TEST_F(AttachTest, BadFileIsToldInABoxAndOnTheConsoleWithItsPath) {
 }
 
 TEST_F(AttachTest, RefusedAnswersAreToldOnTheConsole) {
-    play({typing("XATTACH"), choosing(write("part.dxf")),
+    play({typing("XATTACH"), typing("~"), choosing(write("part.dxf")),
           [] {
               click("scaleOnScreenCheck");
               click("okButton");

@@ -1,13 +1,11 @@
 // The attach command as a whole: files, dialog, and what becomes of the drawing.
 #include "tests/xref/attach_dialog_fixture.h"
 #include "xref/attach_command.h"
-#include "xref/file_selection.h"
 
 #include <QApplication>
 #include <QPointer>
 #include <QScreen>
 #include <QTimer>
-#include <QTranslator>
 
 namespace {
 
@@ -51,6 +49,23 @@ protected:
         EXPECT_EQ(run(chosen), 0);
         EXPECT_TRUE(onDialog.shown);
     }
+    void provideFiles() { static_cast<standin::ServiceHub*>(host.application())->add(files); }
+    // With a host that asks for files itself; no dialog may come up.
+    int runWithPrompts() {
+        provideFiles();
+        bool dialogCame = false;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, &look, [&] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                dialogCame = true;
+                dialog->reject();
+            }
+        });
+        look.start(0);
+        const int result = command->Run(nullptr);
+        EXPECT_FALSE(dialogCame);
+        return result;
+    }
     void expectUnchanged(const std::string& before) {
         EXPECT_EQ(drawing->writeBytes(), before);
         EXPECT_EQ(drawing->numActiveTransactions(), 0);
@@ -58,6 +73,7 @@ protected:
     }
     QWidget window;
     Ref<Command> command = Ref<Command>::share(new Command);
+    Ref<TestAttachFiles> files = Ref<TestAttachFiles>::share(new TestAttachFiles);
 };
 
 } // namespace
@@ -68,43 +84,6 @@ TEST_F(AttachCommand, CancelledFileDialogEndsBeforeTheDrawingIsTouched) {
     EXPECT_EQ(run(QString()), 0);
     EXPECT_FALSE(onDialog.shown);
     EXPECT_EQ(drawing->numActiveTransactions(), 0);
-}
-
-TEST_F(AttachCommand, FileDialogAsksForDrawingsFromTheRoot) {
-    FileDialogDriver driver;
-    EXPECT_TRUE(selectXRefFiles(&window, true).isEmpty());
-    EXPECT_EQ(driver.filters, QStringList("Drawing (*.dwg;)"));
-    EXPECT_EQ(driver.directory, "/");
-    EXPECT_EQ(driver.mode, QFileDialog::ExistingFiles);
-    EXPECT_EQ(driver.parentWidget, &window);
-}
-
-TEST_F(AttachCommand, FileDialogHasItsCaptionAndStaysOnTopOfTheWholeApplication) {
-    QString caption;
-    Qt::WindowFlags flags;
-    Qt::WindowModality modality = Qt::NonModal;
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &look, [&] {
-        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (!dialog)
-            return;
-        caption = dialog->windowTitle();
-        flags = dialog->windowFlags();
-        modality = dialog->windowModality();
-        dialog->reject();
-    });
-    look.start(5);
-    selectXRefFiles(&window, true);
-    EXPECT_EQ(caption, "External Reference");
-    EXPECT_EQ(flags & Qt::WindowType_Mask, Qt::Window);
-    EXPECT_TRUE(flags & Qt::WindowStaysOnTopHint);
-    EXPECT_EQ(modality, Qt::ApplicationModal);
-}
-
-TEST_F(AttachCommand, FileDialogForOneFileTakesOne) {
-    FileDialogDriver driver(write("part.dxf"));
-    EXPECT_EQ(selectXRefFiles(&window, false), QStringList(inFolder("part.dxf")));
-    EXPECT_EQ(driver.mode, QFileDialog::ExistingFile);
 }
 
 TEST_F(AttachCommand, DialogHasItsTitleAndCentresTheWindowBehindIt) {
@@ -146,7 +125,13 @@ TEST_F(AttachCommand, OkKeepsTheReference) {
 
 TEST_F(AttachCommand, CancelTakesEverythingBack) {
     const std::string before = drawing->writeBytes();
-    runAndPress(write("part.dxf"), "cancelButton");
+    QStringList whileOpen;
+    OnAttachDialog onDialog([&](Dialog& dialog) {
+        whileOpen = referenceNames();
+        dialog.cancelButton->click();
+    });
+    run(write("part.dxf"));
+    EXPECT_EQ(whileOpen, QStringList("part"));
     expectUnchanged(before);
 }
 
@@ -172,10 +157,17 @@ TEST_F(AttachCommand, UndoTakesSeveralFilesBackInOneStep) {
 }
 
 TEST_F(AttachCommand, UndoBlockOfTheCallerStaysOpen) {
+    const std::string before = drawing->writeBytes();
     drawing->blockUndoRecording(true);
-    runAndPress(write("part.dxf"), "cancelButton");
+    define("first", "/x/first.dxf");
+    io.script({pick(4, 5)});
+    runAndPress(write("part.dxf"), "okButton");
     EXPECT_TRUE(drawing->isUndoBlockStarted());
+    define("last", "/x/last.dxf");
     drawing->blockUndoRecording(false);
+    EXPECT_EQ(referenceNames(), QStringList({"first", "part", "last"}));
+    EXPECT_TRUE(drawing->undo());
+    EXPECT_EQ(drawing->writeBytes(), before) << "the caller's block is one step";
 }
 
 TEST_F(AttachCommand, SeveralFilesReachTheDialogAsOneList) {
@@ -274,8 +266,14 @@ TEST_F(AttachCommand, ExceptionFromTheDialogTakesEverythingBackAndPasses) {
 }
 
 TEST_F(AttachCommand, NewDefinitionsAreForgottenAtTheEnd) {
+    bool wasNew = false;
+    OnAttachDialog onDialog([&](Dialog& dialog) {
+        wasNew = isNewDefinition(block("part")->objectId());
+        dialog.okButton->click();
+    });
     io.script({pick(4, 5)});
-    runAndPress(write("part.dxf"), "okButton");
+    run(write("part.dxf"));
+    EXPECT_TRUE(wasNew);
     EXPECT_FALSE(isNewDefinition(block("part")->objectId()));
 }
 
@@ -303,26 +301,79 @@ TEST_F(AttachCommand, ReferenceIsFoundAgainAfterSavingAndOpening) {
     EXPECT_EQ(inserted().at(0)->position(), OdGePoint3d(4, 5, 0));
 }
 
+TEST_F(AttachCommand, DefinitionOfAFileThatWasLeftForAnotherNameIsGone) {
+    define("other", write("other.dxf"));
+    io.script({pick(4, 5)});
+    OnAttachDialog onDialog([](Dialog& dialog) {
+        dialog.nameCombo->setCurrentIndex(0);
+        emit dialog.nameCombo->activated(0);
+        dialog.okButton->click();
+    });
+    run(write("part.dxf"));
+    ASSERT_EQ(inserted().size(), 1u);
+    EXPECT_EQ(inserted()[0]->blockName(), OdString(L"other"));
+    EXPECT_EQ(referenceNames(), QStringList("other"));
+}
+
+TEST_F(AttachCommand, DefinitionOfAFileThatWasLeftForAnotherNameIsGoneAfterEscapeToo) {
+    define("other", write("other.dxf"));
+    io.script({cancel()});
+    OnAttachDialog onDialog([](Dialog& dialog) {
+        dialog.nameCombo->setCurrentIndex(0);
+        emit dialog.nameCombo->activated(0);
+        dialog.okButton->click();
+    });
+    run(write("part.dxf"));
+    EXPECT_TRUE(inserted().empty());
+    EXPECT_EQ(referenceNames(), QStringList("other"));
+}
+
+TEST_F(AttachCommand, FilesThatTheHostAsksForAreAttachedWithoutADialog) {
+    files->chosen = {hostqt::odString(write("part.dxf"))};
+    io.script({pick(4, 5)});
+    EXPECT_EQ(runWithPrompts(), 0);
+    ASSERT_EQ(inserted().size(), 1u);
+    EXPECT_EQ(inserted()[0]->position(), OdGePoint3d(4, 5, 0));
+    EXPECT_EQ(io.prompts(), QStringList("Specify insertion point or [%s]"));
+    EXPECT_TRUE(drawing->undo());
+    EXPECT_TRUE(referenceNames().isEmpty());
+}
+
+TEST_F(AttachCommand, FilesThatTheHostAsksForAreTakenBackAtEscapeOrWhenOneIsBad) {
+    const std::string before = drawing->writeBytes();
+    files->chosen = {hostqt::odString(write("part.dxf"))};
+    io.script({cancel()});
+    runWithPrompts();
+    EXPECT_FALSE(io.ranOut);
+    EXPECT_EQ(io.questions.size(), 1u);
+    expectUnchanged(before);
+    files->chosen.push_back(odPath("gone.dxf"));
+    runWithPrompts();
+    EXPECT_EQ(noticeTexts(),
+              QStringList(QStringLiteral("\"%1\" cannot be found.").arg(inFolder("gone.dxf"))));
+    expectUnchanged(before);
+}
+
+TEST_F(AttachCommand, NothingIsAttachedWhenTheHostHasAskedAndGotNoFile) {
+    const std::string before = drawing->writeBytes();
+    runWithPrompts();
+    EXPECT_TRUE(io.questions.empty());
+    expectUnchanged(before);
+}
+
+TEST_F(AttachCommand, HostThatDoesNotAskLeavesItToTheDialogs) {
+    provideFiles();
+    files->asks = false;
+    files->chosen = {odPath("part.dxf")};
+    io.script({pick(4, 5)});
+    runAndPress(write("other.dxf"), "okButton");
+    EXPECT_EQ(referenceNames(), QStringList("other"));
+}
+
 TEST_F(AttachCommand, AnswersLikeEveryCommandObject) {
     EXPECT_EQ(command->getStatus(), 0);
     EXPECT_EQ(command->constantZero(), 0);
     EXPECT_EQ(command->enableQuery(), 1);
     runAndPress(write("part.dxf"), "cancelButton");
     EXPECT_EQ(command->getStatus(), 0);
-}
-
-TEST_F(AttachCommand, ShippedEnglishWordingListsDrawings) {
-    class Wording : public QTranslator {
-        bool isEmpty() const override { return false; }
-        QString translate(const char* context, const char* text, const char*, int) const override {
-            const bool filter = QByteArray(context) == "OdQCmd_hostAttachExternalReferenceCommand" &&
-                                QByteArray(text) == "Drawing (*.dwg;)";
-            return filter ? QStringLiteral("Drawings (*.dxf *.dwg)") : QString();
-        }
-    } wording;
-    QCoreApplication::installTranslator(&wording);
-    FileDialogDriver driver;
-    selectXRefFiles(&window, true);
-    QCoreApplication::removeTranslator(&wording);
-    EXPECT_EQ(driver.filters, QStringList("Drawings (*.dxf *.dwg)"));
 }

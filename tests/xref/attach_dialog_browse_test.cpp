@@ -62,12 +62,50 @@ TEST_F(BrowseDialog, ReferenceOfThatNameToAnotherFileMakesANumberedName) {
     EXPECT_EQ(referenceNames(), QStringList({"other", "other_1"}));
 }
 
-TEST_F(BrowseDialog, PlainBlockOfThatNameMakesANumberedName) {
+TEST_F(BrowseDialog, PlainBlockOfThatNameIsTakenAndNoDefinitionIsMade) {
+    addPlainBlock(L"other");
+    open(write("part.dxf"));
+    browse(write("other.dxf"));
+    EXPECT_EQ(dialog->name, "other");
+    EXPECT_EQ(control<QComboBox>("nameCombo")->currentText(), "other");
+    EXPECT_EQ(dialog->path, "") << "that of the plain block, which has none";
+    EXPECT_TRUE(referenceNames().isEmpty());
+    EXPECT_FALSE(block("other")->isFromExternalReference());
+}
+
+TEST_F(BrowseDialog, PlainBlockOfThatNameMakesANumberedNameIfTheHostWantsIt) {
+    provideServices();
     addPlainBlock(L"other");
     open(write("part.dxf"));
     browse(write("other.dxf"));
     EXPECT_EQ(dialog->name, "other_1");
+    EXPECT_EQ(dialog->path, inFolder("other.dxf"));
     EXPECT_EQ(referenceNames(), QStringList("other_1"));
+}
+
+TEST_F(BrowseDialog, DefinitionThatTheDrawingUsesStaysWithItsReferences) {
+    const OdDbBlockReferencePtr used(new OdDbBlockReference);
+    used->setBlockTableRecord(define("part", write("part.dxf")));
+    odrxCast<OdDbBlockTableRecord>(drawing->getModelSpaceId().safeOpenObject(OdDb::kForWrite))
+        ->appendOdDbEntity(used.get());
+    open(inFolder("part.dxf"));
+    browse(write("other.dxf"));
+    EXPECT_EQ(dialog->name, "other");
+    EXPECT_EQ(referenceNames(), QStringList({"part", "other"}));
+    EXPECT_EQ(inserted().at(0)->blockTableRecord(), block("part")->objectId());
+}
+
+TEST_F(BrowseDialog, TwoFilesThatDifferInCaseAreOneAsTheTextHasItAndTwoIfTheHostWantsIt) {
+    define("other", write("OTHER.dxf"));
+    write("other.dxf");
+    open(write("part.dxf"));
+    browse(inFolder("other.dxf"));
+    EXPECT_EQ(dialog->name, "other");
+    provideServices();
+    open(write("part.dxf"));
+    browse(inFolder("other.dxf"));
+    EXPECT_EQ(dialog->name, "other_1");
+    EXPECT_EQ(dialog->path, inFolder("other.dxf"));
 }
 
 TEST_F(BrowseDialog, OverlayIsPassedOnToTheNewDefinition) {
@@ -123,6 +161,27 @@ TEST_F(AttachDialog, SettingsAreKeptInTheStoreOfTheHost) {
     EXPECT_FALSE(enabled("scaleYEdit"));
     EXPECT_EQ(control<QComboBox>("pathTypeCombo")->currentIndex(), 2);
     EXPECT_EQ(text("savedPathEdit"), "other.dxf");
+}
+
+TEST_F(AttachDialog, SeveralFilesLeaveTheThreeOnScreenSettingsAlone) {
+    provideServices();
+    const char* const onScreen[] = {"xAttachRefGrabScale", "xAttachRefGrabAngle", "xAttachRefGrabInsPoint"};
+    CKWVariant on;
+    on = 1;
+    for (const char* key : onScreen)
+        services->store->setValue(key, &on);
+    open(write("a.dxf") + ";" + write("b.dxf"));
+    click("autoZoomCheck");
+    click("okButton");
+    ASSERT_EQ(ended, QDialog::Accepted);
+    for (const char* key : onScreen) {
+        int kept = -1;
+        readValue(services->store.get(), key, &kept);
+        EXPECT_EQ(kept, 1) << key;
+    }
+    int zoom = -1;
+    readValue(services->store.get(), "xAttachRefAutoZoom", &zoom);
+    EXPECT_EQ(zoom, 1);
 }
 
 TEST_F(AttachDialog, CancelKeepsTheSettingsAsTheyWere) {

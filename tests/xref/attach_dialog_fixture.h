@@ -38,6 +38,8 @@ protected:
     hostInsertExternalReferenceDialog& open() {
         dialog.reset();
         dialog = std::make_unique<hostInsertExternalReferenceDialog>(nullptr, params.get());
+        ended = kStillOpen;
+        QObject::connect(dialog.get(), &QDialog::finished, dialog.get(), [this](int how) { ended = how; });
         if (dialog->initialized) {
             dialog->show();
             dialog->activateWindow();
@@ -85,6 +87,8 @@ protected:
 
     Ref<IParam> params = Ref<IParam>::take(new_MemParam());
     std::unique_ptr<hostInsertExternalReferenceDialog> dialog;
+    enum { kStillOpen = -1 };
+    int ended = kStillOpen; // how the dialog has ended; its result() begins as a rejection
     const QString notSaved =
         QStringLiteral("Relative path cannot be assigned.\nDrawing file should be saved.");
     const QString notOnOneDisk = QStringLiteral(

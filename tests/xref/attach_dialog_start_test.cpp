@@ -1,11 +1,10 @@
 // The attach dialog as it opens: defaults, the parameter map, one file and several.
-#include "sdk/db/thumbnail.h"
+#include "sdk/db/layer_table.h"
 #include "tests/xref/attach_dialog_fixture.h"
 
-#include <QBuffer>
 #include <QGroupBox>
-#include <QImage>
 #include <QLayout>
+#include <QTextCodec>
 
 TEST_F(AttachDialog, ControlsHaveTheirDefaults) {
     open(write("part.dxf"));
@@ -195,6 +194,69 @@ TEST_F(AttachDialog, MapFillsTheControls) {
     EXPECT_FALSE(checked("insertionOnScreenCheck"));
 }
 
+TEST_F(AttachDialog, NumbersOfTheMapKeepTheirDigits) {
+    give("INSERTION_POINT", 1234567.125);
+    give("SCALE", 0.00001234567);
+    give("ROTATION", 3.141592653589793);
+    open(write("part.dxf"));
+    EXPECT_EQ(text("insertZEdit"), "1234567.125");
+    EXPECT_EQ(text("scaleZEdit"), "0.00001234567");
+    EXPECT_EQ(text("angleEdit"), "3.141592653589793");
+}
+
+TEST_F(AttachDialog, PathTypeThatIsNoRowOfTheListCountsAsAbsent) {
+    provideServices();
+    CKWVariant none;
+    none = 2;
+    services->store->setValue("xAttachRefPathType", &none);
+    for (const int row : {-1, 3, 17}) {
+        give("PATH_TYPE", row);
+        open(write("part.dxf"));
+        EXPECT_EQ(control<QComboBox>("pathTypeCombo")->currentIndex(), 2) << row;
+    }
+    give("PATH_TYPE", 0);
+    open(write("part.dxf"));
+    EXPECT_EQ(control<QComboBox>("pathTypeCombo")->currentIndex(), 0);
+}
+
+TEST_F(AttachDialog, ReferenceTypeZeroOfTheMapIsAnAttachmentThoughAnOverlayIsStored) {
+    provideServices();
+    CKWVariant overlay;
+    overlay = 0; // of the radio button "Attachment"
+    services->store->setValue("xAttachRefType", &overlay);
+    open(write("part.dxf"));
+    EXPECT_TRUE(checked("overlayRadio"));
+    give("REFERENCE_TYPE", 0);
+    open(write("part.dxf"));
+    EXPECT_TRUE(checked("attachmentRadio"));
+    EXPECT_FALSE(checked("overlayRadio"));
+    EXPECT_FALSE(block("part")->isFromOverlayReference());
+}
+
+TEST_F(AttachDialog, BlockRecordOfAnotherClassPassesToTheCaller) {
+    open(write("part.dxf"));
+    const OdSmartPtr<OdDbLayerTableRecord> stranger(new OdDbLayerTableRecord);
+    stranger->setName(L"stranger");
+    blocks()->OdDbSymbolTable::add(stranger.get());
+    OdDbBlockTableRecordPtr record;
+    EXPECT_THROW(dialog->updateUnit("stranger", record), OdError_NotThatKindOfClass);
+}
+
+TEST_F(AttachDialog, NameThatTheLocaleCannotExpressIsNotFound) {
+    const QString name = QString::fromUtf8("\xD0\x96");
+    define(name, write("part.dxf", OdDb::kUnitsMeters));
+    drawing->setINSUNITS(OdDb::kUnitsMillimeters);
+    open(inFolder("part.dxf"));
+    OdDbBlockTableRecordPtr record;
+    dialog->updateUnit(name, record);
+    EXPECT_FALSE(record.isNull());
+    QTextCodec* const former = QTextCodec::codecForLocale();
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+    dialog->updateUnit(name, record);
+    QTextCodec::setCodecForLocale(former);
+    EXPECT_TRUE(record.isNull());
+}
+
 TEST_F(AttachDialog, IntegerForANumberLeavesTheDefault) {
     give("SCALE", 3);
     open(write("part.dxf"));
@@ -268,70 +330,4 @@ TEST_F(AttachDialog, DestructorAbortsWhatItHasLeftOpen) {
     EXPECT_EQ(drawing->numActiveTransactions(), 1);
     EXPECT_TRUE(referenceNames().isEmpty());
     drawing->abortTransaction();
-}
-
-TEST_F(AttachDialog, PreviewOfTheFileIsShown) {
-    const OdDbDatabasePtr part = smallDrawing();
-    OdThumbnailImage image;
-    // A bitmap of 2 by 1 pixels with 24 bits: a red one and a blue one.
-    image.bmp =
-        std::string("\x28\0\0\0\2\0\0\0\1\0\0\0\1\0\x18\0\0\0\0\0\x08\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"
-                    "\0\0\xff\xff\0\0\0\0",
-                    48);
-    odDbPutPreviewBitmap(part.get(), image);
-    part->writeFile(odPath("part.dxf"));
-    const QImage read = loadPreviewImage(inFolder("part.dxf"));
-    ASSERT_EQ(read.size(), QSize(2, 1));
-    EXPECT_EQ(read.pixelColor(0, 0), QColor(255, 0, 0));
-    open(inFolder("part.dxf"));
-    EXPECT_EQ(control<QLabel>("previewLabel")->pixmap(Qt::ReturnByValue).size(), QSize(200, 100));
-}
-
-namespace {
-
-std::string largePng(int width, int height) {
-    QImage image(width, height, QImage::Format_Mono);
-    image.fill(0);
-    QBuffer buffer;
-    image.save(&buffer, "PNG");
-    return buffer.data().toStdString();
-}
-
-} // namespace
-
-TEST_F(AttachDialog, APreviewThatClaimsToBeHugeIsNotBelieved) {
-    provideServices();
-    const OdDbDatabasePtr part = smallDrawing();
-    OdThumbnailImage image;
-    image.bmp = largePng(30000, 64);
-    odDbPutPreviewBitmap(part.get(), image);
-    part->writeFile(odPath("part.dxf"));
-    EXPECT_TRUE(loadPreviewImage(inFolder("part.dxf")).isNull());
-    EXPECT_EQ(services->reported.size(), 1) << "it is told that the preview can't be shown";
-}
-
-TEST_F(AttachDialog, ALargePreviewIsScaledWhileItIsRead) {
-    const OdDbDatabasePtr part = smallDrawing();
-    OdThumbnailImage image;
-    image.bmp = largePng(16384, 4096);
-    odDbPutPreviewBitmap(part.get(), image);
-    part->writeFile(odPath("part.dxf"));
-    EXPECT_EQ(loadPreviewImage(inFolder("part.dxf")).size(), QSize(1024, 256));
-}
-
-TEST_F(AttachDialog, FileWithoutAPreviewShowsNone) {
-    EXPECT_TRUE(loadPreviewImage(write("part.dxf")).isNull());
-    EXPECT_TRUE(loadPreviewImage(inFolder("gone.dxf")).isNull());
-    EXPECT_TRUE(loadPreviewImage(folder.path()).isNull());
-}
-
-TEST_F(AttachDialog, DamagedPreviewIsToldWithThePathAndTheDialogOpens) {
-    provideServices();
-    const QString path = writeBytes(
-        "part.dxf", "  0\nSECTION\n  2\nTHUMBNAILIMAGE\n 90\n4\n310\nDEADBEEF\n  0\nENDSEC\n  0\nEOF\n");
-    open(path);
-    EXPECT_TRUE(dialog->initialized);
-    EXPECT_EQ(services->reported,
-              QStringList(QStringLiteral("The preview of \"%1\" cannot be shown.").arg(path)));
-    EXPECT_TRUE(host.notices().empty());
 }

@@ -33,14 +33,33 @@ TEST_F(AttachDialog, UniformScaleFollowsX) {
     EXPECT_TRUE(enabled("scaleZEdit"));
 }
 
-TEST_F(AttachDialog, LeavingUniformScaleReformatsYAndZInTheUnitsOfTheDrawing) {
+TEST_F(AttachDialog, LeavingUniformScaleReformatsYAndZOnly) {
     open(write("part.dxf"));
     click("uniformScaleCheck");
-    type("scaleXEdit", "1.123456789");
+    type("scaleXEdit", "01.50");
     click("uniformScaleCheck");
-    EXPECT_EQ(text("scaleYEdit"), "1.1235");
-    EXPECT_EQ(text("scaleZEdit"), "1.1235");
-    EXPECT_EQ(text("scaleXEdit"), "1.123456789");
+    EXPECT_EQ(text("scaleYEdit"), "1.5");
+    EXPECT_EQ(text("scaleZEdit"), "1.5");
+    EXPECT_EQ(text("scaleXEdit"), "01.50");
+}
+
+TEST_F(AttachDialog, UntickingScaleOnScreenFreesAllThreeFactorsThoughTheScaleIsUniform) {
+    open(write("part.dxf"));
+    click("uniformScaleCheck");
+    click("scaleOnScreenCheck");
+    for (const char* name : {"scaleXEdit", "scaleYEdit", "scaleZEdit"})
+        EXPECT_FALSE(enabled(name)) << name;
+    click("scaleOnScreenCheck");
+    for (const char* name : {"scaleXEdit", "scaleYEdit", "scaleZEdit"})
+        EXPECT_TRUE(enabled(name)) << name;
+}
+
+TEST_F(AttachDialog, InsertionOnScreenTakesItsEditsAwayAgain) {
+    open(write("part.dxf"));
+    click("insertionOnScreenCheck");
+    click("insertionOnScreenCheck");
+    for (const char* name : {"insertXEdit", "insertYEdit", "insertZEdit"})
+        EXPECT_FALSE(enabled(name)) << name;
 }
 
 TEST_F(AttachDialog, UniformScaleChangesNothingWhileTheScaleIsSpecifiedOnScreen) {
@@ -48,6 +67,7 @@ TEST_F(AttachDialog, UniformScaleChangesNothingWhileTheScaleIsSpecifiedOnScreen)
     type("scaleXEdit", "2");
     click("scaleOnScreenCheck");
     click("uniformScaleCheck");
+    EXPECT_TRUE(checked("uniformScaleCheck"));
     EXPECT_EQ(text("scaleYEdit"), "1");
 }
 
@@ -61,7 +81,7 @@ TEST_F(AttachDialog, HelpOpensItsTopic) {
 TEST_F(AttachDialog, CancelRejects) {
     open(write("part.dxf"));
     click("cancelButton");
-    EXPECT_EQ(dialog->result(), QDialog::Rejected);
+    EXPECT_EQ(ended, QDialog::Rejected);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_TRUE(inserted().empty());
 }
@@ -226,6 +246,8 @@ const Refusal refusals[] = {
     {"ScaleYOnScreen", "scaleYEdit", "0", "", true, false},
     {"ScaleZ", "scaleZEdit", "0", kFactor, false, false},
     {"ScaleZUniform", "scaleZEdit", "0", "", false, true},
+    {"ScaleZOnScreen", "scaleZEdit", "0", "", true, false},
+    {"ScaleZBelowZero", "scaleZEdit", "-2", "", false, false},
 };
 INSTANTIATE_TEST_SUITE_P(All, NumberChecks, testing::ValuesIn(refusals),
                          [](const auto& row) { return row.param.name; });
@@ -249,7 +271,7 @@ TEST_F(AttachDialog, OkAttachesWithTheNumbersShown) {
     click("overlayRadio");
     choose("pathTypeCombo", 2);
     click("okButton");
-    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    EXPECT_EQ(ended, QDialog::Accepted);
     ASSERT_EQ(inserted().size(), 1u);
     EXPECT_EQ(inserted()[0]->position(), OdGePoint3d(1.5, -2, 0));
     EXPECT_EQ(inserted()[0]->scaleFactors(), OdGeScale3d(2, 3, 1));
@@ -266,7 +288,7 @@ TEST_F(AttachDialog, OkSavesThePathInTheFormThatIsChosen) {
         open(write(file));
         choose("pathTypeCombo", QString(file) == "relative.dxf" ? 0 : 1);
         click("okButton");
-        EXPECT_EQ(dialog->result(), QDialog::Accepted);
+        EXPECT_EQ(ended, QDialog::Accepted);
         drawing->endTransaction(); // as the command does
     }
     EXPECT_EQ(block("relative")->pathName(), OdString(L"relative.dxf"));
@@ -293,7 +315,7 @@ TEST_F(AttachDialog, ScaleOnScreenStartsFromOne) {
     io.script({cancel()});
     click("okButton");
     EXPECT_EQ(start, OdGeScale3d(1));
-    EXPECT_EQ(dialog->result(), QDialog::Rejected);
+    EXPECT_EQ(ended, QDialog::Rejected);
 }
 
 TEST_F(AttachDialog, DialogIsHiddenWhileThePromptsAsk) {
@@ -303,13 +325,13 @@ TEST_F(AttachDialog, DialogIsHiddenWhileThePromptsAsk) {
     io.script({pick(1, 2)});
     click("okButton");
     EXPECT_FALSE(visible);
-    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    EXPECT_EQ(ended, QDialog::Accepted);
 }
 
 TEST_F(AttachDialog, FilesAreAttachedInTheirOrderAndAllMustSucceed) {
     open(write("b.dxf") + ";" + write("a.dxf") + ";" + write("c.dxf"));
     click("okButton");
-    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    EXPECT_EQ(ended, QDialog::Accepted);
     ASSERT_EQ(inserted().size(), 3u);
     EXPECT_EQ(inserted()[0]->blockName(), OdString(L"b"));
     EXPECT_EQ(inserted()[1]->blockName(), OdString(L"a"));
@@ -319,14 +341,23 @@ TEST_F(AttachDialog, FilesAreAttachedInTheirOrderAndAllMustSucceed) {
 TEST_F(AttachDialog, FailureOfOneFileRejectsAfterTryingAll) {
     open(write("a.dxf") + ";" + inFolder("gone.dxf") + ";" + write("c.dxf"));
     click("okButton");
-    EXPECT_EQ(dialog->result(), QDialog::Rejected);
+    EXPECT_EQ(ended, QDialog::Rejected);
     EXPECT_EQ(inserted().size(), 2u);
     EXPECT_EQ(noticeTexts().size(), 1);
+}
+
+TEST_F(AttachDialog, DelimiterAtTheEndMakesTwoPartsOfWhichTheLastFails) {
+    open(write("a.dxf") + ";");
+    EXPECT_TRUE(dialog->multipleFiles);
+    EXPECT_EQ(dialog->entries.size(), 1u);
+    click("okButton");
+    EXPECT_EQ(ended, QDialog::Rejected);
+    EXPECT_EQ(inserted().size(), 1u);
 }
 
 TEST_F(AttachDialog, EmptyPartsAreTriedToo) {
     open(write("a.dxf") + ";;" + write("c.dxf"));
     click("okButton");
-    EXPECT_EQ(dialog->result(), QDialog::Rejected);
+    EXPECT_EQ(ended, QDialog::Rejected);
     EXPECT_EQ(inserted().size(), 2u);
 }

@@ -86,6 +86,8 @@ TEST_F(AttachFailures, DrawingsOwnBaseNameIsToldToTheServicesWithThePath) {
     expectRefusal(path, {});
     EXPECT_EQ(io.formatted, QStringList("Error: Possible circular reference to current drawing."));
     EXPECT_EQ(services->reported, QStringList(path));
+    EXPECT_EQ(services->refused,
+              QStringList(path + ": Error: Possible circular reference to current drawing."));
 }
 
 TEST_F(AttachFailures, BlockOfTheSameNameThatIsNoReferenceStaysBesideTheNewOne) {
@@ -163,9 +165,9 @@ TEST_F(AttachFailures, DrawingThatAttachesTheCurrentOneAtAnyDepthIsToldToTheServ
     writeReferring("middle.dxf", {"deep.dxf"});
     const QString path = writeReferring("part.dxf", {"middle.dxf"});
     expectRefusal(path, {});
-    ASSERT_EQ(services->reported.size(), 2);
-    EXPECT_EQ(services->reported[0], "XattachCmd Exception ");
-    EXPECT_TRUE(services->reported[1].startsWith(path));
+    const QString reason = path + ": Object refers to itself";
+    EXPECT_EQ(services->reported, QStringList({"XattachCmd Exception ", reason}));
+    EXPECT_EQ(services->refused, QStringList(reason));
 }
 
 TEST_F(AttachFailures, DrawingThatOverlaysTheCurrentOneIsAttached) {
@@ -251,6 +253,9 @@ TEST_P(FailureCodes, AreToldWithThePathToTheServices) {
     tellAttachFailure(&io, L"/x/100%s.dxf", OdError(GetParam().code));
     EXPECT_EQ(services->reported.contains("XattachCmd Exception "), GetParam().message.isEmpty());
     EXPECT_TRUE(services->reported.last().startsWith("/x/100%s.dxf: "));
+    const bool showsABoxItself = !GetParam().message.isEmpty();
+    EXPECT_EQ(services->refused,
+              showsABoxItself ? QStringList() : QStringList("/x/100%s.dxf: Key not found"));
 }
 
 const CodeCell codes[] = {

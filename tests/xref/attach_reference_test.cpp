@@ -280,6 +280,22 @@ const Answer at = pick(5, 6), size = value(2), turn = value(0.25), no = cancel()
 
 } // namespace
 
+TEST_F(AttachReference, UndoRecordIsOpenedByAnEntryAndNotByACancel) {
+    define("part", write("part.dxf"));
+    attach.insertionOnScreen = true;
+    io.script({cancel()});
+    ASSERT_TRUE(attach.of(inFolder("part.dxf")));
+    define("later", "/x/later.dxf");
+    EXPECT_TRUE(drawing->undo());
+    EXPECT_THAT(referenceNames(), IsEmpty()) << "all that came before a record is opened is one step";
+    define("part", inFolder("part.dxf"));
+    io.script({pick(5, 6)});
+    ASSERT_TRUE(attach.of(inFolder("part.dxf")));
+    EXPECT_TRUE(drawing->undo());
+    EXPECT_THAT(inserted(), IsEmpty());
+    EXPECT_THAT(referenceNames(), ElementsAre("part")) << "only what came since is taken back";
+}
+
 TEST_P(CancelRules, HoldForTheirCell) {
     const CancelCell& cell = GetParam();
     write("part.dxf");

@@ -78,6 +78,33 @@ TEST_F(CreateReference, StoredPathIsFoundIgnoringCase) {
     EXPECT_EQ(referenceNames(), QStringList("old"));
 }
 
+TEST_F(CreateReference, TwoFilesWhoseNamesDifferInCaseAreTwoReferences) {
+    define("old", write("part.dxf"));
+    EXPECT_TRUE(create(write("PART.dxf")));
+    EXPECT_FALSE(hadDefinition);
+    EXPECT_EQ(referenceNames(), QStringList({"old", "PART"}));
+}
+
+TEST_F(CreateReference, DrawingThatWasNeverWrittenIsInNoCircleWithAMissingReference) {
+    const QString path = writeReferring("part.dxf", {"gone.dxf"});
+    EXPECT_FALSE(QFile::exists(inFolder("site.dxf")));
+    EXPECT_TRUE(create(path));
+    EXPECT_EQ(referenceNames(), QStringList("part"));
+}
+
+TEST_F(CreateReference, CircleIsRefusedWithItsReason) {
+    drawing->writeFile(odPath("site.dxf"));
+    const QString path = writeReferring("part.dxf", {"site.dxf"});
+    try {
+        create(path);
+        FAIL() << "the circle was not seen";
+    } catch (const OdError& error) {
+        EXPECT_EQ(error.code(), eSelfReference);
+        EXPECT_EQ(error.description(), OdString(L"Object refers to itself"));
+    }
+    EXPECT_TRUE(referenceNames().isEmpty());
+}
+
 TEST_F(CreateReference, ResolvedPathIsFoundToo) {
     write("part.dxf");
     define("old", "part.dxf");
@@ -128,18 +155,25 @@ TEST_F(CreateReference, ErasingTakesDefinitionAndReferenceBack) {
     EXPECT_TRUE(blockId.isErased());
 }
 
-TEST_F(CreateReference, ErasingTakesAReferenceThatIsInASpaceWithAndWithoutItsDefinition) {
-    for (const bool defined : {true, false}) {
-        create(write("part.dxf"));
-        odrxCast<OdDbBlockTableRecord>(drawing->getModelSpaceId().safeOpenObject(OdDb::kForWrite))
-            ->appendOdDbEntity(reference.get());
-        if (!defined)
-            odrxCast<OdDbBlockTableRecord>(blockId.safeOpenObject(OdDb::kForWrite))->erase(true);
-        eraseNewXRef(reference);
-        EXPECT_TRUE(reference->isErased());
-        EXPECT_TRUE(inserted().empty());
-        EXPECT_TRUE(referenceNames().isEmpty());
-    }
+TEST_F(CreateReference, ErasingTakesAReferenceWithoutItsDefinition) {
+    create(write("part.dxf"));
+    odrxCast<OdDbBlockTableRecord>(blockId.safeOpenObject(OdDb::kForWrite))->erase(true);
+    odrxCast<OdDbBlockTableRecord>(drawing->getModelSpaceId().safeOpenObject(OdDb::kForWrite))
+        ->appendOdDbEntity(reference.get());
+    eraseNewXRef(reference);
+    EXPECT_TRUE(reference->isErased());
+    EXPECT_TRUE(inserted().empty());
+}
+
+TEST_F(CreateReference, ErasingLeavesADefinitionThatIsUsedElsewhere) {
+    create(write("part.dxf"));
+    const OdDbBlockReferencePtr other(new OdDbBlockReference);
+    other->setBlockTableRecord(blockId);
+    odrxCast<OdDbBlockTableRecord>(drawing->getModelSpaceId().safeOpenObject(OdDb::kForWrite))
+        ->appendOdDbEntity(other.get());
+    eraseNewXRef(reference);
+    EXPECT_EQ(referenceNames(), QStringList("part"));
+    EXPECT_EQ(inserted().size(), 1u);
 }
 
 TEST_F(CreateReference, ThousandsOfReferencesAreNoHindrance) {
@@ -148,6 +182,18 @@ TEST_F(CreateReference, ThousandsOfReferencesAreNoHindrance) {
     EXPECT_TRUE(create(write("part.dxf")));
     EXPECT_EQ(blockName, "part");
     EXPECT_EQ(referenceNames().size(), 2001);
+}
+
+TEST_F(CreateReference, UnusedDefinitionsOfTheCommandAreErasedAndNoOthers) {
+    define("before", write("before.dxf"));
+    create(write("used.dxf"));
+    odrxCast<OdDbBlockTableRecord>(drawing->getModelSpaceId().safeOpenObject(OdDb::kForWrite))
+        ->appendOdDbEntity(reference.get());
+    create(write("unused.dxf"));
+    create(write("gone.dxf"));
+    eraseNewXRef(reference);
+    eraseUnusedDefinitions();
+    EXPECT_EQ(referenceNames(), QStringList({"before", "used"}));
 }
 
 TEST(NewDefinitions, ListIsEmptyAtBothEndsOfItsScope) {

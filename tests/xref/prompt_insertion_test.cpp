@@ -154,6 +154,15 @@ TEST_F(InsertionPrompt, PutsTheReferenceAtThePickedPoint) {
     EXPECT_EQ(reference->position(), OdGePoint3d(5, 6, 7));
 }
 
+TEST_F(InsertionPrompt, PutsTheReferenceWhereTheConsoleLeftThePointWhenTextWasTyped) {
+    Answer answer = typed(L"somewhere");
+    answer.point = {7, 8, 9};
+    answer.leavesValue = true;
+    io.script({answer});
+    EXPECT_EQ(ask(), kInputPicked);
+    EXPECT_EQ(reference->position(), OdGePoint3d(7, 8, 9));
+}
+
 TEST_F(InsertionPrompt, StartsAtTheOriginWithOneTrackerForAllOfItsQuestions) {
     reference->setPosition({9, 9, 9});
     std::vector<HostEdPointTracker*> trackers;

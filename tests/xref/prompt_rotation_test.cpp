@@ -56,6 +56,11 @@ TEST_F(RotationPrompt, CancelTurnsTheReferenceToTheZeroOfTheUsersCoordinates) {
     EXPECT_NEAR(ucsRotation(reference, 0), 90 * kDegree, 1e-12);
 }
 
+TEST_F(RotationPrompt, WithoutACurrentDrawingAnglesCountFromTheWorldsXAxis) {
+    host.closeDocument();
+    EXPECT_NEAR(ucsRotation(reference, 0.5), 0.5, 1e-12);
+}
+
 TEST_F(RotationPrompt, AsksFromThePositionWithATracker) {
     reference->setPosition({4, 5, 6});
     io.script({value(0)});
@@ -126,6 +131,29 @@ TEST_F(Tracker, OnlyThePositionModeMovesTheReference) {
         EXPECT_EQ(reference->position(),
                   mode == kTrackPosition ? OdGePoint3d(1, 2, 3) : OdGePoint3d(9, 9, 9));
     }
+}
+
+TEST_F(Tracker, WhatTheHostTellsItChangesNothing) {
+    reference->setPosition({9, 8, 7});
+    reference->setRotation(0.5);
+    reference->setScaleFactors({2, 3, 4});
+    double value = 11, scale = 12;
+    XRefTracker tracker(reference, kTrackFreeScale, &value, &scale, {1, 2, 3});
+    tracker.setValue(5);
+    tracker.setText(L"6");
+    tracker.setBasePoint(10, 20, 30);
+    tracker.setCursor(50, 60, 70);
+    NotingSink sink;
+    tracker.setSink(&sink);
+    EXPECT_EQ(reference->position(), OdGePoint3d(9, 8, 7));
+    EXPECT_EQ(reference->rotation(), 0.5);
+    EXPECT_EQ(reference->scaleFactors(), OdGeScale3d(2, 3, 4));
+    EXPECT_EQ(value, 11);
+    EXPECT_EQ(scale, 12);
+    EXPECT_EQ(sink.shown, nullptr);
+    tracker.addDrawables(&sink);
+    EXPECT_EQ(sink.shown, reference.get());
+    EXPECT_EQ(tracker.removeDrawables(&sink, 0, 0, 0, 0), 1);
 }
 
 TEST_F(Tracker, HoldsTheReferenceForItsLife) {

@@ -2,6 +2,7 @@
 // attach services for the tests that want them.
 #pragma once
 
+#include "host/attach_files.h"
 #include "host/attach_services.h"
 #include "sdk/db/block_reference.h"
 #include "sdk/db/block_table.h"
@@ -32,8 +33,22 @@ public:
     }
     IParam* settings() override { return Ref<IParam>(store).detach(); }
     void report(HostCommandIO*, const wchar_t* text) override { reported << hostqt::qString(text); }
+    void refuse(const wchar_t* text) override { refused << hostqt::qString(text); }
+    bool numbersTakenNames() override { return numbers; }
     Ref<IParam> store = Ref<IParam>::take(new_MemParam());
-    QStringList reported;
+    QStringList reported, refused;
+    bool numbers = true;
+};
+
+// Asks for files in place of the dialogs, or leaves them to the command.
+class TestAttachFiles : public CKWUnknownImpl<IAttachFiles> {
+public:
+    bool askForFiles(std::vector<OdString>& files) override {
+        files = chosen;
+        return asks;
+    }
+    std::vector<OdString> chosen;
+    bool asks = true;
 };
 
 class XRefTest : public testing::Test {

@@ -52,7 +52,7 @@ public:
     int getPoint(const OdGePoint3d* base, OdGePoint3d* point, const wchar_t* prompt, const wchar_t* keywords,
                  int flags, OdString* text, HostEdPointTracker* tracker) override {
         const Answer answer = ask("getPoint", base, prompt, keywords, flags, tracker);
-        if (answer.code == kInputPicked)
+        if (answer.code == kInputPicked || answer.leavesValue)
             *point = answer.point;
         return give(answer, text);
     }

@@ -38,5 +38,7 @@ void addVariableCommands(const CommandScope& scope); // SETVAR, and each variabl
 
 // A command that needs a drawing; without one it only says so.
 std::function<void()> withDrawing(const CommandScope& scope, void (*command)(const CommandScope&));
+// Of the current drawing; empty while that was never saved.
+QString folderOfCurrent(const standin::DocumentManager& documents);
 
 } // namespace workbench

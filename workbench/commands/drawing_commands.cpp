@@ -21,11 +21,6 @@ namespace {
 
 QString tr(const char* text) { return QCoreApplication::translate("DrawingCommands", text); }
 
-QString folderOfCurrent(const DocumentManager& documents) {
-    const Document* current = documents.currentOne();
-    return current && !current->path().isEmpty() ? QFileInfo(current->path()).absolutePath() : QString();
-}
-
 // A drawing that is open already is brought to the front.
 void openDrawing(const CommandScope& scope) {
     const auto path = scope.files.fileToOpen(folderOfCurrent(scope.documents));
@@ -90,6 +85,11 @@ bool write(DocumentManager& documents, Document& document, const QString& path, 
 }
 
 } // namespace
+
+QString folderOfCurrent(const DocumentManager& documents) {
+    const Document* current = documents.currentOne();
+    return current && !current->path().isEmpty() ? QFileInfo(current->path()).absolutePath() : QString();
+}
 
 bool saveDrawing(DocumentManager& documents, Document& document, const FileQuestions& files) {
     if (document.path().isEmpty())

@@ -82,6 +82,19 @@ std::optional<QString> FileQuestions::fileToOpen(const QString& folder) const {
     return chosen.isEmpty() ? std::nullopt : std::optional<QString>(absolutePath(chosen));
 }
 
+std::optional<QStringList> FileQuestions::filesToAttach(const QString& folder) const {
+    if (!asksOnConsole())
+        return std::nullopt;
+    const auto typed =
+        typedName(tr("Enter names of drawings to attach, with ; between them, or ~ for the dialogs:"));
+    if (typed && typed->trimmed() == QLatin1String("~"))
+        return std::nullopt;
+    QStringList files;
+    for (const QString& name : typed.value_or(QString()).split(QLatin1Char(';'), Qt::SkipEmptyParts))
+        files << existingPath(name, folder);
+    return files;
+}
+
 std::optional<QString> FileQuestions::fileToSave(const QString& suggested, const QString& own) const {
     if (!asksOnConsole()) {
         const QString chosen = QFileDialog::getSaveFileName(host_qt_ui_core::parentForDialog(),

@@ -23,6 +23,9 @@ public:
     // `suggested` is what Enter takes. A file that exists is only given back when it may be replaced; the one
     // named `own` may be.
     std::optional<QString> fileToSave(const QString& suggested, const QString& own) const;
+    // Drawings to attach, as they are typed on the console, none when the user gives up; nothing when dialogs
+    // are to ask. A typed ~ calls for the dialogs, too.
+    std::optional<QStringList> filesToAttach(const QString& folder) const;
     Unsaved whatOfChanges(const QString& drawing) const;
     // Asks before the work of another program is written over.
     bool mayOverwriteChanged(const QString& path) const;

@@ -1,6 +1,7 @@
 // Runs the plug-in's attach command, lists the references of the drawing and reads them anew.
 #include "workbench/commands/xref_commands.h"
 
+#include "host/attach_files.h"
 #include "host/text.h"
 #include "sdk/db/block_table.h"
 #include "sdk/db/xref_man.h"
@@ -9,6 +10,7 @@
 #include "standin/documents/document_manager.h"
 #include "workbench/canvas/canvas.h"
 #include "workbench/commands/commands.h"
+#include "workbench/commands/file_questions.h"
 #include "workbench/module_loader.h"
 
 #include <QCoreApplication>
@@ -112,7 +114,27 @@ void printMissing(Console& console, const OdDbDatabasePtr& drawing) {
                                    statusText(*reference)));
 }
 
+class AttachFiles : public CKWUnknownImpl<IAttachFiles> {
+public:
+    AttachFiles(const DocumentManager& openDocuments, const FileQuestions& questions)
+        : documents(openDocuments), ask(questions) {}
+    bool askForFiles(std::vector<OdString>& files) override {
+        const auto typed = ask.filesToAttach(folderOfCurrent(documents));
+        for (const QString& file : typed.value_or(QStringList()))
+            files.push_back(odString(file));
+        return typed.has_value();
+    }
+
+private:
+    const DocumentManager& documents;
+    const FileQuestions& ask;
+};
+
 } // namespace
+
+Ref<IKWUnknown> attachFilesFor(const CommandScope& scope) {
+    return Ref<IKWUnknown>::share(new AttachFiles(scope.documents, scope.files));
+}
 
 void addXrefCommands(const CommandScope& scope, const LoadedModule& module) {
     scope.loop.add({"XATTACH", tr("Attaches drawings as external references."),

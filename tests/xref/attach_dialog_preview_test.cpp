@@ -1,0 +1,105 @@
+// The preview of the attach dialog.
+#include "sdk/db/thumbnail.h"
+#include "tests/xref/attach_dialog_fixture.h"
+
+#include <QBuffer>
+#include <QImage>
+
+namespace {
+
+void giveItAPreview(OdDbDatabase& drawing) {
+    OdThumbnailImage image;
+    // A bitmap of 2 by 1 pixels with 24 bits: a red one and a blue one.
+    image.bmp =
+        std::string("\x28\0\0\0\2\0\0\0\1\0\0\0\1\0\x18\0\0\0\0\0\x08\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"
+                    "\0\0\xff\xff\0\0\0\0",
+                    48);
+    odDbPutPreviewBitmap(&drawing, image);
+}
+
+} // namespace
+
+TEST_F(AttachDialog, SeveralFilesShowNoPreviewAndNotTheirNames) {
+    for (const char* file : {"a.dxf", "b.dxf"}) {
+        const OdDbDatabasePtr part = smallDrawing();
+        giveItAPreview(*part);
+        part->writeFile(odPath(file));
+    }
+    open(inFolder("a.dxf"));
+    EXPECT_FALSE(control<QLabel>("previewLabel")->pixmap(Qt::ReturnByValue).isNull());
+    open(inFolder("a.dxf") + ";" + inFolder("b.dxf"));
+    EXPECT_TRUE(control<QLabel>("previewLabel")->pixmap(Qt::ReturnByValue).isNull());
+    EXPECT_EQ(text("foundInEdit"), "Varies");
+}
+
+TEST_F(AttachDialog, PreviewOfAFormerNameGoesWithIt) {
+    const OdDbDatabasePtr part = smallDrawing();
+    giveItAPreview(*part);
+    part->writeFile(odPath("part.dxf"));
+    define("other", write("other.dxf"));
+    open(inFolder("part.dxf"));
+    ASSERT_FALSE(control<QLabel>("previewLabel")->pixmap(Qt::ReturnByValue).isNull());
+    choose("nameCombo", 0);
+    EXPECT_EQ(dialog->name, "other");
+    EXPECT_TRUE(control<QLabel>("previewLabel")->pixmap(Qt::ReturnByValue).isNull());
+}
+
+TEST_F(AttachDialog, PreviewOfTheFileIsShown) {
+    const OdDbDatabasePtr part = smallDrawing();
+    giveItAPreview(*part);
+    part->writeFile(odPath("part.dxf"));
+    const QImage read = loadPreviewImage(inFolder("part.dxf"));
+    ASSERT_EQ(read.size(), QSize(2, 1));
+    EXPECT_EQ(read.pixelColor(0, 0), QColor(255, 0, 0));
+    open(inFolder("part.dxf"));
+    EXPECT_EQ(control<QLabel>("previewLabel")->pixmap(Qt::ReturnByValue).size(), QSize(200, 100));
+}
+
+TEST_F(AttachDialog, FileWithoutAPreviewShowsNone) {
+    EXPECT_TRUE(loadPreviewImage(write("part.dxf")).isNull());
+    EXPECT_TRUE(loadPreviewImage(inFolder("gone.dxf")).isNull());
+    EXPECT_TRUE(loadPreviewImage(folder.path()).isNull());
+}
+
+TEST_F(AttachDialog, DamagedPreviewIsToldWithThePathAndTheDialogOpens) {
+    provideServices();
+    const QString path = writeBytes(
+        "part.dxf", "  0\nSECTION\n  2\nTHUMBNAILIMAGE\n 90\n4\n310\nDEADBEEF\n  0\nENDSEC\n  0\nEOF\n");
+    open(path);
+    EXPECT_TRUE(dialog->initialized);
+    EXPECT_EQ(services->reported,
+              QStringList(QStringLiteral("The preview of \"%1\" cannot be shown.").arg(path)));
+    EXPECT_TRUE(host.notices().empty());
+}
+
+namespace {
+
+std::string largePng(int width, int height) {
+    QImage image(width, height, QImage::Format_Mono);
+    image.fill(0);
+    QBuffer buffer;
+    image.save(&buffer, "PNG");
+    return buffer.data().toStdString();
+}
+
+} // namespace
+
+TEST_F(AttachDialog, APreviewThatClaimsToBeHugeIsNotBelieved) {
+    provideServices();
+    const OdDbDatabasePtr part = smallDrawing();
+    OdThumbnailImage image;
+    image.bmp = largePng(30000, 64);
+    odDbPutPreviewBitmap(part.get(), image);
+    part->writeFile(odPath("part.dxf"));
+    EXPECT_TRUE(loadPreviewImage(inFolder("part.dxf")).isNull());
+    EXPECT_EQ(services->reported.size(), 1) << "it is told that the preview can't be shown";
+}
+
+TEST_F(AttachDialog, ALargePreviewIsScaledWhileItIsRead) {
+    const OdDbDatabasePtr part = smallDrawing();
+    OdThumbnailImage image;
+    image.bmp = largePng(16384, 4096);
+    odDbPutPreviewBitmap(part.get(), image);
+    part->writeFile(odPath("part.dxf"));
+    EXPECT_EQ(loadPreviewImage(inFolder("part.dxf")).size(), QSize(1024, 256));
+}
