@@ -5,7 +5,7 @@
 #include "dwgprops/db_text.h"
 #include "dwgprops/elided_label.h"
 #include "dwgprops/start_line_edit.h"
-#include "host/text.h"
+#include "host/tool_tip.h"
 
 #include <QCheckBox>
 #include <QFileIconProvider>
@@ -62,7 +62,7 @@ void GeneralTab::addName(QGridLayout& grid, const QFileInfo& fileInfo) {
     auto* const nameEdit = new m_LineEdit(fileInfo.fileName(), this);
     nameEdit->setObjectName(QStringLiteral("nameEdit"));
     nameEdit->setReadOnly(true);
-    nameEdit->setToolTip(plainToolTip(fileInfo.fileName()));
+    nameEdit->setToolTip(hostqt::plainToolTip(fileInfo.fileName()));
     grid.addWidget(iconLabel, 0, 0);
     grid.addWidget(nameEdit, 0, 1);
 }
@@ -85,7 +85,7 @@ void GeneralTab::addFileFacts(QGridLayout& grid, const QFileInfo& fileInfo) {
     const QString location = fileInfo.canonicalPath();
     auto* const locationLabel = new ElidedLabel(location, this);
     locationLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    locationLabel->setToolTip(plainToolTip(location));
+    locationLabel->setToolTip(hostqt::plainToolTip(location));
     addRow(grid, 2, tr("Location:"), locationLabel, "locationLabel");
     addRow(grid, 3, tr("Size:"), new QLabel(formatFileSize(fileInfo.size()), this), "sizeLabel");
 }

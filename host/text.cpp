@@ -57,9 +57,4 @@ OdString odStringFromWidget(const QString& text) {
 
 } // namespace hostqt
 
-// Markup that is shown is markup itself, so the whole text becomes it.
-QString plainToolTip(const QString& text) {
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
-}
-
 QString translated(const CXStringW& text) { return hostqt::qString(Supp_Translate(text.c_str())); }

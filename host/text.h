@@ -23,8 +23,5 @@ OdString odStringFromWidget(const QString& text);
 
 } // namespace hostqt
 
-// A name as a tool tip: what looks like markup in it is shown and not obeyed. Any other text is itself.
-QString plainToolTip(const QString& text);
-
 // The host's translation of a text of the option data; a null translation gives the empty text.
 QString translated(const CXStringW& text);

@@ -103,7 +103,8 @@ Workbench::~Workbench() {
 
 void Workbench::provideServices() {
     help = Ref<HelpService>::share(new HelpService(launch.dataDir + QStringLiteral("/help")));
-    events = Ref<Events>::share(new Events([this](const QString& text) { io.print(text); }));
+    events = Ref<Events>::share(new Events([this](const QString& text) { io.print(text); },
+                                           [this] { return !launch.headless && !scriptPlays; }));
     registry().help = help.get();
     registry().events = events.get();
     if (auto* host = qobject_cast<HostApplication*>(QCoreApplication::instance()))

@@ -37,7 +37,6 @@ void tellAttachFailure(HostCommandIO* io, const OdString& path, const OdError& e
 
 void tellUnknownAttachFailure(HostCommandIO* io, const OdString& what) {
     reportToConsole(io, attach::word(L"XattachCmd Exception "));
-    reportToConsole(io, what);
     attach::refuse(what);
 }
 
@@ -45,6 +44,5 @@ void tellCircle(HostCommandIO* io, const OdString& path) {
     const OdString message = attach::word(L"Error: Possible circular reference to current drawing.");
     if (io)
         io->printFormatted(message.c_str());
-    reportToConsole(io, path);
     attach::refuse(besides(path, message));
 }

@@ -10,7 +10,8 @@ namespace standin {
 
 using host_qt_ui_core::QHostMessageBox;
 
-Events::Events(std::function<void(const QString& text)> printOnConsole) : print(std::move(printOnConsole)) {}
+Events::Events(std::function<void(const QString& text)> printOnConsole, std::function<bool()> boxes)
+    : print(std::move(printOnConsole)), showsBoxes(std::move(boxes)) {}
 
 int Events::notify(int kind, const wchar_t* text, int, int) {
     const QString message = hostqt::qString(text);
@@ -19,7 +20,8 @@ int Events::notify(int kind, const wchar_t* text, int, int) {
     if (kind == kQuestion)
         return QHostMessageBox::question(message, EV_MB_YES | EV_MB_NO) == EV_MB_YES ? kAnswerOk
                                                                                      : kAnswerCancel;
-    QHostMessageBox::critical(QCoreApplication::applicationName(), message, EV_MB_OK);
+    if (showsBoxes())
+        QHostMessageBox::critical(QCoreApplication::applicationName(), message, EV_MB_OK);
     return kAnswerOk;
 }
 

@@ -5,13 +5,12 @@
 #include "host/command_io.h"
 #include "host/dir_list.h"
 #include "host/documents.h"
-#include "host/qt_ui_core.h"
+#include "host/help.h"
 #include "host/std_dirs.h"
 #include "host/text.h"
 #include "host/typed_reads.h"
 #include "sdk/db/database.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace standin {
@@ -33,8 +32,8 @@ void AttachServices::report(HostCommandIO* io, const wchar_t* text) {
 }
 
 void AttachServices::refuse(const wchar_t* text) {
-    host_qt_ui_core::QHostMessageBox::critical(QCoreApplication::applicationName(), hostqt::qString(text),
-                                               EV_MB_OK);
+    if (const Ref<IEvents> events = Ref<IEvents>::take(Get_IEvents()))
+        events->notify(0, text, 0, 7);
 }
 
 QStringList referenceFolders() {

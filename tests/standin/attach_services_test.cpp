@@ -10,7 +10,9 @@
 #include "sdk/db/xref_man.h"
 #include "standin/console/console.h"
 #include "standin/documents/document_manager.h"
+#include "standin/events/events.h"
 #include "standin/params/application.h"
+#include "standin/registry.h"
 
 #include <QDir>
 #include <QFile>
@@ -81,6 +83,18 @@ TEST_F(AttachServicesTest, TextsArePrintedWithoutADocumentToo) {
     services()->report(nullptr, L"nobody");
     EXPECT_EQ(console.transcript(), QStringList("100%s"));
     EXPECT_EQ(other.transcript(), QStringList("nobody"));
+}
+
+TEST_F(AttachServicesTest, RefusalsGoThroughTheEventsAndAreLostWithoutThem) {
+    EXPECT_NO_THROW(services()->refuse(L"nobody"));
+    QStringList printed;
+    const auto events =
+        Ref<Events>::share(new Events([&](const QString& text) { printed << text; }, [] { return false; }));
+    registry().events = events.get();
+    services()->refuse(L"100%s: no");
+    registry().events = nullptr;
+    EXPECT_EQ(printed, QStringList("100%s: no"));
+    EXPECT_TRUE(services()->numbersTakenNames());
 }
 
 TEST_F(AttachServicesTest, TextsAreLostWithoutAConsole) {

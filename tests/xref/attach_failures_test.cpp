@@ -85,7 +85,6 @@ TEST_F(AttachFailures, DrawingsOwnBaseNameIsToldToTheServicesWithThePath) {
     const QString path = write("other/site.dxf");
     expectRefusal(path, {});
     EXPECT_EQ(io.formatted, QStringList("Error: Possible circular reference to current drawing."));
-    EXPECT_EQ(services->reported, QStringList(path));
     EXPECT_EQ(services->refused,
               QStringList(path + ": Error: Possible circular reference to current drawing."));
 }
@@ -166,7 +165,7 @@ TEST_F(AttachFailures, DrawingThatAttachesTheCurrentOneAtAnyDepthIsToldToTheServ
     const QString path = writeReferring("part.dxf", {"middle.dxf"});
     expectRefusal(path, {});
     const QString reason = path + ": Object refers to itself";
-    EXPECT_EQ(services->reported, QStringList({"XattachCmd Exception ", reason}));
+    EXPECT_EQ(services->reported, QStringList("XattachCmd Exception "));
     EXPECT_EQ(services->refused, QStringList(reason));
 }
 
@@ -252,7 +251,7 @@ TEST_P(FailureCodes, AreToldWithThePathToTheServices) {
     provideServices();
     tellAttachFailure(&io, L"/x/100%s.dxf", OdError(GetParam().code));
     EXPECT_EQ(services->reported.contains("XattachCmd Exception "), GetParam().message.isEmpty());
-    EXPECT_TRUE(services->reported.last().startsWith("/x/100%s.dxf: "));
+    EXPECT_TRUE((services->reported + services->refused).last().startsWith("/x/100%s.dxf: "));
     const bool showsABoxItself = !GetParam().message.isEmpty();
     EXPECT_EQ(services->refused,
               showsABoxItself ? QStringList() : QStringList("/x/100%s.dxf: Key not found"));
@@ -275,7 +274,8 @@ TEST_F(AttachFailures, ExceptionOfAnotherKindEndsLikeAnyOtherCode) {
     io.onQuestion = [](const XRefIO::Question&, HostEdPointTracker*) { throw std::runtime_error("broken"); };
     EXPECT_FALSE(attachReference(hostqt::odString(write("part.dxf")), {}, OdGeScale3d(1), false, false, true,
                                  false, false, 0, false, 0));
-    EXPECT_EQ(services->reported, QStringList({"XattachCmd Exception ", inFolder("part.dxf")}));
+    EXPECT_EQ(services->reported, QStringList("XattachCmd Exception "));
+    EXPECT_EQ(services->refused, QStringList(inFolder("part.dxf")));
 }
 
 TEST_F(AttachFailures, WithoutADocumentTheConsoleIsTheManagersOwn) {
