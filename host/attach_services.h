@@ -16,8 +16,8 @@ public:
     virtual IParam* settings() = 0;
     // A text of the attach command that no message box shows, already translated. `io` may be null.
     virtual void report(HostCommandIO* io, const wchar_t* text) = 0;
-    // Why a file can't be attached, with its path, where the command shows nothing by itself: for a box and the
-    // console.
+    // Why a file can't be attached, with its path, where the command shows nothing by itself: for a box and
+    // the console.
     virtual void refuse(const wchar_t* text) = 0;
     // Whether a file chosen with Browse whose name a plain block has gets a number behind it. If not, the
     // dialog takes the plain block for the file's.
