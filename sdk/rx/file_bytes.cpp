@@ -1,6 +1,8 @@
 // All reading and writing of files goes through here, so that no other code can leave half a file behind.
 #include "sdk/rx/file_bytes.h"
 
+#include "sdk/rx/write_all.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -65,9 +67,10 @@ void odWriteFile(const OdString& path, const std::vector<std::string_view>& piec
     QSaveFile file(QString::fromStdWString(path.wide()));
     bool good = file.open(QIODevice::WriteOnly);
     for (const std::string_view piece : pieces)
-        good = good && file.write(piece.data(), static_cast<qint64>(piece.size())) ==
-                           static_cast<qint64>(piece.size());
+        good = good && odWriteAll(file, piece);
     good = good && file.flush();
-    if (!good || !file.commit())
+    if (!good)
+        throw OdError(eFileWriteError, messageFor(path, odWriteFailure(file)));
+    if (!file.commit())
         throw OdError(eFileWriteError, messageFor(path, file.errorString()));
 }

@@ -70,8 +70,14 @@ Document* DocumentManager::openCopy(const QString& path, const QString& title) {
 
 void DocumentManager::write(Document* document, OdDbDatabase& drawing, const QString& path) {
     emit beforeSave(document, path);
-    emit beforeWrite(document, &drawing);
-    drawing.writeFile(hostqt::odString(path));
+    try {
+        emit beforeWrite(document, &drawing);
+        drawing.writeFile(hostqt::odString(path));
+    } catch (...) {
+        emit afterSave(false);
+        throw;
+    }
+    emit afterSave(true);
 }
 
 void DocumentManager::save(Document* document, const QString& path) {

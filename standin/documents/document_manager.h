@@ -44,7 +44,8 @@ signals:
     void beforeSave(standin::Document* document, const QString& path);
     // After that. `drawing` is what is written: the document's, or the one that takes its place.
     void beforeWrite(standin::Document* document, OdDbDatabase* drawing);
-    void documentRenamed(); // it was saved under another name
+    void afterSave(bool saved); // false: the file is as it was before
+    void documentRenamed();     // it was saved under another name
     void documentClosed(const QString& title);
 
 private:

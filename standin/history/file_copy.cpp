@@ -1,6 +1,8 @@
 // The copy is written beside its name and moved there at the end.
 #include "standin/history/file_copy.h"
 
+#include "sdk/rx/write_all.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
@@ -20,8 +22,8 @@ bool pour(QFile& from, QSaveFile& to, QString& reason) {
             reason = from.errorString();
             return false;
         }
-        if (to.write(bytes) != bytes.size()) {
-            reason = to.errorString();
+        if (!odWriteAll(to, {bytes.constData(), static_cast<std::size_t>(bytes.size())})) {
+            reason = odWriteFailure(to);
             return false;
         }
     }

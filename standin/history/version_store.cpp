@@ -135,35 +135,57 @@ void VersionStore::removeFiles(const QStringList& files) const {
     }
 }
 
-// The name of the version; empty when there is none, which is told.
-QString VersionStore::copyOf(const QString& drawing) const {
+// Nothing when there is no version, which is told.
+std::optional<KeptVersion> VersionStore::copyOf(const QString& drawing) const {
     const std::vector<FileVersion> versions = versionsOf(drawing);
     if (!versions.empty() && isSameFile(versions.back().file, drawing))
-        return QFileInfo(versions.back().file).fileName();
+        return KeptVersion{drawing, QFileInfo(versions.back().file).fileName(), false,
+                           versions.back().reason};
     const QDir folder(folderOf(drawing));
     const QString name = newName(folder, drawing);
     QString problem;
     if (copyWhole(io, drawing, folder.filePath(name), problem))
-        return name;
+        return KeptVersion{drawing, name, true, {}};
     io.report(
         tr("The former version of %1 could not be kept: %2").arg(QDir::toNativeSeparators(drawing), problem));
-    return {};
+    return std::nullopt;
 }
 
-bool VersionStore::keep(const QString& drawing, const QString& reason, int maximum) {
-    if (maximum < 1 || !QFileInfo(drawing).isFile())
-        return true;
+std::optional<KeptVersion> VersionStore::add(const QString& drawing, const QString& reason) {
+    if (!QFileInfo(drawing).isFile())
+        return std::nullopt;
     tellIfVanished(drawing);
-    const QString name = copyOf(drawing);
-    if (name.isEmpty())
-        return false;
-    note(drawing, name, reason);
+    const auto kept = copyOf(drawing);
+    if (kept)
+        note(drawing, kept->name, reason);
+    index->flush(); // tells of a failure itself; the version stays, without its reason
+    return kept;
+}
+
+// The files go last, so that the index never names one that is gone, whenever the process ends.
+void VersionStore::settle(const QString& drawing, int maximum) {
     const QStringList surplus = forgetOldest(drawing, maximum);
-    // Tells of a failure itself; the version stays, without its reason. The files go last, so that the index
-    // never names one that is gone, whenever the process ends.
     if (index->flush())
         removeFiles(surplus);
-    return true;
+}
+
+void VersionStore::takeBack(const KeptVersion& kept) {
+    if (!kept.isNew)
+        note(kept.drawing, kept.name, kept.formerReason);
+    else
+        forget(kept);
+}
+
+void VersionStore::forget(const KeptVersion& kept) {
+    const std::string folder = folderName(kept.drawing).toStdString();
+    const QDir files(folderOf(kept.drawing));
+    openChild(index.get(), folder.c_str(), 1)->removeEntry(kept.name.toUtf8().constData());
+    if (index->flush())
+        QFile::remove(files.filePath(kept.name));
+    if (versionsOf(kept.drawing).empty()) {
+        index->removeEntry(folder.c_str());
+        QDir().rmdir(files.path());
+    }
 }
 
 } // namespace standin

@@ -11,6 +11,7 @@
 #include <QLockFile>
 #include <QTimer>
 #include <algorithm>
+#include <cerrno>
 
 namespace standin {
 
@@ -166,7 +167,7 @@ bool FileStore::write(QString& reason) {
     if (bytes == base)
         return true; // everything was set to what it was
     if (!QDir().mkpath(QFileInfo(files.user).path())) {
-        reason = tr("its folder cannot be made");
+        reason = tr("its folder cannot be made: %1").arg(qt_error_string(errno));
         return false;
     }
     const QString lockFile = files.user + QStringLiteral(".lock");

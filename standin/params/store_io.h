@@ -21,7 +21,7 @@ struct StoreIo {
     void report(const QString& text) const;
 };
 
-// A failure says why in `reason`.
+// A failure says why in `reason`. Only regular files of up to 16 MB are read: nothing is waited for.
 std::optional<QByteArray> readWhole(const QString& path, QString& reason);
 bool writeWhole(const StoreIo& io, const QString& path, const QByteArray& bytes, QString& reason);
 // Keeps a copy as "<path>.<kind>-<n>" with the first free n, unless one of them has the same content. The

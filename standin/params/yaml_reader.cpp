@@ -4,6 +4,8 @@
 #include "standin/params/yaml_tree.h"
 
 #include <QString>
+#include <cstring>
+#include <cwchar>
 #include <map>
 #include <sstream>
 #include <yaml-cpp/eventhandler.h>
@@ -15,6 +17,7 @@ namespace {
 
 const std::size_t deepestLevel = 256;
 const int mostEntriesFromAliases = 100000;
+const std::size_t mostBytesFromAliases = 16 << 20;
 const std::size_t mostFaults = 100;
 
 YamlProblem problemAt(const std::string& file, const YAML::Mark& mark, const std::string& reason) {
@@ -26,6 +29,21 @@ int entriesIn(const Section& section) {
     for (const auto& entry : section.children())
         count += 1 + entriesIn(entry.value->section());
     return count;
+}
+
+std::size_t bytesOf(const CKWVariant& value) {
+    if (value.vt == kVtString)
+        return sizeof value + std::strlen(value.text);
+    return sizeof value + (value.vt == kVtWideString ? sizeof(wchar_t) * std::wcslen(value.wideText) : 0);
+}
+
+std::size_t bytesIn(const Section& section) {
+    std::size_t bytes = sizeof section;
+    for (const auto& entry : section.values())
+        bytes += entry.name.size() + bytesOf(entry.value);
+    for (const auto& entry : section.children())
+        bytes += entry.name.size() + bytesIn(entry.value->section());
+    return bytes;
 }
 
 std::string shownName(const std::string& name) {
@@ -76,6 +94,7 @@ private:
     void store(const YAML::Mark& mark, const CKWVariant& value);
     void openSectionFor(const YAML::Mark& mark, YAML::anchor_t anchor);
     void copySection(const YAML::Mark& mark, MemParam& source);
+    void count(const YAML::Mark& mark, int entries, std::size_t bytes);
     bool isOpen(const MemParam* section) const;
     void checkDepth(const YAML::Mark& mark) const;
 
@@ -84,7 +103,8 @@ private:
     std::vector<Frame> open;
     std::map<YAML::anchor_t, Anchored> anchors;
     int skipped = 0; // collections open inside one that is passed over, that one included
-    int copied = 0;
+    int copied = 0;  // entries, by aliases, as are the bytes
+    std::size_t copiedBytes = 0;
     YAML::Mark listMark;
 };
 
@@ -244,14 +264,22 @@ bool TreeBuilder::isOpen(const MemParam* section) const {
                        [section](const Frame& frame) { return frame.section.get() == section; });
 }
 
+// A short text may stand for any number of entries, and a few entries for any number of bytes.
+void TreeBuilder::count(const YAML::Mark& mark, int entries, std::size_t bytes) {
+    copied += entries;
+    copiedBytes += bytes;
+    if (copied > mostEntriesFromAliases)
+        throw YAML::ParserException(mark, "the aliases stand for more than 100000 entries");
+    if (copiedBytes > mostBytesFromAliases)
+        throw YAML::ParserException(mark, "the aliases stand for more than 16 MB");
+}
+
 void TreeBuilder::copySection(const YAML::Mark& mark, MemParam& source) {
     if (isOpen(&source)) {
         fault(mark, "the section " + shownName(takeName()) + " would hold itself");
         return;
     }
-    copied += 1 + entriesIn(source.section());
-    if (copied > mostEntriesFromAliases)
-        throw YAML::ParserException(mark, "the aliases stand for more than 100000 entries");
+    count(mark, 1 + entriesIn(source.section()), bytesIn(source.section()));
     openSectionFor(mark, 0);
     open.back().section->section().copyFrom(source.section());
     open.pop_back();
@@ -274,6 +302,7 @@ void TreeBuilder::OnAlias(const YAML::Mark& mark, YAML::anchor_t anchor) {
     } else if (found->second.section) {
         copySection(mark, *found->second.section);
     } else {
+        count(mark, 1, bytesOf(found->second.value));
         store(mark, found->second.value);
     }
 }

@@ -8,16 +8,26 @@ namespace standin {
 
 namespace {
 
+// An empty text is a value, too.
+bool readText(IParam* section, const char* key, OdString& text) {
+    CKWVariant value;
+    value.vt = kVtWideString;
+    if (!section->getValue(key, &value) || value.vt != kVtWideString)
+        return false;
+    text = static_cast<wchar_t*>(value);
+    return true;
+}
+
 OdResBufPtr storedValue(const SysVarDef& definition, IParam* section) {
     const QByteArray key = definition.name.toLatin1();
     OdResBufPtr result = OdResBuf::newRb(resBufType(definition.type));
     int whole = 0;
     double real = 0;
-    CXStringW text;
+    OdString text;
     if (definition.type == VarType::Real && readValue(section, key, &real))
         result->setDouble(real);
-    else if (definition.type == VarType::Text && readValue(section, key, &text))
-        result->setString(hostqt::odString(text));
+    else if (definition.type == VarType::Text && readText(section, key, text))
+        result->setString(text);
     else if (definition.type != VarType::Real && isNumber(definition.type) && readValue(section, key, &whole))
         result->setInt32(whole);
     else
@@ -37,14 +47,7 @@ VarService::~VarService() {
         odDbSetApplicationVariables(nullptr);
 }
 
-void VarService::keepIn(Ref<IParam> section) {
-    profileSection = std::move(section);
-    applicationValues.clear();
-    for (const SysVarDef& definition : variables.all())
-        if (definition.scope == VarScope::Application && !definition.readOnly)
-            if (const OdResBufPtr value = storedValue(definition, profileSection.get()))
-                applicationValues[definition.name] = value;
-}
+void VarService::keepIn(Ref<IParam> section) { profileSection = std::move(section); }
 
 std::map<QString, OdResBufPtr>* VarService::valuesFor(const SysVarDef& definition, DrawingVars* drawing) {
     if (definition.scope == VarScope::Application)
@@ -56,8 +59,16 @@ OdResBufPtr VarService::valueIn(const SysVarDef& definition, DrawingVars* drawin
     const auto* values = valuesFor(definition, drawing);
     if (!values)
         return {};
+    if (const OdResBufPtr kept = keptValue(definition); !kept.isNull())
+        return kept;
     const auto set = values->find(definition.name);
     return (set == values->end() ? definition.defaultValue : set->second)->clone();
+}
+
+// Read anew each time: another workbench may have set it, whose value the profile has taken in since.
+OdResBufPtr VarService::keptValue(const SysVarDef& definition) const {
+    const bool isKept = profileSection && definition.scope == VarScope::Application && !definition.readOnly;
+    return isKept ? storedValue(definition, profileSection.get()) : OdResBufPtr();
 }
 
 int VarService::getVar(const OdString& name, OdResBufPtr* out, OdRxObject* context, int) {
@@ -95,8 +106,14 @@ void VarService::store(const SysVarDef& definition, const OdResBufPtr& value, Dr
     keep(definition, *value);
 }
 
+// What is set to the value that it has is no change, so that it never gives way to, or stands against, what
+// another workbench has changed.
 void VarService::keep(const SysVarDef& definition, const OdResBuf& value) {
     if (!profileSection || definition.scope == VarScope::Drawing)
+        return;
+    const OdResBufPtr kept = keptValue(definition);
+    if (valueText(definition, value) ==
+        valueText(definition, kept.isNull() ? *definition.defaultValue : *kept))
         return;
     CKWVariant variant;
     if (definition.type == VarType::Text)

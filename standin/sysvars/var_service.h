@@ -30,7 +30,8 @@ public:
     // Serves the drawings too for what they don't hold by themselves, as long as it lives.
     VarService(SysVarTable variableTable, DrawingVarsLookup drawingVars);
     ~VarService() override;
-    // The section that application variables live in; their values are read from it at once.
+    // The section that application variables live in: what stands there counts, also what another process
+    // has written there meanwhile.
     void keepIn(Ref<IParam> section);
 
     // kVarOk with the value, or kVarUnavailable.
@@ -52,12 +53,13 @@ public:
 private:
     std::map<QString, OdResBufPtr>* valuesFor(const SysVarDef& definition, DrawingVars* drawing);
     OdResBufPtr valueIn(const SysVarDef& definition, DrawingVars* drawing);
+    OdResBufPtr keptValue(const SysVarDef& definition) const; // null when the profile holds none
     void store(const SysVarDef& definition, const OdResBufPtr& value, DrawingVars* drawing);
     void keep(const SysVarDef& definition, const OdResBuf& value);
 
     SysVarTable variables;
     DrawingVarsLookup drawingVarsOf;
-    std::map<QString, OdResBufPtr> applicationValues;
+    std::map<QString, OdResBufPtr> applicationValues; // serve without a section
     Ref<IParam> profileSection;
     Ref<IParam> openTree;
 };

@@ -2,6 +2,10 @@
 #include "tests/standin/file_store_fixture.h"
 #include "tests/support/poll.h"
 
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
 namespace {
 
 TEST_F(FileStoreTest, TheShippedDefaultServesUntilTheUserHasAFile) {
@@ -146,6 +150,66 @@ TEST_F(FileStoreTest, AMissingShippedFileIsTold) {
     EXPECT_EQ(start()->value("A"), -1);
     ASSERT_EQ(problems.size(), 1);
     EXPECT_TRUE(problems[0].contains(QStringLiteral("shipped.yaml")));
+}
+
+TEST_F(FileStoreTest, WhatIsNoRegularFileIsToldAndNeverWaitedFor) {
+    QDir().mkpath(path("root"));
+    const QByteArray name = QFile::encodeName(files.user);
+    ASSERT_EQ(mkfifo(name.constData(), 0600), 0);
+    EXPECT_EQ(start()->value("A"), 1) << "the shipped default serves";
+    ASSERT_EQ(problems.size(), 1);
+    EXPECT_TRUE(problems[0].endsWith("user.yaml cannot be read: it is no regular file"))
+        << problems[0].toStdString();
+    ASSERT_TRUE(QFile::remove(files.user));
+    ASSERT_TRUE(QFile::link("/dev/zero", files.user));
+    EXPECT_EQ(start()->value("A"), 1);
+    EXPECT_TRUE(problems.last().endsWith("cannot be read: it is no regular file"))
+        << problems.last().toStdString();
+    ASSERT_TRUE(QFile::remove(files.user));
+    ASSERT_TRUE(QDir().mkdir(files.user));
+    EXPECT_EQ(start()->value("A"), 1);
+    EXPECT_TRUE(problems.last().endsWith("cannot be read: it is a folder")) << problems.last().toStdString();
+    start()->set("A", 3);
+    EXPECT_TRUE(problems.last().contains("could not be written: it is a folder"))
+        << problems.last().toStdString();
+}
+
+TEST_F(FileStoreTest, AFileOfGigabytesIsToldAndNotRead) {
+    writeUser("A: 7\n");
+    ASSERT_TRUE(QFile::resize(files.user, qint64(1) << 33));
+    EXPECT_EQ(start()->value("A"), 1);
+    ASSERT_EQ(problems.size(), 1);
+    EXPECT_TRUE(problems[0].endsWith("cannot be read: it is larger than 16 MB")) << problems[0].toStdString();
+}
+
+TEST_F(FileStoreTest, AFolderThatCannotBeMadeIsToldWithTheReason) {
+    writeText(path("root"), "in the way");
+    start()->set("A", 3);
+    ASSERT_GE(problems.size(), 1);
+    EXPECT_TRUE(
+        problems.last().contains("could not be written: its folder cannot be made: Not a directory") ||
+        problems.last().contains("could not be written: its folder cannot be made: File exists"))
+        << problems.last().toStdString();
+}
+
+// The limit on the size of files stands for a disk that takes a part of what is written and then no more.
+TEST_F(FileStoreTest, ADiskThatTakesAPartOnlyIsToldWithTheReason) {
+    const auto process = start();
+    const auto longText = std::string(200000, 'x');
+    CKWVariant value;
+    value = longText.c_str();
+    process->tree->setValue("Long", &value);
+    rlimit former{};
+    getrlimit(RLIMIT_FSIZE, &former);
+    const auto formerAction = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{65536, former.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_FALSE(process->store.flush());
+    setrlimit(RLIMIT_FSIZE, &former);
+    std::signal(SIGXFSZ, formerAction);
+    ASSERT_EQ(problems.size(), 1);
+    EXPECT_TRUE(problems[0].contains("could not be written: File too large")) << problems[0].toStdString();
+    EXPECT_TRUE(process->store.flush()) << "the next attempt goes well";
 }
 
 } // namespace

@@ -226,4 +226,38 @@ TEST(SysvarsContext, ReadContextStandsForItsDatabase) {
     EXPECT_EQ(databaseOf(nullptr), nullptr);
 }
 
+TEST_F(SysvarsTest, WhatAnotherWorkbenchHasSetReachesTheVariables) {
+    const auto section = Ref<IParam>::take(new_MemParam());
+    service.keepIn(section);
+    EXPECT_EQ(get(L"SIZE")->getInt16(), 5);
+    const CKWVariant theirs(9, kVtInt);
+    section->setValue("SIZE", &theirs);
+    EXPECT_EQ(get(L"SIZE")->getInt16(), 9);
+    const CKWVariant outside(900, kVtInt);
+    section->setValue("SIZE", &outside);
+    EXPECT_EQ(get(L"SIZE")->getInt16(), 5) << "a value outside the limits counts as none";
+}
+
+TEST_F(SysvarsTest, AVariableThatIsSetToWhatItIsWritesNothing) {
+    const auto section = Ref<IParam>::take(new_MemParam());
+    service.keepIn(section);
+    int stored = 0;
+    EXPECT_EQ(set(L"SIZE", 5), kVarOk);
+    EXPECT_EQ(readValue(section.get(), "SIZE", &stored), 0) << "the default is no value of the user's";
+    EXPECT_EQ(set(L"SIZE", 8), kVarOk);
+    EXPECT_EQ(readValue(section.get(), "SIZE", &stored), 1);
+    EXPECT_EQ(set(L"SIZE", 5), kVarOk);
+    EXPECT_EQ(readValue(section.get(), "SIZE", &stored), 1);
+    EXPECT_EQ(stored, 5) << "back to the default is a change";
+}
+
+TEST_F(SysvarsTest, AnEmptyTextStaysEmpty) {
+    const auto section = Ref<IParam>::take(new_MemParam());
+    service.keepIn(section);
+    EXPECT_EQ(setText(L"WORD", L""), kVarOk);
+    EXPECT_EQ(get(L"WORD")->getString(), OdString(L""));
+    service.keepIn(section);
+    EXPECT_EQ(get(L"WORD")->getString(), OdString(L"")) << "after a restart";
+}
+
 } // namespace

@@ -33,6 +33,16 @@ struct VersionStoreTest : testing::Test {
         store.reset();
         store = std::make_unique<VersionStore>(root.filePath("data"), io);
     }
+    // As a save does that goes well.
+    static bool keepIn(VersionStore& versions, const QString& path, const QString& reason, int maximum) {
+        if (!versions.add(path, reason))
+            return false;
+        versions.settle(path, maximum);
+        return true;
+    }
+    bool keep(const QString& path, const QString& reason, int maximum) {
+        return keepIn(*store, path, reason, maximum);
+    }
     // Each content has a time of its own, as it has on a disk.
     void write(const QByteArray& bytes) {
         QFile file(drawing);
@@ -45,7 +55,7 @@ struct VersionStoreTest : testing::Test {
     void keepInTurn(const QStringList& contents, int maximum) {
         for (const QString& content : contents) {
             write(content.toUtf8());
-            EXPECT_TRUE(store->keep(drawing, "reason of " + content, maximum));
+            EXPECT_TRUE(keep(drawing, "reason of " + content, maximum));
         }
     }
     static QByteArray contentOf(const QString& path) {
@@ -75,7 +85,7 @@ struct VersionStoreTest : testing::Test {
 };
 
 TEST_F(VersionStoreTest, ADrawingWithoutAFileLeavesNothingToKeep) {
-    EXPECT_TRUE(store->keep(drawing, "first save", 5));
+    EXPECT_FALSE(keep(drawing, "first save", 5));
     EXPECT_TRUE(store->versionsOf(drawing).empty());
     EXPECT_EQ(told, QStringList());
     EXPECT_FALSE(QFileInfo::exists(root.filePath("data")));
@@ -96,7 +106,7 @@ TEST_F(VersionStoreTest, AVersionKeepsTheTimeOfItsFile) {
 
 TEST_F(VersionStoreTest, VersionsAndReasonsAreThereAfterARestart) {
     keepInTurn({"1", "2"}, 5);
-    store->keep(drawing, QString::fromUtf8("\xC3\xA9 \xE4\xB8\x96: %1 <b>\n#'\""), 5);
+    keep(drawing, QString::fromUtf8("\xC3\xA9 \xE4\xB8\x96: %1 <b>\n#'\""), 5);
     restart();
     EXPECT_EQ(contents(), QStringList({"1", "2"}));
     EXPECT_EQ(reasons().last(), QString::fromUtf8("\xC3\xA9 \xE4\xB8\x96: %1 <b>\n#'\""));
@@ -115,16 +125,36 @@ TEST_F(VersionStoreTest, ASmallerMaximumRemovesMoreWithTheNextVersion) {
     EXPECT_EQ(contents(), QStringList({"4", "5"}));
 }
 
-TEST_F(VersionStoreTest, AMaximumOfNoneKeepsNothingAndRemovesNothing) {
-    keepInTurn({"1", "2"}, 5);
-    keepInTurn({"3"}, 0);
-    keepInTurn({"4"}, -7);
+TEST_F(VersionStoreTest, AVersionOfASaveThatFailedIsTakenBackAndNoOlderOneIsMissed) {
+    keepInTurn({"1", "2"}, 2);
+    write("3");
+    const auto kept = store->add(drawing, "not to be");
+    ASSERT_TRUE(kept);
+    EXPECT_EQ(contents(), QStringList({"1", "2", "3"})) << "until the file is written";
+    store->takeBack(*kept);
     EXPECT_EQ(contents(), QStringList({"1", "2"}));
+    restart();
+    EXPECT_EQ(contents(), QStringList({"1", "2"}));
+    EXPECT_EQ(reasons(), QStringList({"reason of 1", "reason of 2"}));
+}
+
+TEST_F(VersionStoreTest, TakingBackTheFirstVersionLeavesNoTrace) {
+    write("1");
+    store->takeBack(*store->add(drawing, "not to be"));
+    EXPECT_EQ(contents(), QStringList());
+    EXPECT_FALSE(QFileInfo::exists(store->folderOf(drawing)));
+}
+
+TEST_F(VersionStoreTest, TakingBackWhatWasKeptAlreadyPutsTheReasonBack) {
+    keepInTurn({"1", "2"}, 5);
+    store->takeBack(*store->add(drawing, "not to be"));
+    EXPECT_EQ(contents(), QStringList({"1", "2"}));
+    EXPECT_EQ(reasons(), QStringList({"reason of 1", "reason of 2"}));
 }
 
 TEST_F(VersionStoreTest, AFileThatIsTheLatestVersionAlreadyOnlyTakesTheReason) {
     keepInTurn({"1", "2"}, 5);
-    store->keep(drawing, "after a save that failed", 5);
+    keep(drawing, "after a save that failed", 5);
     EXPECT_EQ(contents(), QStringList({"1", "2"}));
     EXPECT_EQ(reasons().last(), "after a save that failed");
 }
@@ -133,7 +163,7 @@ TEST_F(VersionStoreTest, DrawingsOfTheSameNameInOtherFoldersHaveTheirOwnVersions
     keepInTurn({"1"}, 5);
     QDir().mkpath(root.filePath("other"));
     QFile::copy(drawing, root.filePath("other/house.dxf"));
-    store->keep(root.filePath("other/house.dxf"), "", 5);
+    keep(root.filePath("other/house.dxf"), "", 5);
     EXPECT_EQ(store->versionsOf(root.filePath("other/house.dxf")).size(), 1U);
     EXPECT_EQ(store->versionsOf(drawing).size(), 1U);
     EXPECT_NE(store->folderOf(root.filePath("other/house.dxf")), store->folderOf(drawing));
@@ -171,7 +201,7 @@ TEST_F(VersionStoreTest, AFolderThatCannotBeMadeIsToldAndLosesNothing) {
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     inTheWay.close();
     write("1");
-    EXPECT_FALSE(store->keep(drawing, "", 5));
+    EXPECT_FALSE(keep(drawing, "", 5));
     ASSERT_EQ(told.size(), 1);
     EXPECT_TRUE(told.front().contains("could not be kept"));
     EXPECT_EQ(contentOf(drawing), QByteArray("1"));
@@ -182,7 +212,7 @@ TEST_F(VersionStoreTest, AFullDiskIsToldAndLeavesTheVersionsAsTheyWere) {
     io.newSaveFile = [](const QString& path) { return std::make_unique<FullDisk>(path); };
     restart();
     write("3");
-    EXPECT_FALSE(store->keep(drawing, "", 2));
+    EXPECT_FALSE(keep(drawing, "", 2));
     ASSERT_EQ(told.size(), 1);
     EXPECT_TRUE(told.front().contains("No space left on device"));
     EXPECT_EQ(contents(), QStringList({"1", "2"}));
@@ -209,7 +239,7 @@ TEST_F(VersionStoreTest, TwoProgramsKeepTheirVersionsSideBySide) {
     VersionStore other(root.filePath("data"), io);
     keepInTurn({"1"}, 5);
     write("2");
-    EXPECT_TRUE(other.keep(drawing, "by the other one", 5));
+    EXPECT_TRUE(keepIn(other, drawing, "by the other one", 5));
     keepInTurn({"3"}, 5);
     restart();
     EXPECT_EQ(contents(), QStringList({"1", "2", "3"}));
@@ -224,7 +254,7 @@ TEST_F(VersionStoreTest, OddNamesOfDrawingsAreKept) {
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << name;
         file.close();
-        EXPECT_TRUE(store->keep(path, "x", 5)) << name;
+        EXPECT_TRUE(keep(path, "x", 5)) << name;
         ASSERT_EQ(store->versionsOf(path).size(), 1U) << name;
         EXPECT_TRUE(QFileInfo(store->versionsOf(path).front().file).isFile()) << name;
     }

@@ -335,4 +335,21 @@ TEST(YamlTreeTest, TheShippedFilesAreClean) {
     }
 }
 
+TEST(YamlBadInput, AliasesAreBoundedByTheBytesThatTheyStandFor) {
+    const std::string longText(60000, 'x');
+    std::string values = "First: &a \"" + longText + "\"\n",
+                sections = "First: &a {Long: \"" + longText + "\"}\n";
+    for (int i = 0; i < 20000; ++i) {
+        values += "V" + std::to_string(i) + ": *a\n";
+        sections += "S" + std::to_string(i) + ": *a\n";
+    }
+    for (const std::string& text : {values, sections}) {
+        const YamlResult result = parseYaml(text, "f");
+        ASSERT_TRUE(result.problem);
+        EXPECT_EQ(result.problem->reason, "the aliases stand for more than 16 MB");
+        EXPECT_LT(result.problem->line, 300) << "as soon as it is clear";
+    }
+    EXPECT_TRUE(parseYaml("A: &a text\nB: *a\nC: {D: *a}\n", "f").clean());
+}
+
 } // namespace

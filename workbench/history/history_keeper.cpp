@@ -45,6 +45,7 @@ HistoryKeeper::HistoryKeeper(DocumentManager& documentManager, Console& console,
     : documents(documentManager), io(console), files(fileQuestions), store(rootDir, std::move(storeIo)),
       registered(OdSmartPtr<HostFileHistory>(new KWFileHistoryPE(documents, store))) {
     connect(&documents, &DocumentManager::beforeSave, this, &HistoryKeeper::keepFormer);
+    connect(&documents, &DocumentManager::afterSave, this, &HistoryKeeper::settleFormer);
 }
 
 std::vector<FileVersion> HistoryKeeper::versionsOf(const Document& document) const {
@@ -64,8 +65,18 @@ void HistoryKeeper::open(const Document& document, const FileVersion& version) {
 
 void HistoryKeeper::keepFormer(Document* document, const QString& path) {
     const HistorySettings settings = readHistorySettings(appService<IProfile>().get());
+    kept.reset();
     if (settings.on && settings.maximum > 0 && QFileInfo(path).isFile())
-        store.keep(path, reasonFor(*document, path), settings.maximum);
+        kept = store.add(path, reasonFor(*document, path));
+}
+
+// A file that could not be written is as it was, and has no former version.
+void HistoryKeeper::settleFormer(bool saved) {
+    const auto former = std::exchange(kept, std::nullopt);
+    if (former && saved)
+        store.settle(former->drawing, readHistorySettings(appService<IProfile>().get()).maximum);
+    else if (former)
+        store.takeBack(*former);
 }
 
 QString HistoryKeeper::reasonFor(const Document& document, const QString& path) const {

@@ -30,6 +30,7 @@ public:
 
 private:
     void keepFormer(standin::Document* document, const QString& path);
+    void settleFormer(bool saved);
     QString reasonFor(const standin::Document& document, const QString& path) const;
     QString typedReason(const QString& path, const QString& otherwise) const;
 
@@ -37,6 +38,7 @@ private:
     standin::Console& io;
     const FileQuestions& files;
     standin::VersionStore store;
+    std::optional<standin::KeptVersion> kept; // while the file is being written
     standin::RegisteredFileHistory registered;
 };
 
