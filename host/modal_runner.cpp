@@ -1,9 +1,10 @@
 // An event loop of the module's own in the place of QDialog::exec, so that an exception can leave it cleanly.
 #include "host/modal_runner.h"
 
+#include "host/loop_exceptions.h"
+
 #include <QDialog>
 #include <QEvent>
-#include <QEventLoop>
 #include <QPointer>
 #include <exception>
 
@@ -42,12 +43,12 @@ private:
     QEventLoop& loop;
 };
 
-void runLoop(QDialog& dialog) {
+void runUntilHidden(QDialog& dialog) {
     QEventLoop loop;
     QuitWhenHidden quitWhenHidden(loop);
     dialog.installEventFilter(&quitWhenHidden);
     dialog.show();
-    loop.exec(QEventLoop::DialogExec);
+    runLoop(loop, QEventLoop::DialogExec);
 }
 
 } // namespace
@@ -57,7 +58,7 @@ int runModal(QDialog& dialog) {
     std::exception_ptr thrown;
     dialog.setResult(0);
     try {
-        runLoop(dialog);
+        runUntilHidden(dialog);
     } catch (...) {
         thrown = std::current_exception();
     }

@@ -1,15 +1,19 @@
 // Runs the Options dialog over the current document.
 #include "options/qpref_command.h"
 
+#include "host/app.h"
 #include "host/documents.h"
 #include "host/modal_runner.h"
+#include "host/options_parent.h"
 #include "options/preferences.h"
 
 #include <QApplication>
 
 namespace {
 
-QWidget* firstTopLevelWidget() {
+QWidget* parentOfOptions() {
+    if (const auto host = appService<IOptionsParent>())
+        return host->optionsParent();
     const QWidgetList widgets = QApplication::topLevelWidgets();
     return widgets.isEmpty() ? nullptr : widgets.first();
 }
@@ -19,7 +23,7 @@ QWidget* firstTopLevelWidget() {
 int QPREF::Run(IParam*) {
     if (!currentDocument())
         return 0;
-    Preferences preferences(firstTopLevelWidget());
+    Preferences preferences(parentOfOptions());
     preferences.setWindowFlags(Qt::Window | Qt::WindowCloseButtonHint);
     preferences.setWindowTitle(QObject::tr("Options"));
     runModal(preferences);

@@ -1,6 +1,7 @@
 // Message boxes, combo box, icons and dialog parent of the host.
 #include "host/qt_ui_core.h"
 
+#include "host/modal_runner.h"
 #include "standin/registry.h"
 
 #include <QApplication>
@@ -21,7 +22,7 @@ EV_MB_RET showBox(MessageKind kind, const QString& title, const QString& text, E
     QMessageBox box(kind == MessageKind::Critical ? QMessageBox::Critical : QMessageBox::Question, title,
                     text, QMessageBox::StandardButtons(int(buttons)), host_qt_ui_core::parentForDialog());
     box.setTextFormat(Qt::PlainText);
-    return EV_MB_RET(box.exec());
+    return EV_MB_RET(runModal(box));
 }
 
 QPixmap faded(const QPixmap& source) {
@@ -38,11 +39,12 @@ QPixmap faded(const QPixmap& source) {
 
 namespace host_qt_ui_core {
 
+// A menu is no parent: it closes, and goes, while the dialog is open.
 ParentWrapper parentForDialog() {
-    for (QWidget* const parent : {registry().dialogParent, QApplication::activeWindow()})
-        if (parent)
-            return ParentWrapper(parent);
-    return ParentWrapper(registry().mainWindow);
+    QWidget* parent = registry().dialogParent ? registry().dialogParent : QApplication::activeWindow();
+    while (parent && parent->windowType() == Qt::Popup)
+        parent = parent->parentWidget() ? parent->parentWidget()->window() : nullptr;
+    return ParentWrapper(parent ? parent : registry().mainWindow);
 }
 
 EV_MB_RET QHostMessageBox::critical(const QString& title, const QString& text, EV_MB_RET buttons) {

@@ -23,6 +23,6 @@ int main(int argc, char** argv) {
     }
     workbench::Workbench workbench(*launch);
     workbench.start();
-    const int status = application.run();
+    const int status = QApplication::exec();
     return status ? status : workbench.exitStatus();
 }

@@ -10,7 +10,8 @@ namespace workbench {
 
 class LoadedModule {
 public:
-    // Loads the library, makes its module object and starts it. On failure `problem` says why.
+    // Loads the library, asks for its version, makes its module object and starts it. On failure `problem`
+    // says why, and the plug-in is left out.
     LoadedModule(const QString& file, QString* problem);
     // Stops and destroys the module object. The library stays: objects made by it may live on.
     ~LoadedModule();
@@ -21,6 +22,9 @@ public:
     Ref<ICmdProcess> command(const char* className) const;
 
 private:
+    void load(const QString& file);
+    void leave();
+
     OdRxModule* module = nullptr;
     ICmdProcess* (*makeCommand)(const char* className) = nullptr;
 };

@@ -1,8 +1,10 @@
 #include "workbench/workbench.h"
 
 #include "host/app.h"
+#include "host/options_parent.h"
 #include "host/typed_reads.h"
 #include "standin/console/error_text.h"
+#include "standin/console/shown_text.h"
 #include "standin/events/events.h"
 #include "standin/help/help_service.h"
 #include "standin/params/application.h"
@@ -22,8 +24,11 @@
 #include "workbench/window/window_place.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocale>
+#include <cerrno>
 #include <cstdio>
 
 using namespace standin;
@@ -40,6 +45,29 @@ SysVarTable readVariables(const QString& dataDir, Console& console) {
     for (const QString& problem : problems)
         console.print(problem);
     return table;
+}
+
+// Nothing can be kept below a file, or where no folder can be made.
+QString rootProblem(const QString& rootDir) {
+    const QFileInfo root(rootDir);
+    const QString notKept = Workbench::tr("Nothing that you change can be kept below %1: %2")
+                                .arg(QDir::toNativeSeparators(rootDir), QStringLiteral("%1"));
+    if (root.exists() && !root.isDir())
+        return notKept.arg(Workbench::tr("it is no folder."));
+    return QDir().mkpath(rootDir) ? QString() : notKept.arg(qt_error_string(errno));
+}
+
+// The main window, which stays; the first of all top-level widgets may be a menu.
+class OptionsParent : public CKWUnknownImpl<IOptionsParent> {
+public:
+    QWidget* optionsParent() override { return registry().mainWindow; }
+};
+
+std::vector<Ref<IKWUnknown>> extraServices() {
+    std::vector<Ref<IKWUnknown>> services{Ref<OptionsParent>::share(new OptionsParent)};
+    if (auto* host = qobject_cast<HostApplication*>(QCoreApplication::instance()))
+        services.push_back(host->loopExceptions());
+    return services;
 }
 
 } // namespace
@@ -77,6 +105,8 @@ StoreIo Workbench::storeIo() {
 }
 
 void Workbench::openStores() {
+    if (const QString problem = rootProblem(launch.rootDir); !problem.isEmpty())
+        report(problem);
     rootUse = std::make_unique<RootUse>(launch.rootDir);
     if (!rootUse->notice().isEmpty())
         io.print(rootUse->notice());
@@ -85,6 +115,7 @@ void Workbench::openStores() {
     setup.rootDir = launch.rootDir;
     setup.io = storeIo();
     setup.remembered = windowPlacePaths();
+    setup.services = extraServices();
     application = std::make_unique<Application>(setup);
 }
 
@@ -123,6 +154,7 @@ void Workbench::addCommands() {
     addPlugInEntries(*mainWindow);
     addProgramCommands(scope);
     addVariableCommands(scope);
+    loop.refusal = [this] { return documents->currentOne() ? QString() : tr("No drawing is open."); };
     connect(&loop, &CommandLoop::commandEnded, this, &Workbench::applySettings);
     // A dialog that applies a theme shows it at once; everything else waits for the end of the command.
     connect(&loop, &CommandLoop::commandStarted, &themeCheck,
@@ -134,7 +166,7 @@ void Workbench::addCommands() {
 
 void Workbench::report(const QString& problem) {
     if (launch.headless)
-        std::fprintf(stderr, "%s\n", problem.toLocal8Bit().constData());
+        std::fprintf(stderr, "%s\n", withoutControls(problem).toLocal8Bit().constData());
     io.print(problem);
     if (!launch.headless && !scriptPlays)
         problemBox.show(problem);

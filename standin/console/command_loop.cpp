@@ -4,6 +4,7 @@
 #include "host/documents.h"
 #include "host/text.h"
 #include "standin/console/console.h"
+#include "standin/console/drawing_state.h"
 #include "standin/console/error_text.h"
 
 namespace standin {
@@ -122,21 +123,34 @@ void CommandLoop::runNamed(const QString& name) {
     if (own != ownCommands.end())
         return execute(name, own->second.run);
     const OdEdCommandPtr command = registeredCommand(name);
+    const QString refused = refusal ? refusal() : QString();
+    if (!refused.isEmpty())
+        return console.print(refused);
     execute(name, [&] { runRegistered(command); });
 }
 
-// An exception ends the command; the context that it may have left behind is taken away.
+// An exception ends the command; the context and what else it may have left behind is taken away.
 void CommandLoop::execute(const QString& name, const std::function<void()>& body) {
     {
         const Keep<QString> guard(runningName, name);
         emit commandStarted(name);
+        const DrawingState before;
         const QString problem = errorTextOf(body);
-        if (!problem.isNull()) {
-            setCtx(nullptr);
-            console.print(QStringLiteral("%1: %2").arg(name, problem));
-        }
+        if (!problem.isNull())
+            endFailed(name, problem, before);
     }
     emit commandEnded(name);
+}
+
+void CommandLoop::endFailed(const QString& name, const QString& problem, const DrawingState& before) {
+    setCtx(nullptr);
+    console.print(QStringLiteral("%1: %2").arg(name, problem));
+    bool putBack = false;
+    const QString further = errorTextOf([&] { putBack = before.putBack(); });
+    if (!further.isNull())
+        console.print(tr("What %1 had begun can't be taken back: %2").arg(name, further));
+    else if (putBack)
+        console.print(tr("What %1 had begun is taken back.").arg(name));
 }
 
 } // namespace standin

@@ -11,6 +11,7 @@
 namespace standin {
 
 class Console;
+class DrawingState;
 
 struct OwnCommand {
     QString name; // in capitals
@@ -32,6 +33,9 @@ public:
     // Asked for a line that names no command; true when it was taken.
     std::function<bool(const QString& line)> otherwise;
 
+    // Asked before a command of a module runs: the reason why it can't, or an empty text.
+    std::function<QString()> refusal;
+
     bool isRunning() const { return !runningName.isEmpty(); }
     // The console reads the next line at once: a prompt is open, or no command runs and nothing waits.
     bool isReady() const;
@@ -47,6 +51,7 @@ private:
     void takeLine(const QString& line);
     void runNamed(const QString& name);
     void execute(const QString& name, const std::function<void()>& body);
+    void endFailed(const QString& name, const QString& problem, const DrawingState& before);
     bool isKnown(const QString& name) const;
 
     Console& console;

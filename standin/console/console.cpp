@@ -1,10 +1,10 @@
 // Input queue, waiting and output of the console.
 #include "standin/console/console.h"
 
+#include "host/loop_exceptions.h"
 #include "host/text.h"
 #include "standin/console/point_text.h"
-
-#include <QEventLoop>
+#include "standin/console/shown_text.h"
 
 namespace standin {
 
@@ -24,7 +24,7 @@ public:
         QEventLoop loop;
         console.waitingLoop = &loop;
         emit console.promptChanged();
-        loop.exec();
+        runLoop(loop);
         console.waitingLoop = nullptr;
     }
     PromptScope(const PromptScope&) = delete;
@@ -86,7 +86,7 @@ void Console::printLine(const wchar_t* text) { print(hostqt::qString(text)); }
 void Console::printFormatted(const wchar_t* text, ...) { write(hostqt::qString(text)); }
 
 void Console::write(const QString& text) {
-    const QStringList parts = (partialLine + text).split(QLatin1Char('\n'));
+    const QStringList parts = (partialLine + withoutControls(text)).split(QLatin1Char('\n'));
     partialLine = parts.last();
     for (int i = 0; i + 1 < parts.size(); ++i) {
         lines.append(parts[i]);

@@ -57,6 +57,7 @@ public:
     // Input, by whatever source. What comes while no prompt is open waits for the next one.
     void enterLine(const QString& line);
     void pickPoint(const OdGePoint3d& point);
+    void moveCursor(const OdGePoint3d& point) { cursor = point; } // where the user points at, in the drawing
     void escape(); // drops what is waiting and cancels the open prompt
     bool hasInput() const { return !pending.isEmpty(); }
     ConsoleInput takeInput(); // the oldest that waits
@@ -78,7 +79,7 @@ public:
     int getDistance(const OdGePoint3d& base, double* distance, const wchar_t* prompt, const wchar_t* keywords,
                     int flags, OdString* text, HostEdPointTracker* tracker) override;
     int getReal(double* value, const wchar_t* prompt, const wchar_t* keywords, int flags, int, int) override;
-    OdGePoint3d inputPoint() const override { return lastPoint; }
+    OdGePoint3d inputPoint() const override { return cursor; }
 
 signals:
     void lineWritten(const QString& line);
@@ -106,7 +107,10 @@ private:
     QEventLoop* waitingLoop = nullptr;
     QStringList lines;
     QString partialLine; // printed without a line feed as yet
-    OdGePoint3d lastPoint;
+    void holdPoint(const OdGePoint3d& point) { lastPoint = cursor = point; }
+
+    OdGePoint3d lastPoint; // of an answer
+    OdGePoint3d cursor;
 };
 
 } // namespace standin

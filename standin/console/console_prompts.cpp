@@ -135,7 +135,7 @@ int Console::getPoint(const OdGePoint3d* base, OdGePoint3d* point, const wchar_t
                                : std::optional<OdGePoint3d>(input.point);
         if (!typed)
             return false;
-        lastPoint = *typed;
+        holdPoint(*typed);
         if (point)
             *point = *typed;
         return true;
@@ -152,7 +152,7 @@ int Console::getAngle(const OdGePoint3d& base, double* angle, const wchar_t* pro
         const auto typed = input.kind == ConsoleInput::Point ? std::optional<OdGePoint3d>(input.point)
                                                              : pointFromText(input.text, base);
         if (typed) {
-            lastPoint = *typed;
+            holdPoint(*typed);
             *angle = std::atan2(typed->y - base.y, typed->x - base.x);
             return true;
         }
@@ -172,7 +172,7 @@ int Console::getDistance(const OdGePoint3d& base, double* distance, const wchar_
         const auto typed = input.kind == ConsoleInput::Point ? std::optional<OdGePoint3d>(input.point)
                                                              : pointFromText(input.text, base);
         if (typed) {
-            lastPoint = *typed;
+            holdPoint(*typed);
             *distance = distanceBetween(base, *typed);
             return true;
         }

@@ -92,6 +92,8 @@ Application::Application(const ApplicationSetup& setup)
     hub->add(made(new GroupSelectionStep));
     hub->add(made(new GroupServices));
     hub->add(made(new PropertyNames));
+    for (const Ref<IKWUnknown>& service : setup.services)
+        hub->add(service);
     theOnlyIApp = hub.get();
     OdDbXRefMan::setSearchFolders(foldersOfReferences);
 }

@@ -14,8 +14,9 @@ struct ApplicationSetup {
     QString dataDir; // preftree, formats, papers, stddirs and profile_defaults, all .yaml; never written
     QString rootDir; // where the user's files go
     StoreIo io;
-    int mode = 0;                             // applicationMode()
-    std::vector<std::string> remembered = {}; // in the profile: see StoreFiles
+    int mode = 0;                               // applicationMode()
+    std::vector<std::string> remembered = {};   // in the profile: see StoreFiles
+    std::vector<Ref<IKWUnknown>> services = {}; // answered besides those of the stand-in
 };
 
 // Puts itself into theOnlyIApp and takes itself out again. The user's files are flushed at the end of each

@@ -1,25 +1,43 @@
-// Runs the application, and catches at its edge what would otherwise end the program.
+// Catches exceptions where events are delivered, and gives them on.
 #include "standin/qt_application/host_application.h"
 
 #include "standin/console/error_text.h"
 #include "standin/sysvars/read_variable.h"
 
+#include <QThread>
 #include <cstdio>
 
 namespace standin {
 
 namespace {
 
-class DepthGuard {
+// Keeps a value for a scope.
+class Keep {
 public:
-    explicit DepthGuard(int& counter) : depth(counter) { ++depth; }
-    ~DepthGuard() { --depth; }
-    DepthGuard(const DepthGuard&) = delete;
-    DepthGuard& operator=(const DepthGuard&) = delete;
+    Keep(int& variable, int value) : target(variable), former(variable) { target = value; }
+    ~Keep() { target = former; }
+    Keep(const Keep&) = delete;
+    Keep& operator=(const Keep&) = delete;
 
 private:
-    int& depth;
+    int& target;
+    int former;
 };
+
+// Events that a loop takes from its sources, also the loop of QCoreApplication::processEvents, which has no
+// level of its own. All others may have been sent by code, whose business their exceptions are.
+bool comesFromSource(const QEvent& event) {
+    return event.spontaneous() || event.type() == QEvent::Timer || event.type() == QEvent::MetaCall ||
+           event.type() == QEvent::DeferredDelete;
+}
+
+// A dialog or menu of Qt's own that runs a loop ends it when it is hidden.
+void closeTopmost() {
+    if (QWidget* const popup = QApplication::activePopupWidget())
+        popup->hide();
+    else if (QWidget* const dialog = QApplication::activeModalWidget())
+        dialog->hide();
+}
 
 // The variable TOOLTIPS. Tips are shown where it cannot be read.
 bool showsToolTips() {
@@ -29,35 +47,61 @@ bool showsToolTips() {
 
 } // namespace
 
-HostApplication::HostApplication(int& argc, char** argv) : QApplication(argc, argv), consoleExtension(this) {}
+HostApplication::HostApplication(int& argc, char** argv)
+    : QApplication(argc, argv), exceptions(Ref<LoopExceptions>::share(new LoopExceptions)),
+      consoleExtension(this) {}
 HostApplication::~HostApplication() = default;
 
 QObject* HostApplication::extension(const QString& id) {
     return id == QLatin1String("oda.IqConsole") ? &consoleExtension : nullptr;
 }
 
-int HostApplication::run() {
-    running = true;
-    const int status = exec();
-    running = false;
-    return status;
-}
+Ref<ILoopExceptions> HostApplication::loopExceptions() const { return exceptions; }
 
 bool HostApplication::notify(QObject* receiver, QEvent* event) {
+    if (QThread::currentThread() != thread())
+        return QApplication::notify(receiver, event);
     if (event->type() == QEvent::ToolTip && !showsToolTips())
         return true;
-    const DepthGuard guard(depth);
-    if (!running || depth > 1)
-        return QApplication::notify(receiver, event);
+    const int level = QThread::currentThread()->loopLevel();
+    if (level > deliveringLevel || (level > 0 && comesFromSource(*event)))
+        return deliver(receiver, event, level);
+    return QApplication::notify(receiver, event);
+}
+
+bool HostApplication::deliver(QObject* receiver, QEvent* event, int level) {
     bool result = true;
-    const QString problem = errorTextOf([&] { result = QApplication::notify(receiver, event); });
-    if (problem.isNull())
-        return result;
+    std::exception_ptr thrown;
+    {
+        const Keep guard(deliveringLevel, level);
+        try {
+            result = QApplication::notify(receiver, event);
+        } catch (...) {
+            thrown = std::current_exception();
+        }
+    }
+    if (thrown && !exceptions->keep(thrown))
+        tell(thrown);
+    if (exceptions->isWaiting())
+        giveOn(level);
+    return result;
+}
+
+void HostApplication::giveOn(int level) {
+    if (exceptions->giveTo(level))
+        return;
+    if (level > 1)
+        closeTopmost();
+    else
+        tell(exceptions->take());
+}
+
+void HostApplication::tell(const std::exception_ptr& thrown) const {
+    const QString problem = errorTextOf([&] { std::rethrow_exception(thrown); });
     if (report)
         report(problem);
     else
         std::fprintf(stderr, "%s\n", qPrintable(problem));
-    return true;
 }
 
 } // namespace standin

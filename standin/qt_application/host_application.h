@@ -1,8 +1,9 @@
 // The application object of the stand-in: QApplication with the two interfaces that modules ask it for, and
-// with an end for exceptions that nobody caught.
+// with a way for exceptions that does not lead through event loops.
 #pragma once
 
 #include "host/qt_application.h"
+#include "standin/qt_application/loop_exceptions.h"
 
 #include <QApplication>
 #include <functional>
@@ -36,17 +37,22 @@ public:
     QObject* extension(const QString& id) override;
     IqServices* services() override { return &applicationServices; }
 
-    // The main event loop. An exception that reaches it ends the event that it came from and is reported;
-    // through the loops of modal dialogs and prompts it passes on to whoever runs them.
-    int run();
-    std::function<void(const QString& problem)> report; // empty: to the standard error stream
-    // Shows no tool tips while the variable TOOLTIPS is off.
+    // No exception crosses an event loop. What leaves a slot ends the loop that delivered its event, if that
+    // is one of runLoop, which throws it again: the command that waits in it ends. In the main loop it is
+    // reported and the loop goes on. Dialogs of Qt that run loops of their own are closed, and what was
+    // thrown goes on to the loop around them.
     bool notify(QObject* receiver, QEvent* event) override;
+    std::function<void(const QString& problem)> report; // empty: to the standard error stream
+    Ref<ILoopExceptions> loopExceptions() const;        // for theOnlyIApp
 
 private:
+    bool deliver(QObject* receiver, QEvent* event, int level);
+    void giveOn(int level);
+    void tell(const std::exception_ptr& thrown) const;
+
     // Before the children, whose construction already sends events.
-    bool running = false;
-    int depth = 0; // of notify
+    int deliveringLevel = 0; // of the loop whose event is being delivered; the main loop has level 1
+    Ref<LoopExceptions> exceptions;
     ConsoleExtension consoleExtension;
     ApplicationServices applicationServices;
 };

@@ -6,6 +6,7 @@
 #include "standin/console/console.h"
 #include "standin/selection/group_members.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <unordered_set>
 
@@ -210,9 +211,15 @@ OdDbObjectIdArray EditorSelection::objectsNamed(const QString& text) const {
     return means(text, "Previous") ? idsOf(previous) : objectOfHandle(text);
 }
 
+// A whole hexadecimal word; the handles of dictionaries, tables and objects of other spaces select nothing.
 OdDbObjectIdArray EditorSelection::objectOfHandle(const QString& text) const {
+    static const QRegularExpression handle(QStringLiteral("^[0-9A-Fa-f]{1,16}$"));
+    if (!handle.match(text).hasMatch())
+        return {};
     const OdDbObjectId id = drawing->getOdDbObjectId(OdDbHandle(hostqt::odString(text)));
-    return id.isNull() || id.isErased() ? OdDbObjectIdArray() : OdDbObjectIdArray{id};
+    const auto entity = odrxQuery<OdDbEntity>(id.openObject().get());
+    const bool isHere = !entity.isNull() && entity->ownerId() == drawing->currentSpaceId();
+    return isHere ? OdDbObjectIdArray{id} : OdDbObjectIdArray();
 }
 
 } // namespace standin

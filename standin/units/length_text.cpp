@@ -64,8 +64,12 @@ QString withoutZeroTail(QString text) {
     return text;
 }
 
+// Beyond this the digits say nothing any more, and fractions can't be counted.
+const double greatestWrittenOut = 1e15;
+
 QString unsignedText(double value, const LengthUnits& units) {
-    switch (units.style) {
+    const bool isWrittenOut = value < greatestWrittenOut;
+    switch (isWrittenOut ? units.style : kScientific) {
     case kScientific:
         return QString::number(value, 'E', units.precision);
     case kEngineering: {

@@ -3,6 +3,7 @@
 #include "tests/e2e/script_fixture.h"
 #include "tests/e2e/workbench_fixture.h"
 
+#include "host/documents.h"
 #include "standin/params/profile_file.h"
 
 #include <QAbstractButton>
@@ -204,6 +205,28 @@ TEST_F(SharedWithAProgram, AVariableThatBothChangedIsToldWithTheValueOfTheOther)
     EXPECT_TRUE(waitUntil([this] { return transcript().contains("SysVars/GRIPSIZE: 11"); }))
         << transcript().join('\n').toStdString();
     EXPECT_TRUE(QFile::exists(root.filePath("profile.yaml.other-1")));
+}
+
+TEST_F(SharedWithAProgram, AVariableThatOnlyTheOtherHasChangedStaysAsTheOtherHasIt) {
+    start();
+    other.write("PICKBOX\n11\n");
+    other.closeWriteChannel();
+    ASSERT_TRUE(other.waitForFinished(60000));
+    play({[this] { submit("QPREF"); },
+          [] {
+              QApplication::activeModalWidget()->findChild<QSpinBox*>("ConsoleFontSize")->setValue(17);
+              QApplication::activeModalWidget()->findChild<QAbstractButton*>("okButton")->click();
+          }});
+    const auto variable = [](const wchar_t* name) {
+        OdResBufPtr value;
+        HostDocManager()->varService()->getVar(name, &value, nullptr, 0);
+        return value.isNull() ? -1 : value->getInt16();
+    };
+    EXPECT_TRUE(waitUntil([&] { return variable(L"PICKBOX") == 11; })) << "it has reached the variables, too";
+    restart();
+    EXPECT_EQ(variable(L"PICKBOX"), 11);
+    EXPECT_FALSE(QFile::exists(root.filePath("profile.yaml.other-1")));
+    EXPECT_EQ(transcript().filter("Another program has changed"), QStringList());
 }
 
 // Each workbench keeps at its end where its window was; nobody misses the place of the other one.

@@ -3,6 +3,7 @@
 #include "tests/module/app_with_mode.h"
 #include "tests/module/loaded_module.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <new>
 #include <stdexcept>
@@ -91,6 +92,36 @@ TEST_F(ModuleAllocation, TheModuleObjectCallsANewHandlerOnce) {
         EXPECT_EQ(handlerCalls, 1);
     }
     loaded.create()->deleteModule();
+}
+
+// Even where the handler has made room there is no second attempt: the module is built on the null pointer.
+TEST_F(ModuleAllocation, TheModuleObjectIsNotAskedForAgainAfterItsNewHandler) {
+    testing::GTEST_FLAG(death_test_style) = "threadsafe";
+    EXPECT_EXIT(
+        {
+            const OutOfMemory none([] { odrxFailAllocations(false); });
+            loaded.create();
+        },
+        [](int status) { return status != 0; }, "");
+    EXPECT_DEATH(
+        {
+            const OutOfMemory none(countingHandler);
+            try {
+                loaded.create();
+            } catch (const std::bad_alloc&) {
+                std::_Exit(0); // a handler that has returned is not followed by this
+            }
+        },
+        "");
+}
+
+TEST_F(ModuleAllocation, OutOfMemoryWithAHandlerThatMakesRoomStillGivesNull) {
+    const OutOfMemory none([] {
+        countingHandler();
+        odrxFailAllocations(false);
+    });
+    EXPECT_EQ(loaded.symbol<NewFunction>("_Znwm")(8), nullptr);
+    EXPECT_EQ(handlerCalls, 1);
 }
 
 TEST_F(ModuleAllocation, OutOfMemoryWithoutAHandlerThrows) {

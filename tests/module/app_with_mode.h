@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/app.h"
+#include "sdk/rx/od_error.h"
 
 // An application that knows its mode and nothing else.
 class AppWithMode : public CKWUnknownImpl<IAppInterior> {
@@ -12,6 +13,11 @@ public:
     }
     ~AppWithMode() override { theOnlyIApp = nullptr; }
     const wchar_t* rootDirectory() override { return L""; }
-    int applicationMode() override { return mode; }
+    int applicationMode() override {
+        if (fails)
+            throw OdError(eInvalidInput);
+        return mode;
+    }
     int mode;
+    bool fails = false;
 };

@@ -1,11 +1,17 @@
 // The module as the host loads it: entry points, module object, registration and execution of the two
 // commands.
 #include "host/documents.h"
+#include "sdk/db/database.h"
 #include "sdk/rx/alloc.h"
 #include "standin/registry.h"
+#include "tests/module/allocation_watch.h"
 #include "tests/module/app_with_mode.h"
 #include "tests/module/loaded_module.h"
+#include "tests/support/fixture_host.h"
 
+#include <QApplication>
+#include <QTimer>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -168,6 +174,86 @@ TEST_F(ModuleFrame, OptionsTakesOneBlockAtEveryCall) {
     for (int i = 0; i < 3; ++i)
         odedRegCmds()->lookupCmd(L"QPREF")->execute(&context);
     EXPECT_EQ(odrxAllocCount(), before + 3);
+    module->uninitApp();
+}
+
+TEST_F(ModuleFrame, OptionsRunsOnRawBytesThatAreNeverFreed) {
+    AppWithMode app(0);
+    NoDocuments documents;
+    ContextKept context;
+    module->initApp();
+    AllocationWatch watch;
+    for (int i = 0; i < 3; ++i)
+        odedRegCmds()->lookupCmd(L"QPREF")->execute(&context);
+    ASSERT_EQ(watch.blocks.size(), 3u);
+    for (const AllocationWatch::Block& block : watch.blocks) {
+        EXPECT_EQ(block.size, 32u);
+        EXPECT_FALSE(block.freed);
+        EXPECT_EQ(std::count(block.bytes, block.bytes + 32, AllocationWatch::filling), 32)
+            << "no constructor has run on the block, and nothing else has written to it";
+    }
+    module->uninitApp();
+}
+
+TEST_F(ModuleFrame, TheObjectsOfDrawingPropertiesAreNeverFreed) {
+    AppWithMode app(0);
+    AllocationWatch watch;
+    module->initApp();
+    module->uninitApp();
+    ASSERT_EQ(watch.blocks.size(), 2u) << "one to register, a fresh one to remove it by";
+    for (const AllocationWatch::Block& block : watch.blocks) {
+        EXPECT_EQ(block.size, sizeof(OdEdCommand)) << "nothing beyond what every command has";
+        EXPECT_FALSE(block.freed);
+    }
+}
+
+TEST_F(ModuleFrame, RegistersOptionsBeforeDrawingProperties) {
+    AppWithMode app(0);
+    module->initApp();
+    const std::vector<OdString> names = odedRegCmds()->globalNames();
+    ASSERT_EQ(names.size(), 2u);
+    EXPECT_EQ(names[0], OdString(L"QPREF"));
+    EXPECT_EQ(names[1], OdString(L"DWGPROPS"));
+    module->uninitApp();
+}
+
+TEST_F(ModuleFrame, GivesBackTheApplicationAlsoWhenItsModeCannotBeAsked) {
+    AppWithMode app(0);
+    module->initApp();
+    module->uninitApp();
+    EXPECT_EQ(app.AddRef(), 2) << "after start and end";
+    app.Release();
+    app.fails = true;
+    EXPECT_THROW(module->initApp(), OdError);
+    EXPECT_EQ(app.AddRef(), 2) << "after an exception";
+    app.Release();
+    EXPECT_FALSE(isRegistered(L"DWGPROPS"));
+}
+
+// The host is required to offer the interface: the module does not test for it.
+TEST_F(ModuleFrame, EndsInANullCallWithoutAnApplicationOrItsInterface) {
+    testing::GTEST_FLAG(death_test_style) = "threadsafe";
+    EXPECT_DEATH(module->initApp(), "");
+    EXPECT_DEATH(module->uninitApp(), "");
+    FixtureHost host;
+    host.withhold(typeid(IAppInterior));
+    EXPECT_DEATH(module->initApp(), "");
+}
+
+TEST_F(ModuleFrame, DrawingPropertiesRunInTheirContextAndClearIt) {
+    FixtureHost host;
+    host.openDocument(OdDbDatabase::createEmpty());
+    ContextKept context;
+    OdEdCommandContext* seen = nullptr;
+    module->initApp();
+    QTimer::singleShot(0, qApp, [&seen] {
+        seen = standin::registry().commandContext;
+        if (QWidget* const dialog = QApplication::activeModalWidget())
+            dialog->close();
+    });
+    odedRegCmds()->lookupCmd(L"DWGPROPS")->execute(&context);
+    EXPECT_EQ(seen, &context) << "while the dialog is open";
+    EXPECT_EQ(standin::registry().commandContext, nullptr);
     module->uninitApp();
 }
 

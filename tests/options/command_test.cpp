@@ -1,6 +1,7 @@
 // The command that opens the Options dialog, run as the host runs it.
 #include "options/qpref_command.h"
 
+#include "host/options_parent.h"
 #include "options/pages/searching_line_edit.h"
 #include "tests/options/option_data.h"
 #include "tests/support/poll.h"
@@ -130,6 +131,34 @@ TEST_F(QprefCommand, GoesQuietlyWhenTheProgramEndsWithTheSearchBoxInFocus) {
     QCoreApplication::exec();
     EXPECT_TRUE(opened);
     EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
+}
+
+// Names one window, whatever else there is.
+class NamedParent : public CKWUnknownImpl<IOptionsParent> {
+public:
+    explicit NamedParent(QWidget* named) : parent(named) {}
+    QWidget* optionsParent() override { return parent; }
+
+private:
+    QWidget* parent;
+};
+
+TEST_F(QprefCommand, TakesTheParentThatTheHostNames) {
+    host.openDocument();
+    QWidget windows[5];
+    for (QWidget* const named : {&windows[1], &windows[4], static_cast<QWidget*>(nullptr)}) {
+        const auto hub = Ref<standin::ServiceHub>::share(new standin::ServiceHub);
+        hub->add(Ref<NamedParent>::share(new NamedParent(named)));
+        hub->add(Ref<IKWUnknown>::share(host.application()));
+        theOnlyIApp = hub.get();
+        opened = false;
+        run([named](Preferences& dialog) {
+            EXPECT_EQ(dialog.parentWidget(), named);
+            click(dialog, "cancelButton");
+        });
+        EXPECT_TRUE(opened);
+        theOnlyIApp = host.application();
+    }
 }
 
 TEST_F(QprefCommand, HasNoParentWhenThereIsNoTopLevelWidget) {

@@ -54,9 +54,12 @@ public:
     }
     ~Configuration() override { odDbSetApplicationVariables(nullptr); }
     OdResBufPtr getVariable(const OdString& name) override {
+        if (beforeRead)
+            beforeRead();
         return name.iCompare(L"cconfiguration") == 0 ? value : OdResBufPtr();
     }
     bool setVariable(const OdString&, const OdResBuf*) override { return false; }
+    std::function<void()> beforeRead; // may throw
 
 private:
     OdResBufPtr value;
@@ -224,6 +227,19 @@ TEST_F(OptionsDialog, ShowsDefaultForAConfigurationThatCannotBeRead) {
     TestApplication::self()->console.database = broken.get();
     OpenDialog dialog;
     EXPECT_EQ(dialog.control<QLabel>("configurationValue")->text(), "Default");
+}
+
+TEST_F(OptionsDialog, ShowsDefaultWhateverTheReadingOfTheConfigurationThrows) {
+    host.openDocument(OdDbDatabase::createEmpty());
+    Configuration configuration(L"Ground floor");
+    const std::function<void()> causes[] = {[] { throw OdError(eNotInDatabase); },
+                                            [] { throw std::runtime_error("no"); }, [] { throw 5; }};
+    for (const auto& cause : causes) {
+        configuration.beforeRead = cause;
+        EXPECT_EQ(OpenDialog().control<QLabel>("configurationValue")->text(), "Default");
+    }
+    configuration.beforeRead = nullptr;
+    EXPECT_EQ(OpenDialog().control<QLabel>("configurationValue")->text(), "Ground floor");
 }
 
 TEST_F(OptionsDialog, ShowsTheDescriptionOfTheCurrentItem) {

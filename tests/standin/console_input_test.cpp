@@ -89,6 +89,28 @@ TEST_F(ConsoleInputTest, PickedPointIsGivenBack) {
     EXPECT_EQ(console.inputPoint(), OdGePoint3d(3, 4, 5));
 }
 
+TEST_F(ConsoleInputTest, TheInputPointIsWhereTheCursorIsUntilAnAnswerGivesOne) {
+    console.pickPoint({3, 4, 5});
+    getPoint();
+    console.moveCursor({7, 8, 0});
+    EXPECT_EQ(console.inputPoint(), OdGePoint3d(7, 8, 0));
+    type({"@1,1"});
+    getPoint(0);
+    EXPECT_EQ(point, OdGePoint3d(4, 5, 5)) << "relative to the last answer, not to the cursor";
+    EXPECT_EQ(console.inputPoint(), point);
+}
+
+TEST_F(ConsoleInputTest, ControlCharactersAreShownAsTheirNumbers) {
+    console.print(QString::fromUtf8("a\x1b[31mb\x07\x7f\xc2\x9b\r \xc3\xa9\tc\nnext"));
+    EXPECT_EQ(console.transcript().at(0),
+              QString::fromUtf8("a\\U+001B[31mb\\U+0007\\U+007F\\U+009B\\U+000D \xc3\xa9\tc"));
+    EXPECT_EQ(lastLine(), "next");
+    console.printLine(L"\x1b]0;title\x07");
+    EXPECT_EQ(lastLine(), "\\U+001B]0;title\\U+0007");
+    console.echo("Name: ", "\x1b[2J");
+    EXPECT_EQ(lastLine(), "Name: \\U+001B[2J");
+}
+
 TEST_F(ConsoleInputTest, TypedCoordinatesAreAPoint) {
     type({"1.5,-2"});
     EXPECT_EQ(getPoint(0), kInputPicked);

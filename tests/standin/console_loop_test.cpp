@@ -1,7 +1,10 @@
 // The command loop: which command a line names, and what happens around it.
 #include "host/documents.h"
+#include "sdk/db/block_table.h"
+#include "sdk/db/curves.h"
 #include "standin/console/command_loop.h"
 #include "standin/console/history.h"
+#include "standin/documents/document_manager.h"
 #include "standin/registry.h"
 #include "tests/standin/console_driver.h"
 #include "tests/support/poll.h"
@@ -161,6 +164,111 @@ TEST(ConsoleHistory, OldestLinesGoAtTheLimit) {
     history.setLimit(0);
     EXPECT_TRUE(history.all().isEmpty());
     EXPECT_EQ(history.older("x"), "x");
+}
+
+// A drawing is open.
+struct FailedCommandTest : ConsoleLoopTest {
+    FailedCommandTest() {
+        documents.openEmpty();
+        drawing = documents.currentOne()->database();
+        addLine();
+    }
+    static OdDbLinePtr newLine() { return OdDbLinePtr(new OdDbLine); }
+    OdDbObjectPtr space() { return drawing->getModelSpaceId().safeOpenObject(OdDb::kForWrite); }
+    std::size_t lines() { return odrxCast<OdDbBlockTableRecord>(space())->entityIds().size(); }
+    void addLine() { odrxCast<OdDbBlockTableRecord>(space())->appendOdDbEntity(newLine().get()); }
+    void setPickStyle(int style) {
+        const OdResBufPtr value = OdResBuf::newRb(OdResBuf::kDxfInt8);
+        value->setInt8(static_cast<std::int8_t>(style));
+        drawing->setSysVar(L"PICKSTYLE", value.get());
+    }
+    // Runs a command that does this and then fails.
+    void fail(const std::function<void()>& work) {
+        loop.add({"FAIL", "Fails.", [work] {
+                      work();
+                      throw OdError(L"out of ideas");
+                  }});
+        drawing->startUndoRecord();
+        run({"FAIL"});
+        drawing->startUndoRecord();
+    }
+    bool saidSo() { return console.transcript().contains("What FAIL had begun is taken back."); }
+
+    standin::DocumentManager documents{console, {}};
+    OdDbDatabasePtr drawing;
+};
+
+TEST_F(FailedCommandTest, TransactionsThatItBeganAreAborted) {
+    const std::size_t before = lines();
+    fail([this] {
+        drawing->startTransaction();
+        addLine();
+        drawing->startTransaction();
+        addLine();
+    });
+    EXPECT_EQ(drawing->numActiveTransactions(), 0);
+    EXPECT_EQ(lines(), before);
+    EXPECT_TRUE(saidSo());
+    addLine();
+    EXPECT_TRUE(drawing->undo()) << "UNDO works again";
+    EXPECT_EQ(lines(), before);
+}
+
+TEST_F(FailedCommandTest, TransactionsThatWereOpenBeforeStayOpen) {
+    drawing->startTransaction();
+    fail([this] { drawing->startTransaction(); });
+    EXPECT_EQ(drawing->numActiveTransactions(), 1);
+    drawing->endTransaction();
+}
+
+TEST_F(FailedCommandTest, AnUndoBlockThatItLeftOpenIsTakenBackAndClosed) {
+    const std::size_t before = lines();
+    fail([this] {
+        drawing->blockUndoRecording(true);
+        addLine();
+        addLine();
+    });
+    EXPECT_FALSE(drawing->isUndoBlockStarted());
+    EXPECT_EQ(lines(), before);
+    EXPECT_TRUE(saidSo());
+    addLine();
+    drawing->startUndoRecord();
+    addLine();
+    drawing->undo();
+    EXPECT_EQ(lines(), before + 1) << "each command is a step of its own again";
+}
+
+TEST_F(FailedCommandTest, AnEmptyUndoBlockTakesNothingBackOfTheCommandBefore) {
+    addLine();
+    const std::size_t before = lines();
+    fail([this] { drawing->blockUndoRecording(true); });
+    EXPECT_FALSE(drawing->isUndoBlockStarted());
+    EXPECT_EQ(lines(), before);
+}
+
+TEST_F(FailedCommandTest, TheWayOfPickingGroupsIsWhatItWas) {
+    setPickStyle(3);
+    fail([this] { setPickStyle(0); });
+    EXPECT_EQ(drawing->getSysVar(L"PICKSTYLE")->getInt8(), 3);
+    EXPECT_TRUE(saidSo());
+}
+
+TEST_F(FailedCommandTest, WhatItHadFinishedStaysAndNothingIsSaid) {
+    const std::size_t before = lines();
+    fail([this] { addLine(); });
+    EXPECT_EQ(lines(), before + 1);
+    EXPECT_FALSE(saidSo());
+    EXPECT_EQ(lastLine(), "FAIL: out of ideas");
+}
+
+TEST_F(ConsoleLoopTest, ACommandOfAModuleThatIsRefusedDoesNotRunAndTheReasonIsTold) {
+    loop.refusal = [] { return QStringLiteral("No drawing is open."); };
+    run({"COUNTUP"});
+    EXPECT_EQ(counting.runs, 0);
+    EXPECT_EQ(lastLine(), "No drawing is open.");
+    loop.refusal = [] { return QString(); };
+    run({""});
+    EXPECT_EQ(counting.runs, 1);
 }
 
 } // namespace

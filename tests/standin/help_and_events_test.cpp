@@ -5,8 +5,12 @@
 
 #include <QDialog>
 #include <QFile>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QtTest>
 #include <gtest/gtest.h>
 
@@ -98,6 +102,43 @@ TEST_F(EventsTest, NoToAQuestionIsCancel) {
     EXPECT_EQ(buttons, EV_MB_YES | EV_MB_NO);
     answer = EV_MB_YES;
     EXPECT_NE(events->notify(14, L"Continue?", 0, 7), 2);
+}
+
+class DialogParentTest : public testing::Test {
+protected:
+    ~DialogParentTest() override { registry() = saved; }
+    const HostRegistry saved = registry();
+};
+
+TEST_F(DialogParentTest, AMenuThatIsAboutToCloseIsNeverTheParentOfADialog) {
+    QWidget window, other;
+    registry().mainWindow = &other;
+    QMenu menu(&window), subMenu(&menu), loose;
+    for (QWidget* const popup : {static_cast<QWidget*>(&menu), static_cast<QWidget*>(&subMenu)}) {
+        registry().dialogParent = popup;
+        EXPECT_EQ(host_qt_ui_core::parentForDialog(), &window);
+    }
+    registry().dialogParent = &loose;
+    EXPECT_EQ(host_qt_ui_core::parentForDialog(), &other) << "the main window";
+    QDialog dialog(&window);
+    registry().dialogParent = &dialog;
+    EXPECT_EQ(host_qt_ui_core::parentForDialog(), &dialog);
+}
+
+TEST(MessageBoxTest, NamesAreShownAsTheyAreAndTheButtonPressedIsTheAnswer) {
+    const QString text = QStringLiteral("The <b>group</b> &amp; \"A<br>B\"");
+    for (const EV_MB_RET answer : {EV_MB_YES, EV_MB_NO}) {
+        QPointer<QMessageBox> box;
+        QTimer::singleShot(0, qApp, [&] {
+            box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            EXPECT_EQ(box->textFormat(), Qt::PlainText);
+            EXPECT_EQ(box->text(), text);
+            EXPECT_EQ(box->icon(), QMessageBox::Question);
+            box->button(QMessageBox::StandardButton(int(answer)))->click();
+        });
+        EXPECT_EQ(host_qt_ui_core::QHostMessageBox::question("Title", text, EV_MB_YES | EV_MB_NO), answer);
+    }
 }
 
 } // namespace

@@ -55,6 +55,28 @@ TEST_F(SelectionTest, HandlesNameObjects) {
     EXPECT_EQ(selected(), OdDbObjectIdArray({lines[1]}));
 }
 
+TEST_F(SelectionTest, AHandleIsAWholeHexadecimalWordOfAnEntityInTheCurrentSpace) {
+    const auto handleOf = [](const OdDbObjectId& id) { return hostqt::qString(id.getHandle().ascii()); };
+    const auto paper =
+        odrxCast<OdDbBlockTableRecord>(database->getPaperSpaceId().safeOpenObject(OdDb::kForWrite));
+    const OdDbObjectId onPaper = paper->appendOdDbEntity(OdSmartPtr<OdDbLine>(new OdDbLine).get());
+    const QString line = handleOf(lines[1]);
+    for (const QString& text :
+         {handleOf(database->getGroupDictionaryId(true)), handleOf(database->getModelSpaceId()),
+          handleOf(onPaper), line + " " + line, line + "x", "0x" + line, "-" + line}) {
+        console.enterLine(text);
+        console.enterLine("");
+        EXPECT_EQ(select(), kInputNone) << text.toStdString();
+        EXPECT_TRUE(console.transcript().contains("\"" + text +
+                                                  "\" names no object: click one, or type Window, "
+                                                  "Crossing, All, Last, Previous, Remove, Add or a handle."));
+    }
+    console.enterLine(line.toLower());
+    console.enterLine("");
+    EXPECT_EQ(select(), kInputPicked);
+    EXPECT_EQ(selected(), OdDbObjectIdArray({lines[1]}));
+}
+
 TEST_F(SelectionTest, ClickTakesWhatLiesThere) {
     selection.objectsAt = [this](const OdGePoint3d& point) {
         return point.x > 0 ? OdDbObjectIdArray({lines[0]}) : OdDbObjectIdArray();

@@ -45,6 +45,16 @@ TEST(UnitsLength, TextsFollowStyleAndPrecision) {
     EXPECT_EQ(lengthText(-1.75, {kFractional, 3}), "-1-3/4");
 }
 
+TEST(UnitsLength, NumbersOfHundredsOfDigitsAreWrittenWithAnExponentInEveryStyle) {
+    for (int style = kScientific; style <= kFractional; ++style) {
+        const QString text = lengthText(-1e300, {style, 4});
+        EXPECT_EQ(text, "-1.0000E+300") << style;
+        EXPECT_EQ(lengthFromText(text, style), -1e300) << style;
+    }
+    EXPECT_EQ(lengthText(999999999999999.0, {kDecimal, 0}), "999999999999999");
+    EXPECT_EQ(lengthText(1e15, {kDecimal, 0}), "1E+15");
+}
+
 TEST(UnitsAngle, DegreesMinutesAndSecondsAreRead) {
     EXPECT_NEAR(*angleFromText("45", {}), M_PI / 4, 1e-12);
     EXPECT_NEAR(*angleFromText("45d30'", {}), 45.5 * M_PI / 180, 1e-12);

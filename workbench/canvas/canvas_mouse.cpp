@@ -92,6 +92,7 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
     cursorAt = event->pos();
     if (!sheet)
         return update();
+    io.moveCursor(drawingPoint(event->pos()));
     if (panning) {
         sheet->change(true).panBy(event->pos() - panFrom);
         panFrom = event->pos();

@@ -72,7 +72,8 @@ bool writeNewer(DocumentManager& documents, Document& document, const QString& p
     return true;
 }
 
-bool write(DocumentManager& documents, Document& document, const QString& path, const FileQuestions& files) {
+bool writeIfAllowed(DocumentManager& documents, Document& document, const QString& path,
+                    const FileQuestions& files) {
     const Document* holder = documents.documentOfFile(path);
     if (holder && holder != &document)
         throw OdError(tr("%1 is open in another tab: close it first.").arg(path).toStdWString());
@@ -82,6 +83,16 @@ bool write(DocumentManager& documents, Document& document, const QString& path, 
         return writeNewer(documents, document, path, files);
     documents.save(&document, path);
     return true;
+}
+
+// The error goes on to the console, as that of any command.
+bool write(DocumentManager& documents, Document& document, const QString& path, const FileQuestions& files) {
+    try {
+        return writeIfAllowed(documents, document, path, files);
+    } catch (const OdError& error) {
+        files.tellNotSaved(document.displayName(), hostqt::qString(error.description()));
+        throw;
+    }
 }
 
 } // namespace

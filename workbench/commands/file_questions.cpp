@@ -1,5 +1,6 @@
 #include "workbench/commands/file_questions.h"
 
+#include "host/modal_runner.h"
 #include "host/qt_ui_core.h"
 #include "host/text.h"
 #include "standin/console/console.h"
@@ -50,7 +51,7 @@ bool isYesInBox(const QString& name, const QString& title, const QString& text,
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(detail);
     box.setDefaultButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes;
+    return runModal(box) == QMessageBox::Yes;
 }
 
 } // namespace
@@ -150,6 +151,13 @@ bool FileQuestions::mayMakeNewer(const QString& drawing, const QStringList& left
                       reason + QLatin1Char('\n') + tr("Save as a newer drawing?"), loss);
 }
 
+void FileQuestions::tellNotSaved(const QString& drawing, const QString& reason) const {
+    if (!asksOnConsole())
+        host_qt_ui_core::QHostMessageBox::critical(
+            tr("Not saved"), tr("%1 could not be saved.").arg(drawing) + QStringLiteral("\n\n") + reason,
+            EV_MB_OK);
+}
+
 Unsaved FileQuestions::whatOfChanges(const QString& drawing) const {
     if (!asksOnConsole())
         return whatOfChangesByDialog(drawing);
@@ -172,7 +180,7 @@ Unsaved FileQuestions::whatOfChangesByDialog(const QString& drawing) const {
     box.setObjectName(QStringLiteral("unsavedBox"));
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Save);
-    switch (box.exec()) {
+    switch (runModal(box)) {
     case QMessageBox::Save:
         return Unsaved::Save;
     case QMessageBox::Discard:

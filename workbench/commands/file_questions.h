@@ -32,6 +32,8 @@ public:
     // Asks for a newer version of a drawing whose version has no place for what it holds. Says on the
     // console, too, what would be left out.
     bool mayMakeNewer(const QString& drawing, const QStringList& leftOut) const;
+    // In a box, where boxes are shown: the console may be out of sight.
+    void tellNotSaved(const QString& drawing, const QString& reason) const;
     static bool dialogsAreOff(); // FILEDIA is 0
     bool asksOnConsole() const;  // that, or headless
 

@@ -1,6 +1,7 @@
 // Asks for a version by a dialog or on the console, and opens it.
 #include "workbench/commands/history_commands.h"
 
+#include "host/modal_runner.h"
 #include "host/qt_ui_core.h"
 #include "host/text.h"
 #include "standin/console/command_loop.h"
@@ -55,7 +56,7 @@ void openByConsole(const CommandScope& scope, HistoryKeeper& history, const Docu
 void openByDialog(HistoryKeeper& history, const Document& current) {
     VersionsDialog dialog(current.displayName(), history.versionsOf(current),
                           host_qt_ui_core::parentForDialog());
-    if (dialog.exec() == QDialog::Accepted)
+    if (runModal(dialog) == QDialog::Accepted)
         history.open(current, dialog.chosen());
 }
 

@@ -9,6 +9,7 @@
 #include "sdk/db/polyline.h"
 #include "sdk/db/text.h"
 #include "standin/console/point_text.h"
+#include "standin/units/unit_text.h"
 
 #include <QCoreApplication>
 #include <cmath>
@@ -22,7 +23,8 @@ namespace {
 
 QString tr(const char* text) { return QCoreApplication::translate("ListCommand", text); }
 
-QString number(double value) { return QString::number(value, 'g', 10); }
+QString length(double value) { return standin::lengthText(value, standin::currentLengthUnits()); }
+QString number(double value) { return QString::number(value, 'g', 10); } // without a unit
 QString degrees(double radians) { return number(radians * 180 / M_PI); }
 
 QString colorText(const OdDbEntity& entity) {
@@ -37,16 +39,16 @@ QString colorText(const OdDbEntity& entity) {
 QString lineText(const OdDbLine& line) {
     return tr("from %1 to %2, length %3")
         .arg(pointText(line.startPoint()), pointText(line.endPoint()),
-             number(line.startPoint().distanceTo(line.endPoint())));
+             length(line.startPoint().distanceTo(line.endPoint())));
 }
 
 QString circleText(const OdDbCircle& circle) {
-    return tr("centre %1, radius %2").arg(pointText(circle.center()), number(circle.radius()));
+    return tr("centre %1, radius %2").arg(pointText(circle.center()), length(circle.radius()));
 }
 
 QString arcText(const OdDbArc& arc) {
     return tr("centre %1, radius %2, from %3 to %4 degrees")
-        .arg(pointText(arc.center()), number(arc.radius()), degrees(arc.startAngle()),
+        .arg(pointText(arc.center()), length(arc.radius()), degrees(arc.startAngle()),
              degrees(arc.endAngle()));
 }
 
@@ -64,7 +66,7 @@ QString referenceText(const OdDbBlockReference& reference) {
 
 QString singleLineText(const OdDbText& text) {
     return tr("\"%1\" at %2, height %3")
-        .arg(qString(text.textString()), pointText(text.position()), number(text.height()));
+        .arg(qString(text.textString()), pointText(text.position()), length(text.height()));
 }
 
 QString geometryText(const OdDbEntity& entity) {

@@ -15,6 +15,7 @@ namespace workbench {
 namespace {
 
 const int stepMilliseconds = 10;
+const int mostCancels = 500; // then the script ends with what can't be cancelled still open
 
 QStringList linesOf(QString text) {
     QStringList lines;
@@ -44,6 +45,8 @@ void ScriptPlayer::start() {
 void ScriptPlayer::step() {
     if (acting)
         return;
+    if (ending)
+        return cancelOrEnd();
     if (isAtEnd()) {
         if (loop.isReady() && !QApplication::activeModalWidget())
             finish({});
@@ -115,8 +118,29 @@ QString ScriptPlayer::whatIsThere() const {
 }
 
 void ScriptPlayer::finish(const QString& problem) {
+    result = problem;
+    ending = true;
+}
+
+// What a script that ends with a problem leaves open is cancelled, as its user would do it, one dialog or
+// prompt at a time. A prompt that is open after the last line is none.
+void ScriptPlayer::cancelOrEnd() {
+    const bool isOpen =
+        QApplication::activePopupWidget() || QApplication::activeModalWidget() || loop.isRunning();
+    if (isOpen && !result.isEmpty() && ++cancels <= mostCancels)
+        return cancelOne();
     timer.stop();
-    emit finished(problem);
+    emit finished(result);
+}
+
+// Posted, as every action: a dialog that is cancelled may ask something in another one.
+void ScriptPlayer::cancelOne() {
+    acting = true;
+    QTimer::singleShot(0, this, [this] {
+        acting = false;
+        if (!cancelTopmost() && loop.isReady())
+            io.escape();
+    });
 }
 
 } // namespace workbench

@@ -27,7 +27,8 @@ public:
     bool isAtEnd() const { return position == lines.size(); } // every line was taken
 
 signals:
-    // `problem` is empty when every line was taken; else it names the line and what is wrong with it.
+    // `problem` is empty when every line was taken; else it names the line and what is wrong with it. Dialogs
+    // and prompts that were open have been cancelled by then.
     void finished(const QString& problem);
 
 private:
@@ -37,6 +38,8 @@ private:
     Outcome act(const QString& line);
     void runAction(const std::function<void()>& action);
     void finish(const QString& problem);
+    void cancelOrEnd();
+    void cancelOne();
     QString whatIsThere() const;
 
     QString name;
@@ -48,6 +51,9 @@ private:
     int position = 0;
     int patience = 10000;
     bool acting = false; // an action was posted and has not begun
+    bool ending = false; // what is still open is being cancelled
+    QString result;      // told once that is done
+    int cancels = 0;
 };
 
 } // namespace workbench

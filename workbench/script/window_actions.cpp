@@ -4,8 +4,10 @@
 #include "workbench/canvas/canvas.h"
 #include "workbench/script/widget_finder.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLineEdit>
@@ -126,6 +128,19 @@ QWidget* activeWindowForScript() {
         if (window->isVisible())
             return window;
     throw ScriptFault{tr("there is no window")};
+}
+
+bool cancelTopmost() {
+    if (QWidget* const popup = QApplication::activePopupWidget())
+        return popup->close();
+    QWidget* const open = QApplication::activeModalWidget();
+    auto* const button =
+        open ? qobject_cast<QAbstractButton*>(widgetNamed(open, QStringLiteral("cancelButton"))) : nullptr;
+    if (button)
+        button->click();
+    else if (auto* const dialog = qobject_cast<QDialog*>(open))
+        dialog->reject();
+    return open != nullptr;
 }
 
 QString awaitedWindow(const QString& line) {

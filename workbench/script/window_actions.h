@@ -22,6 +22,9 @@ bool isActive(const QString& classOrObjectName);
 // a line that is no action.
 std::function<void()> windowAction(const QString& line);
 
+// Cancels the menu or modal dialog on top, by its Cancel button if it has one; false when there is none.
+bool cancelTopmost();
+
 // The window that a user would act on: an open menu, the modal dialog, or the main window.
 QWidget* activeWindowForScript();
 
