@@ -91,6 +91,7 @@ void DisplayList::rebuild() {
         note(item.reach);
         items.push_back(std::move(item));
     }
+    left = builder.unshown();
     index = SpatialIndex(extents());
     for (std::size_t i = 0; i < items.size(); ++i)
         index.insert(static_cast<int>(i), indexedBox(items[i]));

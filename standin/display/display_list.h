@@ -47,6 +47,8 @@ public:
     // The items that touch `box`, in no order, until the visitor says false.
     void visit(const Box& box, const std::function<bool(const Item&)>& visitor) const;
     Box extents() const;
+    // What of the drawing could not be shown when all of it was shown last.
+    const Unshown& unshown() const { return left; }
     const std::unordered_set<OdDbObjectId>& highlighted() const { return marked; }
     OdDbDatabase& database() const { return *drawing; }
     // Until it is removed; each reader once.
@@ -76,6 +78,7 @@ private:
     std::unordered_set<OdDbObjectId> stale, marked;
     DrawingVariables variables;
     mutable std::vector<ListReader*> readers;
+    Unshown left;
     std::uint64_t changes = 0;
     bool everything = true;
     Reach farthest; // of all marks that there are or were

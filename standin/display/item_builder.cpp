@@ -4,8 +4,11 @@
 #include "sdk/db/block_reference.h"
 #include "sdk/db/block_table.h"
 #include "sdk/db/text.h"
+#include "standin/display/flat.h"
 #include "standin/display/kinds.h"
 #include "standin/display/pencil.h"
+
+#include <utility>
 
 namespace standin {
 
@@ -31,6 +34,8 @@ Item ItemBuilder::build(OdDbObjectId id) {
         return {};
     Item built = build(*entity, *id.database());
     built.id = id;
+    if (built.isCut)
+        left.addCut(id);
     return built;
 }
 
@@ -45,6 +50,8 @@ Item ItemBuilder::build(const OdDbEntity& entity, const OdDbDatabase& drawing) {
 
 void ItemBuilder::add(const OdDbEntity& entity, const Place& place) {
     const Kind* kind = kindOf(entity);
+    if ((!kind || kind->isMissed) && isMissed(entity))
+        left.addMissed(entity);
     if (!kind || !kind->draw || !entity.isVisible())
         return;
     const LayerLook layer = layerOf(entity, place);
@@ -57,8 +64,9 @@ void ItemBuilder::add(const OdDbEntity& entity, const Place& place) {
 
 // False for a block that is missing, and for a reference that isn't loaded. A loaded one shows the model
 // space of its own drawing, in the looks of the layers there.
-bool ItemBuilder::addBlock(OdDbObjectId blockId, const Place& place, const OdGeMatrix3d& toWorld,
-                           const LayerLook& layer, const Look& look) {
+bool ItemBuilder::addBlock(OdDbObjectId blockId, const Holder& holder, const OdGeMatrix3d& toWorld,
+                           const Repeats& repeats) {
+    const Place& place = holder.place;
     ++parts;
     const auto block = odrxQuery<OdDbBlockTableRecord>(blockId.openObject().get());
     if (block.isNull())
@@ -71,22 +79,84 @@ bool ItemBuilder::addBlock(OdDbObjectId blockId, const Place& place, const OdGeM
         contents = loaded->getModelSpaceId();
     else if (block->isFromExternalReference() && block->entityIds().empty())
         return false;
+    bool isInItself = false;
     for (const Place* outer = &place; outer; outer = outer->outer)
-        if (outer->block == contents)
-            return true; // it contains itself: shown once
-    if (place.depth >= deepestBlock)
-        return true;
-    Place inner{&place, contents, toWorld, place.layers, layer, look, place.depth + 1, place.isExternal};
+        isInItself |= outer->block == contents;
+    if (isInItself || place.depth >= deepestBlock) {
+        isContextual = true;
+        return true; // it is shown once
+    }
+    Place inner{&place,       contents,    toWorld,         place.layers,
+                holder.layer, holder.look, place.depth + 1, place.isExternal};
     if (!loaded.isNull()) {
         inner.layers = &looksOf(*loaded);
         inner.isExternal = true;
     }
-    addParts(contents, inner);
+    addCells(inner, repeats);
     return true;
 }
 
-void ItemBuilder::addParts(OdDbObjectId contents, const Place& inner) {
-    const auto record = odrxCast<OdDbBlockTableRecord>(contents.safeOpenObject());
+// The shapes of a block are made once, in its own coordinates, unless heights of them would be seen.
+void ItemBuilder::addCells(Place& inner, const Repeats& repeats) {
+    const OdGeMatrix3d first = inner.toWorld;
+    const auto movement = FlatMovement::of(first);
+    const auto shapes = movement ? made(inner) : nullptr;
+    for (int row = 0; row < repeats.rows; ++row)
+        for (int column = 0; column < repeats.columns && !isFull(); ++column) {
+            const OdGeVector3d step = repeats.rowStep * row + repeats.columnStep * column;
+            ++parts;
+            if (shapes) {
+                addMoved(*shapes, {movement->origin + flat(step), movement->x, movement->y});
+            } else {
+                inner.toWorld = OdGeMatrix3d::translation(step) * first;
+                addParts(inner);
+            }
+        }
+}
+
+void ItemBuilder::addMoved(const BlockShapes::Made& shapes, const FlatMovement& movement) {
+    for (auto shape = shapes.shapes.begin(); shape != shapes.shapes.end() && !isFull(); ++shape) {
+        ++parts;
+        Shape moved = movedShape(*shape, movement);
+        if (isDrawable(moved))
+            put(withinLimits(std::move(moved)));
+    }
+    item.isCut |= shapes.isCut;
+}
+
+std::shared_ptr<const BlockShapes::Made> ItemBuilder::made(const Place& inner) {
+    if (auto found = blocks.find(inner))
+        return found;
+    Item outer = std::exchange(item, {});
+    const bool wasContextual = std::exchange(isContextual, false);
+    Place own = inner;
+    own.toWorld = OdGeMatrix3d::kIdentity;
+    addParts(own);
+    auto result =
+        std::make_shared<const BlockShapes::Made>(BlockShapes::Made{std::move(item.shapes), item.isCut});
+    item = std::move(outer);
+    if (!isContextual)
+        blocks.add(inner, result);
+    isContextual |= wasContextual;
+    return result;
+}
+
+// Copies of hatches take their lines from the same store as others.
+Shape ItemBuilder::withinLimits(Shape shape) {
+    if (!shape.area || shape.area->hatching.empty())
+        return shape;
+    hatchingLines += shape.area->hatching.size();
+    if (hatchingLines <= kMostHatchLines)
+        return shape;
+    hatchingLines -= shape.area->hatching.size();
+    auto shade = std::make_shared<Area>(*shape.area);
+    shade->hatching.clear();
+    shape.area = std::move(shade);
+    return shape;
+}
+
+void ItemBuilder::addParts(const Place& inner) {
+    const auto record = odrxCast<OdDbBlockTableRecord>(inner.block.safeOpenObject());
     for (auto it = record->newIterator(); !it.done() && !isFull(); it.step()) {
         ++parts;
         const auto part = odrxQuery<OdDbEntity>(it.objectId().openObject().get());

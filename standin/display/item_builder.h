@@ -3,7 +3,9 @@
 #pragma once
 
 #include "sdk/db/entity.h"
+#include "standin/display/block_shapes.h"
 #include "standin/display/place.h"
+#include "standin/display/unshown.h"
 
 #include <map>
 
@@ -15,6 +17,8 @@ public:
     Item build(OdDbObjectId id);
     // An object that need not be in a drawing, as trackers show it.
     Item build(const OdDbEntity& entity, const OdDbDatabase& drawing);
+    // What was built so far without all that is in it.
+    const Unshown& unshown() const { return left; }
     // Blocks that repeat each other grow without bounds: what would be beyond these numbers isn't shown, and
     // the item says so.
     static constexpr std::size_t kMostShapes = 1000000; // of one object
@@ -26,17 +30,30 @@ public:
 private:
     friend class Pencil;
     void add(const OdDbEntity& entity, const Place& place);
-    bool addBlock(OdDbObjectId blockId, const Place& place, const OdGeMatrix3d& toWorld,
-                  const LayerLook& layer, const Look& look);
-    void addParts(OdDbObjectId contents, const Place& inner);
+    // A reference, or whatever else is shown by a block.
+    struct Holder {
+        const Place& place;
+        const LayerLook& layer;
+        const Look& look;
+    };
+    bool addBlock(OdDbObjectId blockId, const Holder& holder, const OdGeMatrix3d& toWorld,
+                  const Repeats& repeats);
+    void addCells(Place& inner, const Repeats& repeats);
+    void addParts(const Place& inner);
+    void addMoved(const BlockShapes::Made& shapes, const FlatMovement& movement);
+    std::shared_ptr<const BlockShapes::Made> made(const Place& inner);
+    Shape withinLimits(Shape shape);
     void put(Shape shape);
     bool isFull();
     const LayerLooks& looksOf(const OdDbDatabase& drawing);
 
     Item item;
     const LayerLooks* shown = nullptr; // of the drawing, whose variables hold for references, too
-    std::size_t parts = 0;             // of blocks, so far
-    std::size_t hatchingLines = 0;     // so far
+    BlockShapes blocks;
+    bool isContextual = false; // what was added last would look different elsewhere
+    Unshown left;
+    std::size_t parts = 0;         // of blocks, so far
+    std::size_t hatchingLines = 0; // so far
     std::map<const OdDbDatabase*, LayerLooks> looks;
 };
 

@@ -19,6 +19,11 @@ struct LayerLook {
     Dashes dashes;
     int weight = kDefaultWeight; // in hundredths of a millimetre
     std::uint8_t opacity = 255;
+
+    friend bool operator==(const LayerLook& a, const LayerLook& b) {
+        return a.ink == b.ink && a.off == b.off && a.frozen == b.frozen && a.dashes == b.dashes &&
+               a.weight == b.weight && a.opacity == b.opacity;
+    }
 };
 
 // Of the palette; 7, which is white or black, is the foreground.

@@ -1,6 +1,5 @@
 #include "standin/display/pencil.h"
 
-#include "sdk/db/block_table.h"
 #include "standin/display/flat.h"
 #include "standin/display/item_builder.h"
 
@@ -10,13 +9,7 @@ namespace standin {
 
 namespace {
 
-const double farthest = 1e15;      // beyond it pixels can't be told apart any more
 const double endlessLength = 1e10; // longer ones would not be exact where they begin
-
-bool isUsable(const QPointF& point) {
-    return std::isfinite(point.x()) && std::isfinite(point.y()) && std::fabs(point.x()) < farthest &&
-           std::fabs(point.y()) < farthest;
-}
 
 bool hasLines(const Shape& shape) {
     return shape.kind == Shape::Path || shape.kind == Shape::Arc || (shape.area && !shape.area->isSolid);
@@ -47,10 +40,7 @@ Pencil Pencil::plain() const {
 const DrawingVariables& Pencil::variables() const { return maker.shown->variables(); }
 
 bool Pencil::draw(Shape shape) const {
-    for (const QPointF& point : shape.points)
-        if (!isUsable(point))
-            return false;
-    if (shape.points.empty())
+    if (!isDrawable(shape))
         return false;
     shape.ink = ownLook.ink;
     shape.opacity = ownLook.opacity;
@@ -90,14 +80,8 @@ void Pencil::endless(const OdGePoint3d& start, const OdGeVector3d& direction,
     draw(std::move(line));
 }
 
-bool Pencil::block(OdDbObjectId block, const OdGeMatrix3d& toWorld) const {
-    return maker.addBlock(block, where, toWorld, layerLook, ownLook);
-}
-
-bool Pencil::block(const OdDbEntity& entity, const OdString& name) const {
-    const auto blocks = odrxQuery<OdDbBlockTable>(
-        entity.database() ? entity.database()->getBlockTableId().openObject().get() : nullptr);
-    return !blocks.isNull() && block(static_cast<const OdDbSymbolTable&>(*blocks).getAt(name), world());
+bool Pencil::block(OdDbObjectId block, const OdGeMatrix3d& toWorld, const Repeats& repeats) const {
+    return maker.addBlock(block, {where, layerLook, ownLook}, toWorld, repeats);
 }
 
 void Pencil::missing(const OdGePoint3d& at, const OdString& name) const {

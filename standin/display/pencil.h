@@ -40,7 +40,7 @@ public:
     // From `start` on without an end.
     void endless(const OdGePoint3d& start, const OdGeVector3d& direction, const OdGeMatrix3d& matrix) const;
     // The contents of a block; false when there are none to be had.
-    bool block(OdDbObjectId block, const OdGeMatrix3d& toWorld) const;
+    bool block(OdDbObjectId block, const OdGeMatrix3d& toWorld, const Repeats& repeats = {}) const;
     bool block(const OdDbEntity& entity,
                const OdString& name) const; // as if drawn in the place of the entity
     // The mark of a reference without contents.

@@ -12,6 +12,10 @@ struct Look {
     Dashes dashes{};
     int weight = kDefaultWeight; // hundredths of a millimetre
     std::uint8_t opacity = 255;
+
+    friend bool operator==(const Look& a, const Look& b) {
+        return a.ink == b.ink && a.dashes == b.dashes && a.weight == b.weight && a.opacity == b.opacity;
+    }
 };
 
 struct Place {
@@ -23,6 +27,12 @@ struct Place {
     Look look;       // of the reference: parts that are "by block" follow it
     int depth = 0;
     bool isExternal = false; // the parts are those of another drawing
+};
+
+// How often a block is repeated, and the steps from one to the next in the drawing.
+struct Repeats {
+    int rows = 1, columns = 1;
+    OdGeVector3d rowStep{}, columnStep{};
 };
 
 // The layer that an object follows.

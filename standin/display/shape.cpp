@@ -9,6 +9,12 @@ namespace standin {
 namespace {
 
 const float largestName = 64; // pixels from the middle of a mark to the end of its letters, up or down
+const double farthest = 1e15; // beyond it pixels can't be told apart any more
+
+bool isUsable(const QPointF& point) {
+    return std::isfinite(point.x()) && std::isfinite(point.y()) && std::fabs(point.x()) < farthest &&
+           std::fabs(point.y()) < farthest;
+}
 
 QPointF arcPoint(const Shape& arc, double angle) {
     return arc.points[0] + arc.points[1] * std::cos(angle) + arc.points[2] * std::sin(angle);
@@ -34,6 +40,10 @@ Box boxOfArc(const Shape& arc) {
 double weightInPixels(int weight) {
     const double dotsPerHundredth = 96 / 2540.0;
     return std::max(1.0, weight * dotsPerHundredth);
+}
+
+bool isDrawable(const Shape& shape) {
+    return !shape.points.empty() && std::all_of(shape.points.begin(), shape.points.end(), isUsable);
 }
 
 std::vector<QPointF> arcPoints(const Shape& arc, double scale) {

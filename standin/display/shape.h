@@ -83,6 +83,8 @@ std::vector<QPointF> arcPoints(const Shape& arc, double scale);
 std::vector<QPointF> textCorners(const Shape& text);
 // The borders of a filled area, each back to its start.
 std::vector<std::vector<QPointF>> bordersOf(const Shape& fill);
+// Whether all places are numbers, and not too far away.
+bool isDrawable(const Shape& shape);
 bool isInside(const Shape& fill, const QPointF& point);
 Box boxOf(const Shape& shape);
 Reach reachOf(const Shape& shape);

@@ -157,6 +157,21 @@ double tallestLetter(const TextLine& line) {
     return tallest > 0 ? tallest : line.format.height;
 }
 
+double stackHeight(const TextAtom& stack) { return 2 * stack.format.height * (kStackPart + kStackGap); }
+
+double stackBottom(const TextAtom& stack) {
+    return (stack.format.height - stackHeight(stack)) * stack.format.place / 2;
+}
+
+double stacksAbove(const TextLine& line) {
+    const double letters = tallestLetter(line);
+    double above = 0;
+    for (const TextAtom& atom : line.atoms)
+        if (atom.kind == TextAtom::Stack && atom.bar != L'#')
+            above = std::max(above, stackBottom(atom) + stackHeight(atom) - letters);
+    return above;
+}
+
 double tabPlace(double x, double following, const OdDbParagraphFormat& paragraph, double letterHeight) {
     for (const OdDbParagraphFormat::Tab& tab : paragraph.tabs) {
         const double before = tab.alignment == OdDbParagraphFormat::kCenter  ? following / 2

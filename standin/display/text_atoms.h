@@ -28,10 +28,17 @@ struct TextLine {
 
 // How large the letters of a stack are, of those around it.
 constexpr double kStackPart = 0.7;
+// And how far each part of it is from the bar between, of the height of the letters around.
+constexpr double kStackGap = 0.15;
+// Of a stack above the base line, or the other way round below it, by where it stands.
+double stackBottom(const TextAtom& stack);
+double stackHeight(const TextAtom& stack);
 
 double widthOf(const QString& text, const OdDbTextFormat& format);
 double naturalWidth(const TextLine& line); // without blanks at its end; tabs reach to their places
 double tallestLetter(const TextLine& line);
+// How far stacks reach out above that.
+double stacksAbove(const TextLine& line);
 // Where a tab at `x` leads to, with what follows it being so wide.
 double tabPlace(double x, double following, const OdDbParagraphFormat& paragraph, double letterHeight);
 

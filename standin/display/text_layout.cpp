@@ -11,7 +11,6 @@ namespace {
 
 const double lineStep = 5.0 / 3.0;                                 // letter heights from one line to the next
 const double underlineAt = -0.2, overlineAt = 1.2, strikeAt = 0.4; // letter heights
-const double stackGap = 0.15;                                      // letter heights around the bar of a stack
 
 class LineSetter {
 public:
@@ -125,8 +124,7 @@ private:
             laid.marks.push_back({{x + upper, y - rise}, {x + stack.width - lower, y + letters}, format});
             return;
         }
-        const double gap = letters * stackGap, whole = 2 * part + 2 * gap;
-        const double low = y + (letters - whole) * stack.format.place / 2;
+        const double gap = letters * kStackGap, low = y + stackBottom(stack);
         laid.runs.push_back(
             {stack.text, {x + (stack.width - upper) / 2, low + part + 2 * gap}, upper, format});
         laid.runs.push_back({stack.lower, {x + (stack.width - lower) / 2, low}, lower, format});
@@ -166,8 +164,9 @@ public:
 
 private:
     void add(const TextLine& line) {
-        const double letters = tallestLetter(line);
-        const double step = (room.isSpacingExact ? room.letterHeight : letters) * lineStep * room.spacing;
+        const double above = stacksAbove(line), letters = tallestLetter(line) + above;
+        const double step = room.isSpacingExact ? room.letterHeight * lineStep * room.spacing
+                                                : tallestLetter(line) * lineStep * room.spacing + above;
         const double base = baseIn(columns.back(), letters, step);
         if (limit() > 0 && base > limit() && !columns.back().lines.empty() && isMore())
             columns.emplace_back();

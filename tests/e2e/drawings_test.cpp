@@ -72,6 +72,17 @@ TEST_F(DrawingsTest, OpenTellsWhereItLookedForAFileThatIsNowhere) {
     EXPECT_EQ(title(), "lines.dxf - Workbench");
 }
 
+TEST_F(DrawingsTest, OpenTellsOnceWhatIsNotShown) {
+    QFile file(root.filePath("bodies.dxf"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(
+        "0\nSECTION\n2\nENTITIES\n0\nBODY\n8\n0\n0\nREGION\n8\n0\n0\nREGION\n8\n0\n0\nLINE\n8\n0\n10\n0\n"
+        "20\n0\n11\n1\n21\n1\n0\nENDSEC\n0\nEOF\n");
+    file.close();
+    enter({"OPEN", "bodies.dxf", "ZOOM", "Extents"});
+    EXPECT_EQ(transcript().filter("not shown"), QStringList("3 objects are not shown: 2 REGION, 1 BODY."));
+}
+
 TEST_F(DrawingsTest, SaveAsTakesANameAndAsksBeforeItReplaces) {
     eraseFirstLine();
     const QString copy = root.filePath("copy");

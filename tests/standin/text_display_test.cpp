@@ -1,5 +1,6 @@
 // Texts: what their codes do to the letters, and where the letters stand.
 #include "standin/display/letters.h"
+#include "standin/display/text_layout.h"
 #include "tests/standin/shown_drawing.h"
 
 #include <algorithm>
@@ -113,8 +114,8 @@ TEST(ParagraphTexts, StackFractions) {
     const Texts drawing(mtext("\\S1/22;"));
     const Shape &upper = drawing.text("1"), &lower = drawing.text("22");
     EXPECT_EQ(heightOf(upper), 7);
-    EXPECT_EQ(lower.points[0], QPointF(0, -10));
-    EXPECT_NEAR(upper.points[0].y(), -10 + 7 + 3, 1e-9);
+    EXPECT_NEAR(lower.points[0].y(), -17, 1e-9); // 17 high in all
+    EXPECT_NEAR(upper.points[0].y(), -17 + 7 + 3, 1e-9);
     EXPECT_NEAR(upper.points[0].x(), 0.7 * (widthOf("22") - widthOf("1")) / 2, 1e-9); // in the middle
     const auto bars = drawing.all(Shape::Path);
     ASSERT_EQ(bars.size(), 1u);
@@ -137,9 +138,15 @@ TEST(ParagraphTexts, StackTolerancesWithoutABarAndSlashesWithASlantedOne) {
 
 TEST(ParagraphTexts, PlaceStacksBesideTheLettersAround) {
     const auto lowest = [](const char* code) { return Texts(mtext(code)).text("2").points[0].y(); };
-    EXPECT_NEAR(lowest("\\A0;\\S1/2;"), -10, 1e-9);
-    EXPECT_NEAR(lowest("\\A1;\\S1/2;"), -10 - 3.5, 1e-9); // 17 high in all, about the middle of the letters
-    EXPECT_NEAR(lowest("\\A2;\\S1/2;"), -10 - 7, 1e-9);
+    EXPECT_NEAR(lowest("\\A0;\\S1/2;"), -17,
+                1e-9); // a stack hangs as high as its letters reach: 17 high in all
+    EXPECT_NEAR(lowest("\\A1;\\S1/2;"), -17, 1e-9);
+    EXPECT_NEAR(lowest("\\A2;\\S1/2;"), -17, 1e-9);
+    const auto baseOf = [](const char* code) { return Texts(mtext(code)).text("x").points[0].y(); };
+    EXPECT_NEAR(baseOf("x\\A0;\\S1/2;"), -17,
+                1e-9); // on its lower edge, about its middle, below its upper one
+    EXPECT_NEAR(baseOf("x\\A1;\\S1/2;"), -13.5, 1e-9);
+    EXPECT_NEAR(baseOf("x\\A2;\\S1/2;"), -10, 1e-9);
 }
 
 struct AlignmentCase {
@@ -241,6 +248,28 @@ TEST(ParagraphTexts, FollowTheWidthAndTheSlantOfTheirStyle) {
     const Shape& text = list.within({-1, -20, 1, 1}).at(0)->shapes.at(0);
     EXPECT_EQ(text.points[1].x(), 5);
     EXPECT_NEAR(text.points[2].x(), 10, 1e-9);
+}
+
+// Room of two columns, 100 wide and 20 apart; the first one takes two lines.
+TEST(ParagraphTexts, FlowFromColumnToColumn) {
+    OdDbTextFormat format;
+    format.height = 10;
+    TextRoom room;
+    room.letterHeight = 10;
+    room.width = 100;
+    room.columnCount = 2;
+    room.gutter = 20;
+    room.columnHeights = {30};
+    const LaidText flowing = layOut(odDbTextPieces(L"a\\Pb\\Pc\\Pd", format), room);
+    ASSERT_EQ(flowing.runs.size(), 4u);
+    EXPECT_EQ(flowing.runs[2].at, QPointF(120, -10));
+    EXPECT_EQ(flowing.runs[3].at.x(), 120);
+    EXPECT_EQ(flowing.box.right, 220);
+    room.columnHeights.clear();
+    const LaidText broken = layOut(odDbTextPieces(L"a\\Nb\\Nc", format), room);
+    ASSERT_EQ(broken.runs.size(), 3u);
+    EXPECT_EQ(broken.runs[1].at, QPointF(120, -10));
+    EXPECT_EQ(broken.runs[2].at.x(), 120); // there is no third one
 }
 
 std::string text(const std::string& contents, const std::string& more = {}, const std::string& behind = {}) {

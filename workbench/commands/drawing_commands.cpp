@@ -6,6 +6,7 @@
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
 #include "standin/documents/document_manager.h"
+#include "workbench/canvas/canvas.h"
 #include "workbench/commands/commands.h"
 #include "workbench/commands/file_questions.h"
 
@@ -29,6 +30,13 @@ void openDrawing(const CommandScope& scope) {
     if (Document* open = scope.documents.documentOfFile(*path))
         return scope.documents.activate(open);
     scope.documents.openFile(*path);
+}
+
+// What of a drawing that was just opened is not on the screen.
+void printUnshown(const CommandScope& scope, Document& document) {
+    const DisplayList* shown = scope.canvas.listOf(*document.database());
+    for (const QString& notice : shown ? shown->unshown().notices() : QStringList())
+        scope.console.print(notice);
 }
 
 void closeCurrent(const CommandScope& scope) {
@@ -155,6 +163,8 @@ static void addFileEntries(MenuSink& menus) {
 }
 
 void addDrawingCommands(const CommandScope& scope) {
+    QObject::connect(&scope.documents, &DocumentManager::documentOpened, &scope.documents,
+                     [scope](Document* document) { printUnshown(scope, *document); });
     Console& console = scope.console;
     DocumentManager& documents = scope.documents;
     addFileEntries(scope.menus);

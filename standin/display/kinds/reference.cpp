@@ -18,18 +18,24 @@ void drawAttributes(const OdDbBlockReference& reference, const Pencil& pencil) {
     }
 }
 
+Repeats repeatsOf(const OdDbBlockReference& reference, const OdGeMatrix3d& world) {
+    const OdGePoint3d origin;
+    const OdGePoint3d first = reference.blockTransform() * origin;
+    const auto step = [&](int row, int column) {
+        return world * (reference.blockTransform(row, column) * origin - first);
+    };
+    return {reference.rowCount(), reference.columnCount(), step(1, 0), step(0, 1)};
+}
+
 } // namespace
 
 void draw::reference(const OdDbEntity& entity, const Pencil& pencil) {
     const auto* reference = dynamic_cast<const OdDbBlockReference*>(&entity);
     if (!reference)
         return;
-    const OdDbObjectId block = reference->blockTableRecord();
-    bool shown = false;
-    for (int row = 0; row < reference->rowCount() && !pencil.isFull(); ++row)
-        for (int column = 0; column < reference->columnCount() && !pencil.isFull(); ++column)
-            shown |= pencil.block(block, pencil.world() * reference->blockTransform(row, column));
-    if (!shown && !pencil.isLayerOff() && !pencil.isFull())
+    const OdGeMatrix3d first = pencil.world() * reference->blockTransform();
+    if (!pencil.block(reference->blockTableRecord(), first, repeatsOf(*reference, pencil.world())) &&
+        !pencil.isLayerOff())
         pencil.missing(pencil.world() * reference->position(), reference->blockName());
     drawAttributes(*reference, pencil);
 }
