@@ -272,6 +272,13 @@ TEST(ParagraphTexts, FlowFromColumnToColumn) {
     EXPECT_EQ(broken.runs[2].at.x(), 120); // there is no third one
 }
 
+TEST(ParagraphTexts, HaveTheColumnsOfTheObjectWithinThem) {
+    const Texts drawing(mtext("a\\Nb") + "101\nEmbedded Object\n70\n1\n" + point(10, 1, 0) + point(11, 0, 0) +
+                        "40\n220.0\n41\n50.0\n42\n220.0\n43\n50.0\n71\n1\n72\n2\n44\n100.0\n45\n20.0\n");
+    EXPECT_EQ(drawing.text("a").points[0], QPointF(0, -10));
+    EXPECT_EQ(drawing.text("b").points[0], QPointF(120, -10));
+}
+
 std::string text(const std::string& contents, const std::string& more = {}, const std::string& behind = {}) {
     return head("TEXT", "AcDbText") + point(10, 1, 2) + "40\n10.0\n1\n" + contents + "\n" + more +
            "100\nAcDbText\n" + behind;

@@ -35,6 +35,14 @@ TextRoom roomOf(const OdDbMText& text) {
     room.isSpacingExact = tags.integer(part, 73) == 2;
     room.column = attachment % 3;
     room.row = attachment / 3;
+    if (const OdDbMText::Columns columns = text.columns(); columns.count > 1 && columns.width > 0) {
+        room.width = columns.width;
+        room.gutter = columns.gutter;
+        room.columnCount = columns.count;
+        room.columnHeights = columns.heights;
+        if (room.columnHeights.empty() && columns.height > 0)
+            room.columnHeights = {columns.height};
+    }
     return room;
 }
 
