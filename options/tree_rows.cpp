@@ -91,7 +91,6 @@ void Preferences::forgetWidgets(TreeItem* item) {
     for (int i = 0; i < item->childCount(); ++i)
         forgetWidgets(item->childItem(i));
     rowWidgets.remove(item);
-    QRadioButton* const button = radioButtons.take(item);
-    if (button && radioLists.contains(item->parentItem()))
-        radioLists[item->parentItem()].removeOne(button);
+    if (QRadioButton* const button = radioButtons.take(item))
+        radioLists[item->parentItem()].removeOne(button); // the list goes after the last of its rows
 }

@@ -6,6 +6,7 @@
 #include "host/modal_runner.h"
 #include "host/text.h"
 #include "host/transaction_guard.h"
+#include "host/typed_reads.h"
 #include "xref/attach_dialog.h"
 #include "xref/attach_host.h"
 #include "xref/file_selection.h"
@@ -37,10 +38,10 @@ private:
     bool wasStarted;
 };
 
-CKWVariant joinedPaths(QStringList files) {
+CXStringW joinedPaths(QStringList files) {
     for (QString& file : files)
         file = QDir::toNativeSeparators(file);
-    return CKWVariant(hostqt::cxStringW(files.join(QLatin1Char(';'))));
+    return hostqt::cxStringW(files.join(QLatin1Char(';')));
 }
 
 // Moves the window behind the dialog, not the dialog: that is meant.
@@ -90,8 +91,7 @@ int OdQCmd_hostAttachExternalReferenceCommand::Run(IParam*) {
     if (files.paths.isEmpty())
         return 0;
     const Ref<IParam> params = Ref<IParam>::take(new_MemParam());
-    const CKWVariant paths = joinedPaths(files.paths);
-    params->setValue("PATH", &paths);
+    writeValue(params.get(), "PATH", joinedPaths(files.paths));
     const NewDefinitionsScope newDefinitions;
     const OdDbDatabasePtr database = attach::database();
     const UndoBlock undoBlock(database);
