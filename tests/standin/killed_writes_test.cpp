@@ -47,7 +47,9 @@ struct KilledHistory : testing::Test {
     }
     void keep(const QByteArray& content) {
         writeText(drawing, content);
-        VersionStore(root(), io).keep(drawing, "reason of " + content, 3);
+        VersionStore store(root(), io);
+        if (store.add(drawing, "reason of " + content))
+            store.settle(drawing, 3);
     }
     QStringList contents() {
         QStringList found;
