@@ -43,7 +43,8 @@ protected:
             firstBytes = document->database()->writeBytes();
         watched = documents().currentOne();
     }
-    // Each turn first arranges the next one, since what it does may run a loop of its own until a later turn ends it.
+    // Each turn first arranges the next one, since what it does may run a loop of its own until a later turn
+    // ends it.
     void turn() {
         if (done)
             return;
