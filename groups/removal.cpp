@@ -14,7 +14,8 @@ bool mayRemove(const OdDbGroupPtr& group, std::size_t count, const OdString& nam
     QMessageBox box(QMessageBox::Question, title, group_messages::removingAll(name),
                     QMessageBox::Ok | QMessageBox::Cancel);
     box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(defaultButton);
+    // As QMessageBox::question has it: the button that accepts where no default is named.
+    box.setDefaultButton(defaultButton == QMessageBox::NoButton ? QMessageBox::Ok : defaultButton);
     return runModal(box) == QMessageBox::Ok;
 }
 

@@ -4,6 +4,8 @@
 #include "tests/standin/file_store_fixture.h"
 #include "tests/support/kill_at_call.h"
 
+#include <QDateTime>
+
 using namespace standin;
 
 namespace {
@@ -47,6 +49,12 @@ struct KilledHistory : testing::Test {
     }
     void keep(const QByteArray& content) {
         writeText(drawing, content);
+        // Versions are told apart by their times, as a user's are.
+        QFile file(drawing);
+        EXPECT_TRUE(file.open(QIODevice::ReadWrite));
+        EXPECT_TRUE(file.setFileTime(QDateTime(QDate(2024, 3, 1), QTime(12, 0), Qt::UTC).addDays(++day),
+                                     QFileDevice::FileModificationTime));
+        file.close();
         VersionStore store(root(), io);
         if (store.add(drawing, "reason of " + content))
             store.settle(drawing, 3);
@@ -63,6 +71,7 @@ struct KilledHistory : testing::Test {
     QString drawing = folder.filePath(QStringLiteral("plan.dxf"));
     QStringList problems;
     StoreIo io;
+    int day = 0;
 };
 
 TEST_F(KilledHistory, EveryCallLeavesTheFormerVersionsWhole) {

@@ -25,6 +25,8 @@ protected:
     ValueRangesTest() {
         QDir().mkpath(data);
         QDir().mkpath(root);
+        for (const char* empty : {"/formats.yaml", "/papers.yaml", "/stddirs.yaml"})
+            writeText(data + empty, "");
         writeText(
             data + "/preftree.yaml",
             "PrefTree:\n"
