@@ -52,8 +52,9 @@ struct KilledHistory : testing::Test {
         // Versions are told apart by their times, as a user's are.
         QFile file(drawing);
         EXPECT_TRUE(file.open(QIODevice::ReadWrite));
-        EXPECT_TRUE(file.setFileTime(QDateTime(QDate(2024, 3, 1), QTime(12, 0), Qt::UTC).addDays(++day),
-                                     QFileDevice::FileModificationTime));
+        EXPECT_TRUE(file.setFileTime(
+            QDateTime(QDate(2024, 3, 1), QTime(12, 0), Qt::UTC).addDays(order.indexOf(content)),
+            QFileDevice::FileModificationTime));
         file.close();
         VersionStore store(root(), io);
         if (store.add(drawing, "reason of " + content))
@@ -71,7 +72,7 @@ struct KilledHistory : testing::Test {
     QString drawing = folder.filePath(QStringLiteral("plan.dxf"));
     QStringList problems;
     StoreIo io;
-    int day = 0;
+    const QStringList order{"one", "two", "three", "four", "five"};
 };
 
 TEST_F(KilledHistory, EveryCallLeavesTheFormerVersionsWhole) {
