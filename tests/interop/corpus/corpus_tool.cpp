@@ -1,7 +1,7 @@
-// Holds one drawing of another program to what every drawing may expect: corpus_tool IN FOLDER writes what it read as
-// JSON to the standard output, and into the folder the drawing as it was read (copy.dxf), after a group of everything was
-// made and undone (undone.dxf), and with that group after redoing it (grouped.dxf). One of the oldest version gets its
-// group in its newer form (newer.dxf).
+// Holds one drawing of another program to what every drawing may expect: corpus_tool IN FOLDER writes what it
+// read as JSON to the standard output, and into the folder the drawing as it was read (copy.dxf), after a
+// group of everything was made and undone (undone.dxf), and with that group after redoing it (grouped.dxf).
+// One of the oldest version gets its group in its newer form (newer.dxf).
 #include "sdk/db/block_table.h"
 #include "sdk/db/dictionary.h"
 #include "sdk/db/entity.h"

@@ -9,7 +9,8 @@ using Version = DL_Codes::version;
 
 class Sheet {
 public:
-    Sheet(const std::string& file, Version version) : out(library.out(file.c_str(), version)), version(version) {
+    Sheet(const std::string& file, Version version)
+        : out(library.out(file.c_str(), version)), version(version) {
         library.writeHeader(*out);
         out->sectionEnd();
         writeTables();
@@ -74,7 +75,8 @@ void round(Sheet& sheet) {
     sheet.library.writeCircle(*sheet.out, DL_CircleData(10, 10, 0, 5), kOnWalls);
     sheet.library.writeArc(*sheet.out, DL_ArcData(0, 0, 0, 8, 30, 290), kRed);
     if (sheet.version != DL_VERSION_R12)
-        sheet.library.writeEllipse(*sheet.out, DL_EllipseData(0, 0, 0, 20, 5, 0, 0.4, 0, 6.28318530717959), kRed);
+        sheet.library.writeEllipse(*sheet.out, DL_EllipseData(0, 0, 0, 20, 5, 0, 0.4, 0, 6.28318530717959),
+                                   kRed);
 }
 
 void polylines(Sheet& sheet) {
@@ -86,11 +88,13 @@ void polylines(Sheet& sheet) {
 }
 
 void texts(Sheet& sheet) {
-    sheet.library.writeText(*sheet.out,
-                            DL_TextData(5, 5, 0, 5, 5, 0, 2.5, 1, 0, 0, 0, "Plan 1:50 %%c12", "standard", 0.3), kOnWalls);
+    sheet.library.writeText(
+        *sheet.out, DL_TextData(5, 5, 0, 5, 5, 0, 2.5, 1, 0, 0, 0, "Plan 1:50 %%c12", "standard", 0.3),
+        kOnWalls);
     if (sheet.version != DL_VERSION_R12)
-        sheet.library.writeMText(*sheet.out, DL_MTextData(5, 20, 0, 1, 0, 0, 2.5, 40, 1, 1, 1, 1, "one\\Ptwo", "standard", 0),
-                                 kRed);
+        sheet.library.writeMText(
+            *sheet.out, DL_MTextData(5, 20, 0, 1, 0, 0, 2.5, 40, 1, 1, 1, 1, "one\\Ptwo", "standard", 0),
+            kRed);
 }
 
 void solids(Sheet& sheet) {
