@@ -84,6 +84,8 @@ struct ThrowingSlots : DrawingFixture, testing::WithParamInterface<Dialog> {
                qobject_cast<const QAbstractItemView*>(control);
     }
     void open(const Act& whenOpen) {
+        if (GetParam().asksForFile)
+            play({[this] { submit("FILEDIA"); }, [this] { submit("1"); }});
         std::vector<Act> steps{[this] { submit(GetParam().command); }};
         if (GetParam().asksForFile)
             steps.emplace_back([this] {
