@@ -145,6 +145,17 @@ TEST_F(RowMoves, ForgetsTheButtonOfAMovedRadio) {
     EXPECT_EQ(itemOf(dialog, "b")->state, 1);
 }
 
+TEST_F(RowMoves, ForgetsTheRowsBelowAMovedRow) {
+    tree.node("one").node("inner").type(L"Radio");
+    tree.node("two");
+    OpenDialog dialog;
+    dialog.clickRow(itemOf(dialog, "one"));
+    dialog.moveCurrent(1);
+    EXPECT_TRUE(dialog.rowWidgets.contains(itemOf(dialog, "one"))) << "its own row is made anew";
+    EXPECT_FALSE(dialog.rowWidgets.contains(itemOf(dialog, "inner"))) << "that one went with the move";
+    EXPECT_FALSE(dialog.radioButtons.contains(itemOf(dialog, "inner")));
+}
+
 TEST_F(RowMoves, MovesAPaperWithItsRecord) {
     addPapers({L"A4", L"A3", L"A2"});
     OpenDialog dialog;
