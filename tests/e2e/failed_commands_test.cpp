@@ -66,14 +66,6 @@ TEST_F(FailedCommands, AScriptThatEndsWhileADialogIsOpenCancelsIt) {
     EXPECT_FALSE(document().database()->isModified());
 }
 
-TEST_F(FailedCommands, AScriptThatEndsAtAPromptCancelsIt) {
-    EXPECT_EQ(play("SETVAR"), "") << "a prompt may stay open: the next line answers it";
-    EXPECT_TRUE(bench->commands().isRunning());
-    EXPECT_TRUE(play("@click nowhere").contains("was not taken"));
-    EXPECT_FALSE(bench->commands().isRunning());
-    EXPECT_TRUE(transcript().last().contains("*Cancel*"));
-}
-
 TEST_F(FailedCommands, CommandsOfThePlugInSayThatNoDrawingIsOpen) {
     enter({"CLOSE", "CLOSE"}); // this drawing, and the empty one of the start
     for (const char* command : {"DWGPROPS", "QPREF"}) {
