@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QMessageBox>
+#include <QTimer>
 #include <csignal>
 #include <sys/resource.h>
 
@@ -64,6 +65,27 @@ TEST_F(FailedCommands, AScriptThatEndsWhileADialogIsOpenCancelsIt) {
         EXPECT_TRUE(bench->commands().isReady() && !bench->commands().isRunning()) << command;
     }
     EXPECT_FALSE(document().database()->isModified());
+}
+
+TEST_F(FailedCommands, AScriptThatFailsAtAPromptCancelsIt) {
+    EXPECT_TRUE(play("SETVAR\n@click nowhere").contains("was not taken"));
+    EXPECT_FALSE(bench->commands().isRunning());
+    EXPECT_TRUE(transcript().last().contains("*Cancel*")) << transcript().last().toStdString();
+}
+
+TEST_F(FailedCommands, AScriptMayEndAtAPromptThatTheUserAnswers) {
+    workbench::ScriptPlayer player("test", "SETVAR", bench->console(), bench->commands());
+    QString problem = "none was emitted";
+    bool wasRunning = false;
+    // The prompt waits within the script's step, so its user answers from there.
+    QObject::connect(&player, &workbench::ScriptPlayer::finished, &player, [&](const QString& emitted) {
+        problem = emitted;
+        wasRunning = bench->commands().isRunning();
+        QTimer::singleShot(0, &player, [&] { bench->console().escape(); });
+    });
+    player.start();
+    EXPECT_TRUE(waitUntil([&] { return wasRunning && !bench->commands().isRunning(); }, 20000));
+    EXPECT_EQ(problem, "");
 }
 
 TEST_F(FailedCommands, CommandsOfThePlugInSayThatNoDrawingIsOpen) {

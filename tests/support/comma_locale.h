@@ -4,7 +4,9 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <cerrno>
 #include <clocale>
+#include <cstring>
 #include <string>
 
 // In force while it lives, for LC_NUMERIC alone.
@@ -21,7 +23,9 @@ public:
             file.write(numeric, sizeof numeric);
         file.close();
         qputenv("LOCPATH", folder.path().toLocal8Bit());
-        std::setlocale(LC_NUMERIC, "comma");
+        errno = 0;
+        if (!std::setlocale(LC_NUMERIC, "comma"))
+            reason = folder.path().toStdString() + ": " + std::strerror(errno);
     }
     ~CommaLocale() {
         std::setlocale(LC_NUMERIC, former.c_str());
@@ -32,11 +36,13 @@ public:
     }
     CommaLocale(const CommaLocale&) = delete;
     CommaLocale& operator=(const CommaLocale&) = delete;
-    // False where the C library has another form of locales.
+    // False where the C library does not load a locale from that folder.
     bool isInForce() const { return std::string(std::localeconv()->decimal_point) == ","; }
+    const std::string& whyNot() const { return reason; }
 
 private:
     QTemporaryDir folder;
     std::string former;
     QByteArray formerPath;
+    std::string reason;
 };

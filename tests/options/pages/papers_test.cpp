@@ -93,8 +93,12 @@ TEST_F(Papers, TheDecimalPointIsAPointInEveryLocale) {
     QLocale::setDefault(QLocale(QLocale::German));
     EXPECT_EQ(filled({1.5, 2}).rowText(), "<<Unnamed paper>> (1.50 x 2.00 mm)");
     QLocale::setDefault(before);
+}
+
+TEST_F(Papers, TheDecimalPointIsAPointUnderACommaOfTheCLibrary) {
     const CommaLocale comma;
-    ASSERT_TRUE(comma.isInForce());
+    if (!comma.isInForce())
+        GTEST_SKIP() << "this C library does not load the locale: " << comma.whyNot();
     EXPECT_EQ(filled({1.5, 2}).rowText(), "<<Unnamed paper>> (1.50 x 2.00 mm)");
 }
 
