@@ -46,7 +46,6 @@ function(house_test folder)
     target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
                                                SHIPPED_DATA_DIR="${CMAKE_SOURCE_DIR}/workbench/data")
     # By env(1): a test property keeps no list, so of several variables only the first would arrive.
-    set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR
-                          "env;QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${HOUSE_SANITIZER_ENV}")
-    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+    set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR "env;${HOUSE_TEST_ENV}")
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300 LABELS gtest)
 endfunction()
