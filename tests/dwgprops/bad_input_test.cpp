@@ -117,6 +117,7 @@ TEST_F(BadInput, DuplicateKeysFromTheFileAreShownAndWrittenEachInItsPlace) {
     EXPECT_EQ(shownProperties(*OpenProperties(kCustom).customTable()), expected);
     setTitleInTheDialog("title");
     saveAndReadAgain(path);
+    EXPECT_EQ(title(), QStringLiteral("title"));
     EXPECT_EQ(properties(), expected);
 }
 
@@ -153,6 +154,7 @@ TEST_F(BadInput, OddPropertiesAreThereAfterASaveInOldAndNewFiles) {
         setProperties(odd);
         setTitleInTheDialog("title");
         saveAndReadAgain(path);
+        EXPECT_EQ(title(), QStringLiteral("title")) << version;
         EXPECT_EQ(properties(), odd) << version;
     }
 }

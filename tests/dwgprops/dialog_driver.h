@@ -73,9 +73,17 @@ inline Properties shownProperties(const QTableWidget& table) {
     return shown;
 }
 
+// How many dialogs are awaited that have not come up. None may be at the end of a test.
+inline int& awaitedDialogs() {
+    static int count = 0;
+    return count;
+}
+
 // Runs `hands` on the next modal dialog of class `Dialog`, once its loop runs.
 template <class Dialog> void onNextDialog(const std::function<void(Dialog&)>& hands) {
+    ++awaitedDialogs();
     QTimer::singleShot(0, qApp, [hands] {
+        --awaitedDialogs();
         auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
         ASSERT_NE(dialog, nullptr) << "no such dialog came up";
         hands(*dialog);
@@ -85,7 +93,10 @@ template <class Dialog> void onNextDialog(const std::function<void(Dialog&)>& ha
 class DrawingProperties : public testing::Test {
 protected:
     DrawingProperties() { host.openDocument(drawing); }
-    ~DrawingProperties() override { host.closeDocument(); }
+    ~DrawingProperties() override {
+        EXPECT_EQ(awaitedDialogs(), 0) << "a dialog that the test waits for did not come up";
+        host.closeDocument();
+    }
 
     void useDrawing(const OdDbDatabasePtr& other) {
         drawing = other;

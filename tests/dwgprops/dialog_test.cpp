@@ -204,8 +204,10 @@ TEST_F(PropertiesDialog, OkLeavesLastSavedByAndRevisionAlone) {
     info->setLastSavedBy(L"anna");
     info->setRevisionNumber(L"7");
     oddbPutSummaryInfo(info.get());
-    OpenProperties dialog;
+    OpenProperties dialog(kSummary);
+    dialog.type("titleEdit", "A house");
     dialog.click("okButton");
+    ASSERT_EQ(summary()->getTitle(), OdString(L"A house"));
     EXPECT_EQ(summary()->getLastSavedBy(), OdString(L"anna"));
     EXPECT_EQ(summary()->getRevisionNumber(), OdString(L"7"));
 }
@@ -253,8 +255,9 @@ TEST_F(PropertiesDialog, ARowWithAValueButNoNameIsNeitherCountedNorWritten) {
     setProperties({{"a", "1"}});
     OpenProperties dialog;
     dialog.customTable()->setItem(1, 1, new QTableWidgetItem("2"));
+    dialog.customTable()->item(0, 1)->setText("written");
     dialog.click("okButton");
-    EXPECT_EQ(properties(), (Properties{{"a", "1"}}));
+    EXPECT_EQ(properties(), (Properties{{"a", "written"}}));
     EXPECT_TRUE(summary()->nameless.empty());
 }
 
@@ -274,6 +277,8 @@ TEST_F(PropertiesDialog, OddNamesAndValuesFromTheFileComeBackUnchanged) {
     setProperties(odd);
     OpenProperties dialog(kCustom);
     EXPECT_EQ(shownProperties(*dialog.customTable()), odd);
+    setProperties(numbered(int(odd.size())));
+    ASSERT_NE(properties(), odd) << "what OK has to replace";
     dialog.click("okButton");
     EXPECT_EQ(properties(), odd);
 }
@@ -315,6 +320,9 @@ TEST_F(PropertiesDialog, AFailureInTheConstructorReleasesWhatWasBuilt) {
 
 TEST_F(PropertiesDialog, TheDialogDropsItsReferencesWhenItGoes) {
     const long references = drawing->numRefs();
-    { const OpenProperties dialog; }
+    {
+        const OpenProperties dialog;
+        EXPECT_GT(drawing->numRefs(), references) << "while it is open it holds the drawing";
+    }
     EXPECT_EQ(drawing->numRefs(), references);
 }

@@ -154,6 +154,8 @@ TEST(HostFunctionsTest, AChangeOfThemeIsToldToTheWatcher) {
     QObject context;
     QObject::connect(hostGetQtStyleManager()->themeWatcher(),
                      &hostui::qt::style::hostQtThemeChangeWatcher::clicked, &context, [&] { ++changes; });
+    ASSERT_EQ(hostGetQtStyleManager()->themeNumber(), 0);
+    EXPECT_EQ(changes, 0);
     host.setTheme(1);
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(hostGetQtStyleManager()->themeNumber(), 1);

@@ -282,6 +282,7 @@ TEST_F(AttachCommand, SecondRunKeepsTheKindOfTheFirst) {
     runAndPress(write("part.dxf"), "okButton");
     OnAttachDialog onDialog([](Dialog& dialog) {
         dialog.overlayRadio->click();
+        EXPECT_TRUE(dialog.overlayRadio->isChecked());
         dialog.okButton->click();
     });
     run(inFolder("part.dxf"));

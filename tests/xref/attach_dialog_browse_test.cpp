@@ -1,5 +1,6 @@
 // Browse of the attach dialog, and the settings that it keeps or forgets.
 #include "host/typed_reads.h"
+#include "tests/support/local_code_page.h"
 #include "tests/xref/attach_dialog_fixture.h"
 
 namespace {
@@ -108,6 +109,16 @@ TEST_F(BrowseDialog, TwoFilesThatDifferInCaseAreOneAsTheTextHasItAndTwoIfTheHost
     EXPECT_EQ(dialog->path, inFolder("other.dxf"));
 }
 
+TEST_F(BrowseDialog, NameThatTheLocaleCannotExpressIsNotFoundAndItsDefinitionStays) {
+    const QString former = QString::fromUtf8("\xD0\x96");
+    open(write(former + ".dxf"));
+    ASSERT_EQ(referenceNames(), QStringList(former));
+    const LocalCodePage western("ISO-8859-1");
+    browse(write("other.dxf"));
+    EXPECT_EQ(dialog->name, "other");
+    EXPECT_EQ(referenceNames(), QStringList({former, "other"}));
+}
+
 TEST_F(BrowseDialog, OverlayIsPassedOnToTheNewDefinition) {
     open(write("part.dxf"));
     click("overlayRadio");
@@ -128,7 +139,11 @@ TEST_F(AttachDialog, WithoutAStoreNoSettingOutlivesTheDialog) {
     click("overlayRadio");
     choose("pathTypeCombo", 2);
     click("insertionOnScreenCheck");
+    ASSERT_TRUE(checked("autoZoomCheck"));
+    ASSERT_TRUE(checked("overlayRadio"));
+    ASSERT_FALSE(checked("insertionOnScreenCheck"));
     click("okButton");
+    ASSERT_EQ(ended, QDialog::Accepted);
     open(write("other.dxf"));
     EXPECT_FALSE(checked("autoZoomCheck"));
     EXPECT_TRUE(checked("attachmentRadio"));
@@ -166,10 +181,8 @@ TEST_F(AttachDialog, SettingsAreKeptInTheStoreOfTheHost) {
 TEST_F(AttachDialog, SeveralFilesLeaveTheThreeOnScreenSettingsAlone) {
     provideServices();
     const char* const onScreen[] = {"xAttachRefGrabScale", "xAttachRefGrabAngle", "xAttachRefGrabInsPoint"};
-    CKWVariant on;
-    on = 1;
     for (const char* key : onScreen)
-        services->store->setValue(key, &on);
+        store(key, 1);
     open(write("a.dxf") + ";" + write("b.dxf"));
     click("autoZoomCheck");
     click("okButton");
@@ -186,18 +199,20 @@ TEST_F(AttachDialog, SeveralFilesLeaveTheThreeOnScreenSettingsAlone) {
 
 TEST_F(AttachDialog, CancelKeepsTheSettingsAsTheyWere) {
     provideServices();
+    store("xAttachRefAutoZoom", 1);
     open(write("part.dxf"));
     click("autoZoomCheck");
+    ASSERT_FALSE(checked("autoZoomCheck"));
     click("cancelButton");
     open(write("part.dxf"));
-    EXPECT_FALSE(checked("autoZoomCheck"));
+    EXPECT_TRUE(checked("autoZoomCheck"));
 }
 
 TEST_F(AttachDialog, MapGoesBeforeTheSettings) {
     provideServices();
-    CKWVariant on;
-    on = 1;
-    services->store->setValue("xAttachRefAutoZoom", &on);
+    store("xAttachRefAutoZoom", 1);
+    open(write("part.dxf"));
+    ASSERT_TRUE(checked("autoZoomCheck"));
     give("AUTO_ZOOM", 0);
     open(write("part.dxf"));
     EXPECT_FALSE(checked("autoZoomCheck"));
@@ -205,9 +220,10 @@ TEST_F(AttachDialog, MapGoesBeforeTheSettings) {
 
 TEST_F(AttachDialog, SettingThatIsNoRowOfTheListLeavesTheDefault) {
     provideServices();
-    CKWVariant row;
-    row = 17;
-    services->store->setValue("xAttachRefPathType", &row);
-    open(write("part.dxf"));
-    EXPECT_EQ(control<QComboBox>("pathTypeCombo")->currentIndex(), 1);
+    const std::pair<int, int> shown[] = {{2, 2}, {17, 1}, {0, 0}, {-1, 1}, {3, 1}};
+    for (const auto& [stored, row] : shown) {
+        store("xAttachRefPathType", stored);
+        open(write("part.dxf"));
+        EXPECT_EQ(control<QComboBox>("pathTypeCombo")->currentIndex(), row) << stored;
+    }
 }

@@ -35,6 +35,12 @@ protected:
         value = number;
         params->setValue(key, &value);
     }
+    // Puts a setting into the store of the services, which must be there.
+    void store(const char* key, int number) {
+        CKWVariant value;
+        value = number;
+        services->store->setValue(key, &value);
+    }
     hostInsertExternalReferenceDialog& open() {
         dialog.reset();
         dialog = std::make_unique<hostInsertExternalReferenceDialog>(nullptr, params.get());

@@ -1,10 +1,10 @@
 // The attach dialog as it opens: defaults, the parameter map, one file and several.
 #include "sdk/db/layer_table.h"
+#include "tests/support/local_code_page.h"
 #include "tests/xref/attach_dialog_fixture.h"
 
 #include <QGroupBox>
 #include <QLayout>
-#include <QTextCodec>
 
 TEST_F(AttachDialog, ControlsHaveTheirDefaults) {
     open(write("part.dxf"));
@@ -146,6 +146,10 @@ TEST_F(AttachDialog, TwoFilesVary) {
 TEST_F(AttachDialog, OnScreenBoxesOfTheMapAreOffForSeveralFiles) {
     give("SCALE_SPECIFY_ON_SCREEN", 1);
     give("ROTATION_SPECIFY_ON_SCREEN", 1);
+    open(write("a.dxf"));
+    ASSERT_TRUE(checked("scaleOnScreenCheck"));
+    ASSERT_TRUE(checked("rotationOnScreenCheck"));
+    ASSERT_FALSE(enabled("scaleXEdit"));
     open("a.dxf;b.dxf");
     EXPECT_FALSE(checked("scaleOnScreenCheck"));
     EXPECT_FALSE(checked("rotationOnScreenCheck"));
@@ -206,9 +210,7 @@ TEST_F(AttachDialog, NumbersOfTheMapKeepTheirDigits) {
 
 TEST_F(AttachDialog, PathTypeThatIsNoRowOfTheListCountsAsAbsent) {
     provideServices();
-    CKWVariant none;
-    none = 2;
-    services->store->setValue("xAttachRefPathType", &none);
+    store("xAttachRefPathType", 2);
     for (const int row : {-1, 3, 17}) {
         give("PATH_TYPE", row);
         open(write("part.dxf"));
@@ -221,9 +223,7 @@ TEST_F(AttachDialog, PathTypeThatIsNoRowOfTheListCountsAsAbsent) {
 
 TEST_F(AttachDialog, ReferenceTypeZeroOfTheMapIsAnAttachmentThoughAnOverlayIsStored) {
     provideServices();
-    CKWVariant overlay;
-    overlay = 0; // of the radio button "Attachment"
-    services->store->setValue("xAttachRefType", &overlay);
+    store("xAttachRefType", 0); // of the radio button "Attachment"
     open(write("part.dxf"));
     EXPECT_TRUE(checked("overlayRadio"));
     give("REFERENCE_TYPE", 0);
@@ -250,14 +250,15 @@ TEST_F(AttachDialog, NameThatTheLocaleCannotExpressIsNotFound) {
     OdDbBlockTableRecordPtr record;
     dialog->updateUnit(name, record);
     EXPECT_FALSE(record.isNull());
-    QTextCodec* const former = QTextCodec::codecForLocale();
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+    const LocalCodePage western("ISO-8859-1");
     dialog->updateUnit(name, record);
-    QTextCodec::setCodecForLocale(former);
     EXPECT_TRUE(record.isNull());
 }
 
 TEST_F(AttachDialog, IntegerForANumberLeavesTheDefault) {
+    give("SCALE", 3.0);
+    open(write("part.dxf"));
+    ASSERT_EQ(text("scaleXEdit"), "3");
     give("SCALE", 3);
     open(write("part.dxf"));
     EXPECT_EQ(text("scaleXEdit"), "1");
@@ -312,11 +313,12 @@ TEST_F(AttachDialog, NameBesideTheDrawingIsFoundWithABase) {
 }
 
 TEST_F(AttachDialog, BlockNameThatIsNoBlockRecordThrowsNothingWhenMissing) {
-    open(write("part.dxf"));
-    OdDbBlockTableRecordPtr record;
+    drawing->setINSUNITS(OdDb::kUnitsMillimeters);
+    open(write("part.dxf", OdDb::kUnitsInches));
+    OdDbBlockTableRecordPtr record = block("part");
     dialog->updateUnit("no such block", record);
     EXPECT_TRUE(record.isNull());
-    EXPECT_EQ(text("factorEdit"), "1");
+    EXPECT_EQ(text("factorEdit"), "25.4");
     dialog->updateFromRecord(record);
     EXPECT_EQ(dialog->path, inFolder("part.dxf"));
 }

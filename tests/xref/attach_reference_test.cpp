@@ -164,6 +164,7 @@ TEST_F(AttachReference, ExistingDefinitionKeepsItsPathAndItsKind) {
     EXPECT_TRUE(block("part")->isFromOverlayReference());
     EXPECT_EQ(block("part")->pathName(), odPath("part.dxf"));
     EXPECT_THAT(referenceNames(), ElementsAre("part"));
+    EXPECT_EQ(inserted().size(), 1u);
 }
 
 TEST_F(AttachReference, SecondAttachOfOneFileSharesTheDefinition) {

@@ -169,11 +169,15 @@ TEST_F(CreateReference, ErasingLeavesADefinitionThatIsUsedElsewhere) {
     create(write("part.dxf"));
     const OdDbBlockReferencePtr other(new OdDbBlockReference);
     other->setBlockTableRecord(blockId);
-    odrxCast<OdDbBlockTableRecord>(drawing->getModelSpaceId().safeOpenObject(OdDb::kForWrite))
-        ->appendOdDbEntity(other.get());
+    const auto space =
+        odrxCast<OdDbBlockTableRecord>(drawing->getModelSpaceId().safeOpenObject(OdDb::kForWrite));
+    space->appendOdDbEntity(other.get());
+    space->appendOdDbEntity(reference.get());
+    ASSERT_EQ(inserted().size(), 2u);
     eraseNewXRef(reference);
     EXPECT_EQ(referenceNames(), QStringList("part"));
-    EXPECT_EQ(inserted().size(), 1u);
+    ASSERT_EQ(inserted().size(), 1u);
+    EXPECT_EQ(inserted()[0], other);
 }
 
 TEST_F(CreateReference, ThousandsOfReferencesAreNoHindrance) {

@@ -228,6 +228,7 @@ TEST_F(ScalePromptTexts, AsksWithItsPromptsKeywordsAndFlags) {
 TEST_F(ScalePromptTexts, MessagesOfRefusedAnswersAreSilentWithoutServices) {
     io.script({typed(L"abc"), cancel()});
     promptScale(reference, false, 1);
+    EXPECT_EQ(io.questions.size(), 2u) << "the answer was refused";
     EXPECT_TRUE(io.lines.isEmpty());
     EXPECT_TRUE(io.formatted.isEmpty());
 }
