@@ -3,6 +3,7 @@
 #include "options/preferences.h"
 
 #include "host/app.h"
+#include "host/dialog_habits.h"
 #include "host/documents.h"
 #include "host/text.h"
 #include "host/typed_reads.h"
@@ -37,6 +38,18 @@ QString displayText(IParam* node, const char* nodeName) {
     CXStringW text(nodeName);
     readValue(node, "Name", &text);
     return translated(text);
+}
+
+// Names that people know a row by although it shows them nowhere: that of its variable, and whatever the data
+// gives beside it.
+QString searchWordsOf(IParam* node) {
+    if (!hasHabit(DialogHabit::SearchWhileTyping))
+        return {};
+    CXString key;
+    CXStringW words;
+    readValue(node, "Key", &key);
+    readValue(node, "SearchWords", &words);
+    return (hostqt::qString(CXStringW(key.c_str())) + ' ' + translated(words)).trimmed();
 }
 
 NodeFacts readFacts(IParam* node, const char* nodeName, const TreeItem* parentItem) {
@@ -135,6 +148,7 @@ void Preferences::buildNode(IParam* node, const char* nodeName, TreeItem* parent
         item->setIcon(0, treeIcon(facts.imageId));
         item->nodeName = nodeName;
         item->description = facts.description;
+        item->searchWords = searchWordsOf(node);
         optionItems[item] = node;
         item->nodeType = facts.typeNumber;
         runIdRule(facts.id, item);

@@ -2,9 +2,11 @@
 // and all connections last, so that nothing reacts while the dialog is being built.
 #include "options/preferences.h"
 
+#include "host/dialog_habits.h"
 #include "module/icons/icons.h"
 #include "options/configuration_name.h"
 #include "options/icon_numbers.h"
+#include "options/option_keys.h"
 #include "options/pages/collapse_widget.h"
 #include "options/pages/searching_line_edit.h"
 
@@ -33,7 +35,7 @@ Preferences::Preferences(QWidget* parent, Qt::WindowFlags flags) : Preferences(U
     build();
     layOut();
     okButton->setDefault(true);
-    focusOkButton();
+    focusAtStart();
     connectAll();
 }
 
@@ -70,6 +72,8 @@ void Preferences::buildTree() {
     tree->setHeaderHidden(true);
     tree->setColumnCount(1);
     tree->header()->setStretchLastSection(true);
+    if (hasHabit(DialogHabit::FocusStaysInOptions))
+        keys = new OptionKeys(*this);
 }
 
 void Preferences::buildButtons() {

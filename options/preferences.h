@@ -14,6 +14,7 @@
 
 class CollapseWidget;
 class IParam;
+class OptionKeys;
 class QButtonGroup;
 class QComboBox;
 class QLabel;
@@ -144,9 +145,11 @@ private:
     void onThemeClicked();
     void setThemeIcons();
     void focusOkButton();
+    void focusAtStart();
     void movePaperRow(TreeItem* item, int step);
     void moveRow(TreeItem* item, int step, QWidget* editor);
     void applyChildren(TreeItem* item);
+    OptionKeys* keys = nullptr; // null unless the host wants the focus to stay where it is
     QToolBar* toolBar = nullptr;
     QLabel* configurationLabel = nullptr;
     QLabel* configurationValue = nullptr;

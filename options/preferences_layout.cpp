@@ -1,6 +1,7 @@
 // Where the controls of the Options dialog stand: the tree with the column beside it, and the rows below.
 #include "options/preferences.h"
 
+#include "options/option_keys.h"
 #include "options/pages/collapse_widget.h"
 #include "options/pages/searching_line_edit.h"
 
@@ -36,6 +37,8 @@ void Preferences::layOut() {
     outer->addLayout(columns);
     outer->addWidget(layOutBottomRows());
     setLayout(outer);
+    if (keys)
+        keys->orderTabs();
 }
 
 QWidget* Preferences::layOutRightColumn() {

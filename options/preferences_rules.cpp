@@ -27,7 +27,7 @@ QTreeWidgetItem* lastOpenItem(QTreeWidgetItem* item) {
 // Calls the base of QDialog on purpose: QDialog's own would move the dialog over its parent.
 void Preferences::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    focusOkButton();
+    focusAtStart();
 }
 
 // Shows as much of a newly opened branch as there is room for, and never scrolls the opened item out of view.
@@ -47,16 +47,23 @@ void Preferences::onItemExpanded(QTreeWidgetItem* item) {
         tree->scrollToItem(item, QAbstractItemView::PositionAtTop);
 }
 
-// The focus goes to OK on every change, also when the user has just clicked into the editor of another row:
-// meant, the second click edits.
+// Without a host that wants otherwise the focus goes to OK on every change, also when the user has just
+// clicked into the editor of another row: meant, the second click edits.
 void Preferences::onCurrentItemChanged(QTreeWidgetItem* current) {
     if (current)
         showDescription(static_cast<TreeItem*>(current));
-    if (!okButton->hasFocus())
+    if (!keys && !okButton->hasFocus())
         focusOkButton();
 }
 
 void Preferences::focusOkButton() { okButton->setFocus(Qt::OtherFocusReason); }
+
+void Preferences::focusAtStart() {
+    if (keys)
+        tree->setFocus(Qt::OtherFocusReason);
+    else
+        focusOkButton();
+}
 
 void Preferences::showDescription(TreeItem* item) {
     description->setPlainText(item->description);

@@ -73,5 +73,6 @@ public:
     QByteArray nodeName;          // a copy: the store's own name dies with its enumerator
     void* payload = nullptr;      // a record of the row's page
     QString description;
+    QString searchWords; // found like the description, but not shown; empty unless the host wants them found
     std::int32_t optionId = kIdNone;
 };

@@ -2,6 +2,7 @@
 #include "options/preferences.h"
 
 #include "host/typed_reads.h"
+#include "options/option_keys.h"
 #include "options/pages/clickable_label.h"
 #include "options/pages/pref_widget.h"
 
@@ -29,6 +30,8 @@ QPrefWidget* Preferences::makeRow(int position, TreeItem* item, QWidget* editor,
             [this, label](const QPoint& clicked) { showContextMenu(label, clicked); });
     connect(label, &ClickableLabel::doubleClicked, this, [this] { modifyCurrent(); });
     connect(this, &Preferences::themeChanged, row, [row] { row->applyToolTipStyle(); });
+    if (keys && editor)
+        keys->watch(editor);
     rowWidgets[item] = row;
     tree->setItemWidget(item, 0, row);
     startDisabledWhereTold(item, row);

@@ -5,6 +5,7 @@
 #include "host/typed_reads.h"
 #include "standin/console/error_text.h"
 #include "standin/console/shown_text.h"
+#include "standin/dialogs/dialog_habits.h"
 #include "standin/events/events.h"
 #include "standin/help/help_service.h"
 #include "standin/params/application.h"
@@ -64,7 +65,8 @@ public:
 };
 
 std::vector<Ref<IKWUnknown>> extraServices() {
-    std::vector<Ref<IKWUnknown>> services{Ref<OptionsParent>::share(new OptionsParent)};
+    std::vector<Ref<IKWUnknown>> services{Ref<OptionsParent>::share(new OptionsParent),
+                                          Ref<DialogHabits>::share(new DialogHabits)};
     if (auto* host = qobject_cast<HostApplication*>(QCoreApplication::instance()))
         services.push_back(host->loopExceptions());
     return services;

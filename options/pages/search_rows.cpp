@@ -35,7 +35,9 @@ std::vector<SearchRow> rowsBelow(const QTreeWidget* tree, QTreeWidgetItem* root)
 void matchRows(std::vector<SearchRow>& rows, const QRegularExpression& expression) {
     for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
         row->labelHit = row->label && expression.match(row->label->text()).hasMatch();
-        row->descriptionHit = expression.match(static_cast<TreeItem*>(row->item)->description).hasMatch();
+        const auto* const item = static_cast<TreeItem*>(row->item);
+        row->descriptionHit = expression.match(item->description).hasMatch();
+        row->wordHit = !item->searchWords.isEmpty() && expression.match(item->searchWords).hasMatch();
         if (row->parent >= 0 && row->isKept())
             rows[static_cast<std::size_t>(row->parent)].hitBelow = true;
     }

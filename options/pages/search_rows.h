@@ -9,14 +9,16 @@ class QTreeWidget;
 class QTreeWidgetItem;
 
 struct SearchRow {
-    bool isKept() const { return labelHit || descriptionHit || hitBelow; }
+    bool matches() const { return labelHit || descriptionHit || wordHit; }
+    bool isKept() const { return matches() || hitBelow; }
 
     QTreeWidgetItem* item;
     QLabel* label; // null without a row widget or a label
     int parent;    // index of the parent's row, -1 directly below the root
     bool labelHit = false;
     bool descriptionHit = false;
-    bool hitBelow = false; // in the label or the description of some item below
+    bool wordHit = false;  // in the search words
+    bool hitBelow = false; // some item below matches
 };
 
 // Every item below `root`, a parent before its children, in index order.

@@ -32,6 +32,7 @@ void highlightWholeLabel(const SearchRow& row, const SearchMark& mark) {
 void SearchingLineEdit::startSearch() {
     if (holdsNothing())
         return;
+    searchRuns = true;
     runSearch(text());
     showBelowFoundItems();
 }
@@ -85,14 +86,17 @@ void SearchingLineEdit::searchItems(std::vector<SearchRow>& rows, const QString&
 }
 
 // Every kept item counts as found: also the ancestors of a hit. None comes twice, since the list is empty
-// between searches and a search comes past each item once.
+// between searches and a search comes past each item once. A branch that matches itself opens when searches
+// run while typing.
 void SearchingLineEdit::keep(const SearchRow& row, const QRegularExpression& expression,
                              const SearchMark& mark) {
     row.item->parent()->setExpanded(true);
     if (row.labelHit)
         highlightLabelMatches(row, expression, mark);
-    if (row.descriptionHit)
+    if (row.descriptionHit || row.wordHit)
         highlightWholeLabel(row, mark);
+    if (typing && row.matches())
+        row.item->setExpanded(true);
     foundItems.append(row.item);
 }
 
@@ -114,5 +118,6 @@ void SearchingLineEdit::reset(const QString& newText) {
     runSearch(QString());
     showBelowFoundItems();
     savedExpansion.restore(tree->invisibleRootItem());
+    searchRuns = false;
     emit searchFinished();
 }

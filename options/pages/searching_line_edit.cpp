@@ -1,6 +1,7 @@
 // The search box itself: its three states (idle, primed with a star, typed) and what ends them.
 #include "options/pages/searching_line_edit.h"
 
+#include "host/dialog_habits.h"
 #include "options/pages/search_marks.h"
 
 #include <QAction>
@@ -13,12 +14,13 @@
 
 namespace {
 const QLatin1String kStar("*");
-}
+const int kPauseInTyping = 300; // milliseconds
+} // namespace
 
 SearchingLineEdit::SearchingLineEdit(QTreeWidget* optionTree, QTextEdit* descriptionPane, QWidget* parent,
                                      const QString& background, const QString& foreground)
-    : QLineEdit(parent), tree(optionTree), description(descriptionPane), highlightBackground(background),
-      highlightForeground(foreground) {
+    : QLineEdit(parent), typing(hasHabit(DialogHabit::SearchWhileTyping)), tree(optionTree),
+      description(descriptionPane), highlightBackground(background), highlightForeground(foreground) {
     setPlaceholderText(tr("Search..."));
     statusLabel = new QLabel;
     statusLabel->setObjectName(QStringLiteral("statusLabel"));
@@ -43,6 +45,36 @@ void SearchingLineEdit::connectAll() {
             reset(QString());
     });
     connect(this, &QLineEdit::textChanged, this, &SearchingLineEdit::reset);
+    if (typing)
+        connectTyping();
+}
+
+void SearchingLineEdit::connectTyping() {
+    pause.setSingleShot(true);
+    pause.setInterval(kPauseInTyping);
+    connect(this, &QLineEdit::textEdited, this, &SearchingLineEdit::onTyped);
+    connect(&pause, &QTimer::timeout, this, &SearchingLineEdit::onPause);
+}
+
+// Who types a wildcard into the fresh box means the text as typed: the box's own star goes.
+void SearchingLineEdit::onTyped(const QString& typed) {
+    primed = primed && typed.endsWith(kStar);
+    const QString own = typed.left(typed.size() - 1);
+    if (primed && (own.contains('*') || own.contains('?'))) {
+        primed = false;
+        const int caret = cursorPosition();
+        setTextQuietly(own);
+        setCursorPosition(caret);
+        clearAction->setVisible(!holdsNothing());
+    }
+    pause.start();
+}
+
+void SearchingLineEdit::onPause() {
+    if (!holdsNothing())
+        searchNow();
+    else if (searchRuns)
+        reset(QString());
 }
 
 void SearchingLineEdit::setClearIcon(const QIcon& icon) { clearAction->setIcon(icon); }
@@ -54,15 +86,24 @@ void SearchingLineEdit::setTextQuietly(const QString& newText) {
     setText(newText);
 }
 
-// Return is not passed on, so that the dialog's default button does not fire. The expansion is saved whether
-// a search follows or not; a second Return saves what the search before it has left. Both are meant.
+// Return is not passed on, so that the dialog's default button does not fire.
 void SearchingLineEdit::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        searchNow();
+    else if (typing && event->key() == Qt::Key_Down)
+        tree->setFocus(Qt::OtherFocusReason); // to what was found
+    else
         QLineEdit::keyPressEvent(event);
-        return;
+}
+
+// The expansion is saved whether a search follows or not; a second Return saves what the search before it has
+// left. Both are meant, but for searches while typing: of a row of them the first one saves.
+void SearchingLineEdit::searchNow() {
+    pause.stop();
+    if (!typing || !searchRuns) {
+        savedExpansion.expanded.clear();
+        savedExpansion.save(tree->invisibleRootItem());
     }
-    savedExpansion.expanded.clear();
-    savedExpansion.save(tree->invisibleRootItem());
     startSearch();
     emit searchStarted();
 }
@@ -73,6 +114,7 @@ void SearchingLineEdit::focusInEvent(QFocusEvent* event) {
     if (!text().isEmpty())
         return;
     setTextQuietly(kStar);
+    primed = true;
     QTimer::singleShot(0, this, [this] { setCursorPosition(0); });
     emit focusGained();
     setPlaceholderText(QString());

@@ -1,11 +1,13 @@
 // The search box of the Options dialog. Return filters the tree to the rows whose label or description
-// matches and marks the matches; emptying the box ends the search.
+// matches and marks the matches; emptying the box ends the search. With a host that wants it, a pause in
+// typing is as good as Return.
 #pragma once
 
 #include "options/pages/tree_expansion_state.h"
 
 #include <QLineEdit>
 #include <QList>
+#include <QTimer>
 #include <vector>
 
 class QAction;
@@ -49,6 +51,10 @@ private:
     bool holdsNothing() const; // empty, or the bare star
     void setTextQuietly(const QString& text);
 
+    void connectTyping();
+    void onTyped(const QString& typed);
+    void onPause();
+    void searchNow();
     void startSearch();
     void runSearch(const QString& text);
     void clearHighlights(const std::vector<SearchRow>& rows);
@@ -59,6 +65,10 @@ private:
 
     void highlightDescription(const QString& text);
 
+    const bool typing; // whether the host wants searches while the user types
+    QTimer pause;
+    bool primed = false;     // the star at the end is the box's own
+    bool searchRuns = false; // from its start to the reset
     QAction* clearAction = nullptr;
     TreeExpansionState savedExpansion;  // from before Return was pressed
     QList<QTreeWidgetItem*> foundItems; // kept by the running search, empty between searches

@@ -17,9 +17,8 @@ ROW_TYPES = {"Check", "Radio", "RadioCursor", "Color", "AcColor", "EditInt", "Ed
              "EditMultiFile", "EditDir", "Combo"}
 DEFAULT_TYPES = {"Check": int, "Radio": int, "RadioCursor": int, "Color": int, "AcColor": int, "EditInt": int,
                  "EditReal": float}
-KEY_TYPES = {"ID": int, "Name": Wide, "Hidden": int, "Description": Wide, "Type": Wide, "Image": int, "Key": str,
-             "sysvar": int, "Section": str, "IFace": str, "Step": (int, float), "Value": int, "mask": int, "State": int,
-             "Limits": (Size, RealSize), "Default": (int, float, Wide)}
+KEY_TYPES = {"ID": int, "Name": Wide, "Hidden": int, "Description": Wide, "SearchWords": Wide, "Type": Wide,
+             "Image": int, "Key": str, "sysvar": int, "Section": str, "IFace": str, "Step": (int, float), "Value": int, "mask": int, "State": int, "Limits": (Size, RealSize), "Default": (int, float, Wide)}
 INTEGERS = {"bool", "int8", "int16", "int32"}
 VARIABLE_TYPES = {"Check": INTEGERS, "Radio": INTEGERS, "RadioCursor": INTEGERS, "EditInt": INTEGERS,
                   "AcColor": {"int16", "int32"}, "Color": {"int32"}, "EditReal": {"real"}, "Edit": {"string"}}

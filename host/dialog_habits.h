@@ -1,0 +1,24 @@
+// How a host may want the dialogs of the module to behave where their settled behaviour leaves people stuck.
+// Reached from theOnlyIApp like every service; without it every dialog behaves as settled.
+#pragma once
+
+#include "host/app.h"
+
+enum class DialogHabit {
+    // Options: the focus starts in the tree and stays where it is when the current row changes. Keys walk the
+    // tree and go into the editors of its rows and back.
+    FocusStaysInOptions,
+    // Options: the search box takes wildcards as typed, searches after a pause in typing, opens branches that
+    // match, and finds keys and search words too. Wants FocusStaysInOptions beside it.
+    SearchWhileTyping,
+};
+
+class IDialogHabits : public IKWUnknown {
+public:
+    virtual bool has(DialogHabit habit) = 0;
+};
+
+inline bool hasHabit(DialogHabit habit) {
+    const Ref<IDialogHabits> habits = appService<IDialogHabits>();
+    return habits && habits->has(habit);
+}
