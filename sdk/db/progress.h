@@ -1,9 +1,10 @@
-// Tells how far the reading and writing of drawing files have come, for whoever shows it.
+// Tells how far the reading and writing of drawing files, and the preparing of their pictures, have come, for
+// whoever shows it.
 #pragma once
 
 class OdDbProgressMeter {
 public:
-    enum Work { kReading, kWriting };
+    enum Work { kReading, kWriting, kShowing };
     virtual ~OdDbProgressMeter() = default;
     // `part` goes from 0 to 1. False cancels: the work ends with eUserBreak, and a file that was to be
     // written stays as it is. No drawing may be changed meanwhile.

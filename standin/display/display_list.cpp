@@ -2,12 +2,18 @@
 
 #include "sdk/db/block_table.h"
 #include "sdk/db/layer_table.h"
+#include "sdk/rx/od_error.h"
+
+#include <QElapsedTimer>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
 namespace standin {
 
 namespace {
+
+const qint64 longBuilding = 300; // milliseconds
 
 Box indexedBox(const Item& item) { return item.box.grown(item.reach.units); }
 
@@ -58,60 +64,90 @@ bool DisplayList::touchesMoreThanItself(const OdDbObjectId& id) const {
     return object->ownerId() != drawing->getModelSpaceId() && object->ownerId() != drawing->getPaperSpaceId();
 }
 
+bool DisplayList::isBehind() const {
+    return everything || !stale.empty() || !(DrawingVariables::of(*drawing) == variables);
+}
+
 void DisplayList::refresh() {
     const DrawingVariables now = DrawingVariables::of(*drawing);
     everything |= !(now == variables);
     variables = now;
-    if (stale.empty() && !everything)
+    if (isBuilding || (stale.empty() && !everything))
         return;
-    sendReadersAway();
-    ++changes;
     const std::unordered_set<OdDbObjectId> ids = std::move(stale);
     stale.clear();
     for (auto it = ids.begin(); it != ids.end() && !everything; ++it)
         everything = touchesMoreThanItself(*it);
     if (everything)
         return rebuild();
-    ItemBuilder builder;
-    for (const OdDbObjectId& id : ids)
-        update(builder, id);
+    update({ids.begin(), ids.end()});
 }
 
 void DisplayList::rebuild() {
-    everything = false;
-    items.clear();
-    places.clear();
-    ItemBuilder builder;
+    QElapsedTimer timer;
+    timer.start();
+    everything = wasCancelled = false;
     const auto space = odrxCast<OdDbBlockTableRecord>(drawing->getModelSpaceId().safeOpenObject());
-    for (const OdDbObjectId& id : space->entityIds()) {
-        Item item = builder.build(id);
-        if (item.shapes.empty())
-            continue;
-        places[id] = static_cast<int>(items.size());
-        note(item.reach);
-        items.push_back(std::move(item));
-    }
+    ItemBuilder builder;
+    std::vector<Item> built = builtItems(builder, space->entityIds());
+    wasLong = timer.elapsed() > longBuilding;
     left = builder.unshown();
+    sendReadersAway();
+    ++changes;
+    items = std::move(built);
+    places.clear();
     index = SpatialIndex(extents());
-    for (std::size_t i = 0; i < items.size(); ++i)
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        places[items[i].id] = static_cast<int>(i);
+        note(items[i].reach);
         index.insert(static_cast<int>(i), indexedBox(items[i]));
+    }
+}
+
+// Those that have shapes, up to where the progress meter cancels.
+std::vector<Item> DisplayList::builtItems(ItemBuilder& builder, const OdDbObjectIdArray& ids) {
+    const QScopedValueRollback<bool> building(isBuilding, true);
+    std::vector<Item> built;
+    try {
+        for (std::size_t i = 0; i < ids.size(); ++i) {
+            builder.report(static_cast<double>(i) / static_cast<double>(ids.size()));
+            if (Item item = builder.build(ids[i]); !item.shapes.empty())
+                built.push_back(std::move(item));
+        }
+        builder.report(1);
+    } catch (const OdError& error) {
+        if (error.code() != eUserBreak)
+            throw;
+        wasCancelled = true;
+    }
+    return built;
+}
+
+void DisplayList::update(const OdDbObjectIdArray& ids) {
+    OdDbObjectIdArray present;
+    for (const OdDbObjectId& id : ids)
+        if (const OdDbObjectPtr object = id.openObject();
+            !object.isNull() && object->ownerId() == drawing->getModelSpaceId())
+            present.push_back(id);
+    ItemBuilder builder;
+    std::vector<Item> built = builtItems(builder, present);
+    sendReadersAway();
+    ++changes;
+    for (const OdDbObjectId& id : ids)
+        takeOut(id);
+    for (Item& item : built)
+        put(std::move(item));
 }
 
 // An object keeps its place, so that it stays above and below the same others.
-void DisplayList::update(ItemBuilder& builder, const OdDbObjectId& id) {
+void DisplayList::takeOut(const OdDbObjectId& id) {
     const auto found = places.find(id);
-    if (found != places.end()) {
-        Item& item = items[static_cast<std::size_t>(found->second)];
-        if (!item.shapes.empty())
-            index.remove(found->second, indexedBox(item));
-        item = {};
-    }
-    const OdDbObjectPtr object = id.openObject();
-    if (object.isNull() || object->ownerId() != drawing->getModelSpaceId())
+    if (found == places.end())
         return;
-    Item item = builder.build(id);
+    Item& item = items[static_cast<std::size_t>(found->second)];
     if (!item.shapes.empty())
-        put(std::move(item));
+        index.remove(found->second, indexedBox(item));
+    item = {};
 }
 
 void DisplayList::put(Item item) {

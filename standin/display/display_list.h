@@ -31,8 +31,13 @@ public:
     DisplayList(const DisplayList&) = delete;
     DisplayList& operator=(const DisplayList&) = delete;
 
-    // Brings the list up to date.
+    // Brings the list up to date. The progress meter follows that, and what was shown stays until it is done;
+    // another call meanwhile does nothing.
     void refresh();
+    // The meter cancelled: some objects are not shown until everything is built again.
+    bool isCancelled() const { return wasCancelled; }
+    bool isBehind() const;                    // there is something to refresh
+    bool tookLong() const { return wasLong; } // to build it all
     // Another number after each refresh that changed something, so that a picture knows that it is old.
     std::uint64_t revision() const { return changes; }
     // The changes of references that are read or unloaded come with no notice of the drawing.
@@ -65,7 +70,9 @@ public:
 private:
     void note(const OdDbObjectId& id);
     void rebuild();
-    void update(ItemBuilder& builder, const OdDbObjectId& id);
+    std::vector<Item> builtItems(ItemBuilder& builder, const OdDbObjectIdArray& ids);
+    void update(const OdDbObjectIdArray& ids);
+    void takeOut(const OdDbObjectId& id);
     void put(Item item);
     void sendReadersAway();
     void note(const Reach& reach);
@@ -81,6 +88,7 @@ private:
     Unshown left;
     std::uint64_t changes = 0;
     bool everything = true;
+    bool isBuilding = false, wasCancelled = false, wasLong = false;
     Reach farthest; // of all marks that there are or were
 };
 

@@ -3,6 +3,7 @@
 
 #include "sdk/db/block_reference.h"
 #include "sdk/db/block_table.h"
+#include "sdk/db/progress.h"
 #include "sdk/db/text.h"
 #include "standin/display/flat.h"
 #include "standin/display/kinds.h"
@@ -15,6 +16,7 @@ namespace standin {
 namespace {
 
 const int deepestBlock = 64;
+const std::size_t partsBetweenReports = 100;
 
 // Definitions of attributes are there to be filled in; a constant one is a text of its block.
 bool isLeftOut(const OdDbEntity& part) {
@@ -62,12 +64,22 @@ void ItemBuilder::add(const OdDbEntity& entity, const Place& place) {
     kind->draw(entity, Pencil(*this, place, layer, lookOf(entity, layer, place)));
 }
 
+void ItemBuilder::report(double part) {
+    reported = part;
+    odDbReportProgress(OdDbProgressMeter::kShowing, part);
+}
+
+void ItemBuilder::countPart() {
+    if (++parts % partsBetweenReports == 0 && reported)
+        report(*reported);
+}
+
 // False for a block that is missing, and for a reference that isn't loaded. A loaded one shows the model
 // space of its own drawing, in the looks of the layers there.
 bool ItemBuilder::addBlock(OdDbObjectId blockId, const Holder& holder, const OdGeMatrix3d& toWorld,
                            const Repeats& repeats) {
     const Place& place = holder.place;
-    ++parts;
+    countPart();
     const auto block = odrxQuery<OdDbBlockTableRecord>(blockId.openObject().get());
     if (block.isNull())
         return false;
@@ -104,7 +116,7 @@ void ItemBuilder::addCells(Place& inner, const Repeats& repeats) {
     for (int row = 0; row < repeats.rows; ++row)
         for (int column = 0; column < repeats.columns && !isFull(); ++column) {
             const OdGeVector3d step = repeats.rowStep * row + repeats.columnStep * column;
-            ++parts;
+            countPart();
             if (shapes) {
                 addMoved(*shapes, {movement->origin + flat(step), movement->x, movement->y});
             } else {
@@ -116,7 +128,7 @@ void ItemBuilder::addCells(Place& inner, const Repeats& repeats) {
 
 void ItemBuilder::addMoved(const BlockShapes::Made& shapes, const FlatMovement& movement) {
     for (auto shape = shapes.shapes.begin(); shape != shapes.shapes.end() && !isFull(); ++shape) {
-        ++parts;
+        countPart();
         Shape moved = movedShape(*shape, movement);
         if (isDrawable(moved))
             put(withinLimits(std::move(moved)));
@@ -158,7 +170,7 @@ Shape ItemBuilder::withinLimits(Shape shape) {
 void ItemBuilder::addParts(const Place& inner) {
     const auto record = odrxCast<OdDbBlockTableRecord>(inner.block.safeOpenObject());
     for (auto it = record->newIterator(); !it.done() && !isFull(); it.step()) {
-        ++parts;
+        countPart();
         const auto part = odrxQuery<OdDbEntity>(it.objectId().openObject().get());
         if (!part.isNull() && !isLeftOut(*part))
             add(*part, inner);

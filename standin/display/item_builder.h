@@ -8,6 +8,7 @@
 #include "standin/display/unshown.h"
 
 #include <map>
+#include <optional>
 
 namespace standin {
 
@@ -15,6 +16,9 @@ class ItemBuilder {
 public:
     // Without shapes for an object that isn't shown.
     Item build(OdDbObjectId id);
+    // Reports this part of the picture as done to the progress meter, now and again and again while the next
+    // objects are built. Throws OdError with eUserBreak when it cancels, as `build` does from then on.
+    void report(double part);
     // An object that need not be in a drawing, as trackers show it.
     Item build(const OdDbEntity& entity, const OdDbDatabase& drawing);
     // What was built so far without all that is in it.
@@ -43,6 +47,7 @@ private:
     void addMoved(const BlockShapes::Made& shapes, const FlatMovement& movement);
     std::shared_ptr<const BlockShapes::Made> made(const Place& inner);
     Shape withinLimits(Shape shape);
+    void countPart();
     void put(Shape shape);
     bool isFull();
     const LayerLooks& looksOf(const OdDbDatabase& drawing);
@@ -52,8 +57,9 @@ private:
     BlockShapes blocks;
     bool isContextual = false; // what was added last would look different elsewhere
     Unshown left;
-    std::size_t parts = 0;         // of blocks, so far
-    std::size_t hatchingLines = 0; // so far
+    std::size_t parts = 0;          // of blocks, so far
+    std::size_t hatchingLines = 0;  // so far
+    std::optional<double> reported; // nothing while progress is not reported
     std::map<const OdDbDatabase*, LayerLooks> looks;
 };
 

@@ -235,13 +235,13 @@ TEST_F(DrawingsTest, AFaultNamesFileAndLine) {
     EXPECT_TRUE(lastLine().contains("missing.dxf")) << lastLine().toStdString();
 }
 
-// Cancels whatever progress is shown as long as it lives.
+// Presses Escape in whatever progress is shown as long as it lives.
 struct ProgressCanceller {
     ProgressCanceller() {
         QObject::connect(&timer, &QTimer::timeout, &timer, [this] {
             if (auto* dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget())) {
                 label = dialog->labelText();
-                dialog->cancel();
+                QTest::keyClick(dialog, Qt::Key_Escape);
             }
         });
         timer.start(0);
@@ -262,6 +262,30 @@ TEST_F(DrawingsTest, ReadingIsShownAndCanBeCancelled) {
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     enter({"OPEN", qPrintable(large)});
     EXPECT_EQ(title(), "large.dxf - Workbench");
+}
+
+TEST_F(DrawingsTest, PreparingThePictureIsShownAndCanBeCancelled) {
+    const QString large = largeDrawing();
+    enter({"OPEN", qPrintable(large)});
+    bench->progress()->setDelay(0);
+    {
+        const ProgressCanceller canceller;
+        enter({"REGEN"});
+        ASSERT_TRUE(waitUntil([&] { return !canceller.label.isEmpty(); }));
+        EXPECT_EQ(canceller.label, "Preparing the picture...");
+    }
+    EXPECT_EQ(title(), "large.dxf - Workbench");
+    const QString notice =
+        "Only a part of the drawing is shown, since preparing the picture was cancelled. REGEN "
+        "prepares it again.";
+    EXPECT_TRUE(waitUntil([&] { return transcript().contains(notice); }));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    enter({"SELECT", "All", "", "UNDO"});
+    EXPECT_TRUE(lastLine().contains("undo"))
+        << "the window takes no commands any more: " << lastLine().toStdString();
+    enter({"REGEN"});
+    EXPECT_TRUE(waitUntil([&] { return !canvas().listOf(*document().database())->isCancelled(); }));
+    EXPECT_EQ(transcript().filter(notice).size(), 1);
 }
 
 TEST_F(DrawingsTest, SavingIsShownAndCanBeCancelled) {

@@ -11,6 +11,7 @@
 
 #include <QAction>
 #include <QDialog>
+#include <QProgressDialog>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
@@ -51,7 +52,8 @@ protected:
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, bench.get(), [&] {
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (!dialog && !bench->commands().isReady())
+            const bool isProgress = qobject_cast<QProgressDialog*>(dialog) != nullptr; // goes by itself
+            if (isProgress || (!dialog && !bench->commands().isReady()))
                 return;
             if (next < steps.size())
                 steps[next++]();

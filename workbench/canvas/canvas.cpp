@@ -2,6 +2,7 @@
 // canvas_paint.cpp.
 #include "workbench/canvas/canvas.h"
 
+#include "sdk/db/progress.h"
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
 #include "standin/display/flat.h"
@@ -127,10 +128,45 @@ void Canvas::refresh() {
     update();
 }
 
-void Canvas::referencesChanged() {
+// Before it is painted. What takes long shows its progress, for which painting has no room.
+void Canvas::keepUpToDate() {
+    if (sheet->list.tookLong() && sheet->list.isBehind()) {
+        QMetaObject::invokeMethod(this, &Canvas::bringUpToDate, Qt::QueuedConnection);
+        return;
+    }
+    OdDbProgressMeter* const meter = odDbProgressMeter();
+    odDbSetProgressMeter(nullptr);
+    sheet->list.refresh();
+    odDbSetProgressMeter(meter);
+}
+
+void Canvas::bringUpToDate() {
+    if (!sheet)
+        return;
+    sheet->list.refresh();
+    printUnshown(sheet->document);
+    update();
+}
+
+void Canvas::regenerate() {
     if (sheet)
         sheet->list.forgetAll();
-    update();
+    bringUpToDate();
+}
+
+void Canvas::printUnshown(const Document& document) {
+    const auto found = sheets.find(&document);
+    if (found == sheets.end())
+        return;
+    Sheet& shown = *found->second;
+    QStringList notices = shown.list.unshown().notices();
+    if (shown.list.isCancelled())
+        notices << tr("Only a part of the drawing is shown, since preparing the picture was cancelled. REGEN "
+                      "prepares it again.");
+    for (const QString& notice : notices)
+        if (!shown.told.contains(notice))
+            io.print(notice);
+    shown.told = notices;
 }
 
 // A tracker lasts as long as its prompt.

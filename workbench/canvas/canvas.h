@@ -36,8 +36,11 @@ public:
     void zoomToScale(double pixelsPerUnit);
     bool zoomPrevious(); // false when there is no view before this one
     void zoomTo(const OdDbObjectId& id);
-    void refresh();           // something was highlighted, selected or changed
-    void referencesChanged(); // other drawings are shown in the current one than before
+    void refresh(); // something was highlighted, selected or changed
+    // Prepares the picture of the current drawing anew, as when other drawings are shown in it than before.
+    void regenerate();
+    // What of a drawing is not shown, as far as that was not said before.
+    void printUnshown(const standin::Document& document);
     // Waits until the picture that is shown is finished; while the view moves it is a rough one.
     void finishPicture();
     bool isPictureFinished() const;
@@ -63,6 +66,8 @@ protected:
 
 private:
     void connectSignals();
+    void bringUpToDate();
+    void keepUpToDate();
     void showCurrent();
     void forgetClosed();
     std::unique_ptr<Sheet> makeSheet(standin::Document& document);

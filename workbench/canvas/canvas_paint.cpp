@@ -30,12 +30,13 @@ void Canvas::resizeEvent(QResizeEvent*) {
 }
 
 void Canvas::paintEvent(QPaintEvent*) {
+    if (sheet)
+        keepUpToDate();
     QPainter painter(this);
     if (!sheet) {
         painter.fillRect(rect(), background);
         return paintWelcome(painter);
     }
-    sheet->list.refresh();
     scene.paintAtOnce(painter, sceneOrder());
     const PictureOrder marked = marksOrder();
     if (!marked.only->empty())

@@ -17,6 +17,14 @@ bool isWanted(Document& document) {
     return !value.isNull() && value->getBool();
 }
 
+// The former preview is better than one of a part of the drawing.
+void putPictureOf(const DisplayList& list, const QColor& background) {
+    const OdThumbnailImage picture =
+        list.isCancelled() ? OdThumbnailImage() : previewPicture(list, background);
+    if (picture.hasBmp())
+        odDbPutPreviewBitmap(&list.database(), picture);
+}
+
 } // namespace
 
 PreviewWriter::PreviewWriter(DocumentManager& documentManager, Canvas& drawingArea) : canvas(drawingArea) {
@@ -28,17 +36,11 @@ void PreviewWriter::put(Document* document, OdDbDatabase* drawing) {
     if (!isWanted(*document) || (!drawing->isModified() && !drawing->getFilename().isEmpty()))
         return;
     const QColor background = readSettings(appService<IProfile>().get()).canvasBack;
-    const DisplayList* shown = canvas.listOf(*drawing);
-    OdThumbnailImage picture;
-    if (shown) {
-        picture = previewPicture(*shown, background);
-    } else {
-        DisplayList own{OdDbDatabasePtr(drawing)};
-        own.refresh();
-        picture = previewPicture(own, background);
-    }
-    if (picture.hasBmp())
-        odDbPutPreviewBitmap(drawing, picture);
+    if (const DisplayList* shown = canvas.listOf(*drawing))
+        return putPictureOf(*shown, background);
+    DisplayList own{OdDbDatabasePtr(drawing)};
+    own.refresh();
+    putPictureOf(own, background);
 }
 
 } // namespace workbench

@@ -21,6 +21,7 @@ public:
 
     standin::Document& document;
     standin::DisplayList list;
+    QStringList told; // what of the drawing is not shown
 
     const standin::View& view() const { return current; }
     // Until the user has chosen a view, all of the drawing is shown, however large the window is.

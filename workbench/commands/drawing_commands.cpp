@@ -32,13 +32,6 @@ void openDrawing(const CommandScope& scope) {
     scope.documents.openFile(*path);
 }
 
-// What of a drawing that was just opened is not on the screen.
-void printUnshown(const CommandScope& scope, Document& document) {
-    const DisplayList* shown = scope.canvas.listOf(*document.database());
-    for (const QString& notice : shown ? shown->unshown().notices() : QStringList())
-        scope.console.print(notice);
-}
-
 void closeCurrent(const CommandScope& scope) {
     if (settleChanges(scope.documents, *scope.documents.currentOne(), scope.files))
         scope.documents.close(scope.documents.currentOne());
@@ -164,7 +157,7 @@ static void addFileEntries(MenuSink& menus) {
 
 void addDrawingCommands(const CommandScope& scope) {
     QObject::connect(&scope.documents, &DocumentManager::documentOpened, &scope.documents,
-                     [scope](Document* document) { printUnshown(scope, *document); });
+                     [scope](Document* document) { scope.canvas.printUnshown(*document); });
     Console& console = scope.console;
     DocumentManager& documents = scope.documents;
     addFileEntries(scope.menus);

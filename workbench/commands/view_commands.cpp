@@ -1,4 +1,4 @@
-// ZOOM: what part of the drawing is shown.
+// What part of the drawing is shown, and the picture of it.
 #include "workbench/commands/commands.h"
 
 #include "host/text.h"
@@ -96,6 +96,8 @@ void addViewCommands(const CommandScope& scope) {
     scope.menus.addEntry({Menu::View, tr("Zoom &in"), "ZOOM\nIn", {}, QKeySequence::ZoomIn});
     scope.menus.addEntry({Menu::View, tr("Zoom &out"), "ZOOM\nOut", {}, QKeySequence::ZoomOut});
     scope.loop.add({"ZOOM", tr("Changes what part of the drawing is shown."), withDrawing(scope, zoom)});
+    scope.loop.add({"REGEN", tr("Prepares the picture of the drawing anew."),
+                    withDrawing(scope, [](const CommandScope& own) { own.canvas.regenerate(); })});
 }
 
 } // namespace workbench

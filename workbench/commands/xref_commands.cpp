@@ -80,7 +80,7 @@ void reloadNamed(const CommandScope& scope, const References& references, const 
     }
     if (!any)
         return scope.console.print(tr("There is no reference %1.").arg(name));
-    scope.canvas.referencesChanged();
+    scope.canvas.regenerate();
 }
 
 // The star is in no name of a block.
@@ -103,7 +103,7 @@ void attach(const CommandScope& scope, const LoadedModule& module) {
     if (!command)
         return scope.console.print(tr("The plug-in can't attach references."));
     command->Run(nullptr);
-    scope.canvas.referencesChanged();
+    scope.canvas.regenerate();
 }
 
 void printMissing(Console& console, const OdDbDatabasePtr& drawing) {

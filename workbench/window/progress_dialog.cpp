@@ -29,10 +29,14 @@ void ProgressDialog::begin(Work work) {
     sinceUpdate.start();
 }
 
+QString ProgressDialog::title() const {
+    if (present == kReading)
+        return tr("Reading the drawing...");
+    return present == kWriting ? tr("Saving the drawing...") : tr("Preparing the picture...");
+}
+
 void ProgressDialog::show() {
-    dialog =
-        new QProgressDialog(present == kReading ? tr("Reading the drawing...") : tr("Saving the drawing..."),
-                            tr("Cancel"), 0, steps, host_qt_ui_core::parentForDialog());
+    dialog = new QProgressDialog(title(), tr("Cancel"), 0, steps, host_qt_ui_core::parentForDialog());
     dialog->setObjectName(QStringLiteral("progressDialog"));
     dialog->setWindowTitle(tr("Workbench"));
     dialog->setWindowModality(Qt::ApplicationModal);
@@ -58,7 +62,9 @@ bool ProgressDialog::proceed(Work work, double part) {
     sinceUpdate.start();
     dialog->setValue(static_cast<int>(part * steps)); // lets the window live
     QCoreApplication::processEvents();
-    const bool cancelled = !dialog || dialog->wasCanceled();
+    // Escape cancels by a shortcut, which a window that has just appeared does not have yet: it is only
+    // hidden.
+    const bool cancelled = !dialog || dialog->wasCanceled() || dialog->isHidden();
     if (cancelled) {
         reached = 2;
         delete dialog;

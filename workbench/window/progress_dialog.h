@@ -1,5 +1,5 @@
-// Shows how far the reading or writing of a drawing has come when that takes longer than a moment, and lets
-// the user cancel it.
+// Shows how far the reading, the writing or the picture of a drawing has come when that takes longer than a
+// moment, and lets the user cancel it.
 #pragma once
 
 #include "sdk/db/progress.h"
@@ -10,7 +10,7 @@
 
 namespace workbench {
 
-// Shows whatever is read or written as long as it lives.
+// Shows whatever is read, written or prepared as long as it lives.
 class ProgressDialog : public OdDbProgressMeter {
 public:
     ProgressDialog();
@@ -24,6 +24,7 @@ public:
 private:
     void begin(Work work);
     void show();
+    QString title() const;
 
     int delay = 500;
     Work present = kReading;
