@@ -2,6 +2,7 @@
 #include "sdk/db/database_impl.h"
 
 #include "sdk/db/class_registry.h"
+#include "sdk/db/handle_text.h"
 #include "sdk/db/symbol_table.h"
 
 #include <QString>
@@ -175,7 +176,7 @@ void OdDbDatabaseImpl::adaptTags(OdDbObject& object, const OdDbStub& stub) {
     if (fileHasHandles)
         tags.append(typeName(stub) == "DIMSTYLE" ? 105 : 5, dxfHandleText(stub.handle));
     if (hasSubclassMarkers())
-        tags.append(330, dxfHandleText(stub.owner ? stub.owner->handle : 0));
+        tags.append(330, stub.owner ? odDbHandleText(*stub.owner) : "0");
     for (std::size_t i = 1; i < object.content.size(); ++i) {
         const DxfTag& tag = object.content[i];
         if (tag.code == 100 && !hasSubclassMarkers())

@@ -101,6 +101,7 @@ public:
     OdDbStub* rootDictionary = nullptr;
     OdDbStub* modelSpace = nullptr;
     OdDbStub* paperSpace = nullptr;
+    std::vector<OdDbStub*> blocksOfLayouts; // that the file lacks although its layouts refer to them
     std::size_t erasures = 0;      // objects that are erased now
     std::uint64_t changeCount = 0; // grows with every change, undo and abort included
 

@@ -3,6 +3,7 @@
 
 #include "sdk/db/anonymous_names.h"
 #include "sdk/db/database_impl.h"
+#include "sdk/db/handle_text.h"
 
 #include <algorithm>
 #include <numeric>
@@ -174,7 +175,7 @@ OdDbObjectId OdDbDictionary::setAt(const OdString& name, OdDbObject* object) {
         removeEntry(former);
     fillCache();
     DxfTagList entry = nameTag(name);
-    entry.append(hardOwner ? kHardEntry : kSoftEntry, dxfHandleText(id.getHandle().number()));
+    entry.append(hardOwner ? kHardEntry : kSoftEntry, odDbHandleText(*id.getStub()));
     const bool hasExtendedData = content[content.size() - 1].code >= kExtendedData;
     splice(hasExtendedData ? content.own().end : content.size(), 0, std::move(entry));
     return id;

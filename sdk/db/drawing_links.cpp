@@ -6,6 +6,7 @@
 #include "sdk/dxf/value_kinds.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -150,6 +151,35 @@ void OdDbDrawingReader::linkBlocks() {
     }
 }
 
+// A file without a table of blocks may have layouts all the same, which know their blocks by handle.
+void OdDbDrawingReader::addBlocksOfLayouts() {
+    if (!impl.tables["BLOCK_RECORD"].entries.empty())
+        return;
+    for (std::size_t i = 0; i < impl.fileStubCount; ++i)
+        if (impl.typeName(impl.stubs[i]) == "LAYOUT")
+            addBlockOfLayout(DxfTagList::parse(impl.stubs[i].bytes(), impl.source, impl.carriageReturns));
+}
+
+void OdDbDrawingReader::addBlockOfLayout(const DxfTagList& layout) {
+    const DxfTagList::Range own = layout.subclass("AcDbLayout");
+    const std::size_t name = layout.find(1, own), block = layout.find(330, own);
+    const std::uint64_t handle = block == DxfTagList::npos ? 0 : dxfHandle(layout[block].value());
+    if (name == DxfTagList::npos || handle == 0 || handle >= OdDbHandleMap::kCounted ||
+        impl.handles.find(handle))
+        return;
+    const bool isModel = odDbFoldedName(impl.codec.decode(layout[name].value())) == odDbFoldedName(L"Model");
+    if (isModel && impl.modelSpace)
+        return;
+    const std::size_t papers = impl.blocksOfLayouts.size() - (impl.modelSpace ? 1 : 0);
+    OdDbStub*& space = isModel ? impl.modelSpace : impl.paperSpace;
+    const std::uint64_t next = std::exchange(impl.nextHandle, handle);
+    const OdString number = papers == 0 ? OdString() : OdString(std::to_wstring(papers - 1));
+    OdDbStub& made = addBlockRecord(isModel ? OdString(kModelSpace) : OdString(kPaperSpace) + number);
+    impl.nextHandle = std::max(next, handle + 1);
+    impl.blocksOfLayouts.push_back(&made);
+    space = space ? space : &made;
+}
+
 void OdDbDrawingReader::linkSpaces() {
     const auto settle = [this](OdDbStub*& space, const wchar_t* name, OdDbBlockContent& loose) {
         for (const NamedStub& record_ : blockRecords)
@@ -162,6 +192,7 @@ void OdDbDrawingReader::linkSpaces() {
         for (OdDbStub* entity : loose.entities)
             entity->owner = space;
     };
+    addBlocksOfLayouts();
     settle(impl.modelSpace, kModelSpace, modelEntities);
     settle(impl.paperSpace, kPaperSpace, paperEntities);
 }

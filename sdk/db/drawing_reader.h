@@ -59,6 +59,8 @@ private:
     void adoptBlockRecords();
     void linkBlocks();
     void linkSpaces();
+    void addBlocksOfLayouts();
+    void addBlockOfLayout(const DxfTagList& layout);
     OdDbStub& addBlockRecord(const OdString& name);
 
     void warn(const char* position, const OdString& reason, const char* other = nullptr) {

@@ -2,6 +2,7 @@
 #include "sdk/db/drawing_writer.h"
 
 #include "sdk/db/block_table.h"
+#include "sdk/db/handle_text.h"
 #include "sdk/db/progress.h"
 #include "sdk/db/sub_entities.h"
 #include "sdk/db/thumbnail_section.h"
@@ -85,7 +86,7 @@ void OdDbDrawingWriter::emitSeqEnd(const OdDbOpenEnd& end) {
     if (impl.fileHasHandles)
         emitTag(5, dxfHandleText(end.handle));
     if (impl.hasSubclassMarkers() && !end.main->has(OdDbStub::kNoHandle))
-        emitTag(330, dxfHandleText(end.main->handle));
+        emitTag(330, odDbHandleText(*end.main));
     if (impl.hasSubclassMarkers())
         emitTag(100, "AcDbEntity");
     const std::size_t layer = main->tags().find(8);

@@ -5,6 +5,7 @@
 #include "sdk/db/anonymous_names.h"
 #include "sdk/db/database_impl.h"
 #include "sdk/db/dictionary.h"
+#include "sdk/db/handle_text.h"
 
 #include <algorithm>
 
@@ -28,7 +29,7 @@ const DxfTagList& tagsOfNewGroup() {
 DxfTagList memberTagsOf(const DxfTagList& like, const std::vector<OdDbStub*>& joining) {
     DxfTagList tags = like.part({0, 0});
     for (const OdDbStub* stub : joining)
-        tags.append(kMember, dxfHandleText(stub->handle));
+        tags.append(kMember, odDbHandleText(*stub));
     return tags;
 }
 

@@ -1,6 +1,7 @@
 // References lead from changed records to others, and from these to their owners, until all have a handle.
 #include "sdk/db/missing_handles.h"
 
+#include "sdk/db/handle_text.h"
 #include "sdk/dxf/value_kinds.h"
 
 namespace {
@@ -42,6 +43,9 @@ void OdDbMissingHandles::want(OdDbStub* stub) {
     open.push_back(stub);
     if (stub->has(OdDbStub::kUnwritten))
         unwritten.push_back(stub);
+    if (stub == impl.tables.at("BLOCK_RECORD").record)
+        for (OdDbStub* block : impl.blocksOfLayouts)
+            want(block);
 }
 
 DxfTagList OdDbMissingHandles::tagsOf(OdDbStub& stub) const {
@@ -66,5 +70,5 @@ void OdDbMissingHandles::addOwner(const OdDbStub& stub, DxfTagList& tags) const 
     if (!isKnown || tags.find(kOwner, {0, marker}) != DxfTagList::npos)
         return;
     const bool hasMarker = marker != tags.own().end;
-    tags.insert(hasMarker ? marker : 2, kOwner, dxfHandleText(stub.owner ? stub.owner->handle : 0));
+    tags.insert(hasMarker ? marker : 2, kOwner, stub.owner ? odDbHandleText(*stub.owner) : "0");
 }

@@ -9,6 +9,7 @@
 #include "sdk/db/drawing_writer.h"
 #include "sdk/db/group.h"
 #include "sdk/db/upgraded_tags.h"
+#include "sdk/dxf/value_kinds.h"
 
 #include <set>
 
@@ -31,9 +32,12 @@ public:
     }
 
 private:
-    std::string recoded(std::string_view value) const {
+    // Blanks and tabs around a number are none of it.
+    std::string recoded(const DxfTag& tag) const {
         static const DxfCodec unicode;
-        return unicode.encode(from.codec.decode(value));
+        if (dxfIsNumberKind(dxfValueKind(tag.code)))
+            return std::string(dxfTrimmed(tag.value()));
+        return unicode.encode(from.codec.decode(tag.value()));
     }
 
     void fill(OdDbObject& object, const DxfTagList& tags) const {
@@ -41,7 +45,7 @@ private:
         content.erase(0, content.size());
         content.append(0, tags[0].value());
         for (std::size_t i = 1; i < tags.size(); ++i)
-            content.append(tags[i].code, recoded(tags[i].value()));
+            content.append(tags[i].code, recoded(tags[i]));
     }
 
     void copyHeader() {
@@ -62,7 +66,7 @@ private:
             }
             DxfTagList tags;
             for (const DxfTag& tag : variable.tags)
-                tags.append(tag.code, recoded(tag.value()));
+                tags.append(tag.code, recoded(tag));
             header.put(variable.name, std::move(tags));
         }
     }

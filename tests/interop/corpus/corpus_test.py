@@ -38,17 +38,6 @@ UNREAD_BY_EZDXF = {
     "bent/no_owners": "it wants owners in this version",
 }
 NOT_FOR_DXFLIB = {"bent/cr": "it knows no carriage returns alone as line ends"}
-# What is not mended yet: the group is not found whole by ezdxf. A file that keeps the contract leaves the list, or the
-# test fails.
-SMALL_HANDLES = "references in capital letters do not find the handles that the file has in small ones"
-TABS = "tabs before group codes are written as text in the newer form of the drawing"
-OPEN_FAULTS = {
-    "bent/entities_alone": "an owner that is made for the group is missing",
-    **{f"fig2dev/{name}": TABS for name in ("arc", "box", "lines", "round", "spline")},
-    **{f"inkscape_r14/{name}": SMALL_HANDLES for name in ("many", "round")},
-    **{f"{writer}/{name}": SMALL_HANDLES for writer in ("pstoedit_14", "pstoedit_s")
-       for name in ("curves", "dashes", "filled", "lines", "many", "text")},
-}
 
 
 def name_of(path):
@@ -145,11 +134,7 @@ class Corpus(unittest.TestCase):
             return
         if name not in NO_PROPERTIES_BY_EZDXF:
             self.assert_same_properties(path, found)
-        if name in OPEN_FAULTS:
-            with self.assertRaises(Exception, msg="it keeps the contract now: take it out of OPEN_FAULTS"):
-                self.assert_group_is_whole(path, found)
-        else:
-            self.assert_group_is_whole(path, found)
+        self.assert_group_is_whole(path, found)
 
     def test_each_drawing_keeps_the_contract(self):
         for path in CORPUS:
