@@ -6,6 +6,7 @@
 
 #include <QPainterPath>
 #include <QTransform>
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -20,6 +21,8 @@ const double kNameBorder = 5;    // pixels around the name of a missing referenc
 const double finestHatching = 3; // pixels between the lines of a pattern; below it they are a shade
 const int shadeAlpha = 70;
 const double mostCrossings = 3e6; // of borders with rows of pixels; filling takes longer with each of them
+
+bool isFlat(const QLineF& line) { return std::fabs(line.dx()) > std::fabs(line.dy()); }
 
 // How far the polygon goes up and down in all.
 double heightsOf(const QPolygonF& polygon) {
@@ -63,6 +66,8 @@ QPen ItemPainter::currentPen() const {
 // Whether what overlaps looks different when it is painted together. Each shape is painted by itself then, so
 // that it looks the same whatever is painted before it.
 bool ItemPainter::isApart() const {
+    if (isSideBySide())
+        return false;
     return hasOwnPen ? ownPen.widthF() > 1 : opacity < 255 || weightInPixels(weight) > 1;
 }
 
@@ -75,7 +80,30 @@ void ItemPainter::use(const Shape& shape) {
     opacity = shape.opacity;
 }
 
+// Thick lines without smooth edges are painted as thin ones beside each other, which takes a tenth of the
+// time.
+bool ItemPainter::isSideBySide() const { return hasOwnPen && ownPen.widthF() > 1 && !isSmooth(); }
+
+void ItemPainter::flushSideBySide() {
+    const double ratio = target.device()->devicePixelRatioF();
+    const int across = qRound(ownPen.widthF() * ratio);
+    const auto flatEnd = std::partition(lines.begin(), lines.end(), isFlat);
+    const int flat = static_cast<int>(flatEnd - lines.begin());
+    target.setPen(QPen(ownPen.color(), 0));
+    for (int i = 0; i < across; ++i) {
+        const double aside = (i - across / 2) / ratio;
+        target.translate(0, aside);
+        target.drawLines(lines.constData(), flat);
+        target.translate(aside, -aside);
+        target.drawLines(lines.constData() + flat, lines.size() - flat);
+        target.translate(-aside, 0);
+    }
+    lines.clear();
+}
+
 void ItemPainter::flush() {
+    if (isSideBySide())
+        flushSideBySide();
     target.setPen(currentPen());
     target.setBrush(Qt::NoBrush);
     if (!lines.isEmpty())

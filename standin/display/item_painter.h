@@ -39,6 +39,8 @@ private:
     void use(const Shape& shape);
     QPen currentPen() const;
     bool isApart() const;
+    bool isSideBySide() const;
+    void flushSideBySide();
     bool isSmooth() const;
     void addDot(const QPointF& at);
     void flush();
