@@ -102,8 +102,8 @@ public:
     OdDbStub* modelSpace = nullptr;
     OdDbStub* paperSpace = nullptr;
     std::vector<OdDbStub*> blocksOfLayouts; // that the file lacks although its layouts refer to them
-    std::size_t erasures = 0;      // objects that are erased now
-    std::uint64_t changeCount = 0; // grows with every change, undo and abort included
+    std::size_t erasures = 0;               // objects that are erased now
+    std::uint64_t changeCount = 0;          // grows with every change, undo and abort included
 
     std::uint16_t typeNumber(std::string_view name);
     const std::string& typeName(const OdDbStub& stub) const { return typeNames[stub.type]; }
