@@ -116,6 +116,12 @@ TEST_F(ApplicationTest, TheObjectIsGoneWithTheApplication) {
 }
 
 TEST_F(ApplicationTest, LookingAtEverythingWritesNothing) {
+    for (const Ref<IParam>& tree :
+         {Ref<IParam>(appService<IConfigParam>()), Ref<IParam>(appService<IIOParams>()),
+          Ref<IParam>(appService<IStdPapersParam>()), appService<IParam>()})
+        EXPECT_FALSE(childNames(tree.get()).empty());
+    EXPECT_FALSE(sectionOf<IProfile>("Cursor"));
+    EXPECT_EQ(pathsOf("Fonts").size(), 2u);
     application.reset();
     EXPECT_EQ(filesOpened, 0);
     EXPECT_FALSE(QFile::exists(root));

@@ -117,7 +117,8 @@ TEST_F(AttachServicesTest, FilesAreFoundAsTheyStandBesideTheDrawingAndThenInTheF
 }
 
 TEST_F(AttachServicesTest, FoldersAreLookedUpOnlyWhileTheProgramRuns) {
-    put("root/references/part.dxf");
+    const QString part = put("root/references/part.dxf");
+    ASSERT_EQ(find("part.dxf"), part);
     application.reset();
     EXPECT_EQ(find("part.dxf"), "");
 }

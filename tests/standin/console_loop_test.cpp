@@ -215,9 +215,16 @@ TEST_F(FailedCommandTest, TransactionsThatItBeganAreAborted) {
 }
 
 TEST_F(FailedCommandTest, TransactionsThatWereOpenBeforeStayOpen) {
+    const std::size_t before = lines();
     drawing->startTransaction();
-    fail([this] { drawing->startTransaction(); });
+    addLine();
+    fail([this] {
+        drawing->startTransaction();
+        addLine();
+    });
     EXPECT_EQ(drawing->numActiveTransactions(), 1);
+    EXPECT_TRUE(saidSo());
+    EXPECT_EQ(lines(), before + 1) << "that of the transaction which was open before";
     drawing->endTransaction();
 }
 
@@ -241,7 +248,12 @@ TEST_F(FailedCommandTest, AnUndoBlockThatItLeftOpenIsTakenBackAndClosed) {
 TEST_F(FailedCommandTest, AnEmptyUndoBlockTakesNothingBackOfTheCommandBefore) {
     addLine();
     const std::size_t before = lines();
-    fail([this] { drawing->blockUndoRecording(true); });
+    bool wasStarted = false;
+    fail([&] {
+        drawing->blockUndoRecording(true);
+        wasStarted = drawing->isUndoBlockStarted();
+    });
+    EXPECT_TRUE(wasStarted);
     EXPECT_FALSE(drawing->isUndoBlockStarted());
     EXPECT_EQ(lines(), before);
 }

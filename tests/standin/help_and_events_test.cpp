@@ -4,6 +4,7 @@
 #include "standin/registry.h"
 
 #include <QDialog>
+#include <QDir>
 #include <QFile>
 #include <QMenu>
 #include <QMessageBox>
@@ -20,15 +21,21 @@ namespace {
 
 struct HelpTest : testing::Test {
     HelpTest() {
-        QFile page(folder.filePath("IDH_GroupCmd[1].html"));
+        EXPECT_TRUE(QDir(folder.path()).mkdir("pages"));
+        write("pages/IDH_GroupCmd[1].html",
+              "<html><head><title>Groups</title></head><body>About groups.</body></html>");
+        write("IDH_Outside.html", "<html><body>Not for you.</body></html>");
+    }
+    void write(const char* file, const char* contents) const {
+        QFile page(folder.filePath(file));
         EXPECT_TRUE(page.open(QIODevice::WriteOnly));
-        page.write("<html><head><title>Groups</title></head><body>About groups.</body></html>");
+        page.write(contents);
     }
     QString shown() {
         return help->window()->findChild<QTextBrowser*>(QStringLiteral("pageBrowser"))->toPlainText();
     }
     QTemporaryDir folder;
-    Ref<HelpService> help = Ref<HelpService>::share(new HelpService(folder.path()));
+    Ref<HelpService> help = Ref<HelpService>::share(new HelpService(folder.filePath("pages")));
 };
 
 TEST_F(HelpTest, PageOfTheTopicIsShown) {
@@ -45,8 +52,8 @@ TEST_F(HelpTest, MissingPageIsTold) {
 }
 
 TEST_F(HelpTest, TopicDoesNotLeadOutOfTheFolder) {
-    help->showTopic("../IDH_None");
-    EXPECT_TRUE(shown().startsWith("There is no help page"));
+    help->showTopic("../IDH_Outside");
+    EXPECT_EQ(shown(), "There is no help page \"../IDH_Outside\".");
 }
 
 TEST_F(HelpTest, WindowBelongsToTheModalDialogSoThatItCanBeUsed) {
@@ -88,6 +95,8 @@ struct EventsTest : testing::Test {
 
 TEST_F(EventsTest, MessageIsShownAndPrinted) {
     for (const int kind : {0, 12}) {
+        box = printed = QString();
+        buttons = {};
         EXPECT_EQ(events->notify(kind, L"Invalid insertion point.", 0, 7), 1);
         EXPECT_EQ(box, "Invalid insertion point.");
         EXPECT_EQ(printed, box);

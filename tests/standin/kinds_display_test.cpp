@@ -290,6 +290,7 @@ TEST(AttributeDefinitions, OfConstantsAreTextsOfTheirBlock) {
     EXPECT_EQ(constant.shape().points[0], QPointF(11, 2));
     for (const char* flags : {"0", "3"}) { // to be filled in, and constant but invisible
         const Drawing hidden(line() + reference, blocks(blockOf("B", line() + definition(flags))));
+        ASSERT_EQ(hidden.items.size(), 2u) << flags;
         for (const Item* item : hidden.items)
             for (const Shape& shape : item->shapes)
                 EXPECT_EQ(shape.kind, Shape::Path) << flags;

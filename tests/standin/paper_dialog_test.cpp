@@ -52,9 +52,14 @@ private:
     QWidget* dialog;
 };
 
+// How many dialogs are awaited that have not come up. None may be at the end of a test.
+int awaitedDialogs = 0;
+
 // Runs `work` on the next modal dialog; the dialog is closed if the work has left it open.
 void onNextDialog(const std::function<void(User& user)>& work) {
+    ++awaitedDialogs;
     QTimer::singleShot(0, qApp, [work] {
+        --awaitedDialogs;
         QWidget* dialog = QApplication::activeModalWidget();
         ASSERT_TRUE(dialog);
         EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
@@ -69,6 +74,9 @@ class PaperDialogTest : public testing::Test {
 protected:
     FixtureHost host;
     Ref<standin::StdPapers> papers = Ref<standin::StdPapers>::share(new standin::StdPapers);
+    void TearDown() override {
+        EXPECT_EQ(awaitedDialogs, 0) << "a dialog that the test waits for did not come up";
+    }
     void SetUp() override {
         host.load(*papers,
                   "Paper00000001: {Name: !wide \"A4\", Size: !rsize [210, 297], Units: \"mm\",\n"

@@ -154,6 +154,12 @@ TEST_F(SysvarsTest, ApplicationVariablesAreKeptInTheProfile) {
 TEST_F(SysvarsTest, UnusableValueInTheProfileGivesTheDefault) {
     const auto section = Ref<IParam>::take(new_MemParam());
     CKWVariant value;
+    value = 33;
+    section->setValue("SIZE", &value);
+    section->setValue("BIG", &value);
+    service.keepIn(section);
+    ASSERT_EQ(get(L"SIZE")->getInt16(), 33);
+    ASSERT_EQ(get(L"BIG")->getInt32(), 33);
     value = 5000;
     section->setValue("SIZE", &value);
     value = "text";

@@ -42,6 +42,7 @@ TEST_F(ThemesTest, SettingTheSameThemeTellsNothing) {
 }
 
 TEST_F(ThemesTest, SystemThemeGivesTheSystemsColours) {
+    ASSERT_NE(QApplication::palette().color(QPalette::Window), before.color(QPalette::Window));
     manager.setTheme(kThemeSystem);
     EXPECT_EQ(manager.themeNumber(), 2);
     EXPECT_EQ(QApplication::palette().color(QPalette::Window), before.color(QPalette::Window));

@@ -77,7 +77,10 @@ TEST(Translation, ShippedEnglishCatalogueServesEveryLanguageAndGoesWithTheHost) 
 }
 
 TEST(Translation, HostFunctionIsFreeAgainAfterwards) {
-    { const Catalogues catalogues; }
+    {
+        const Catalogues catalogues;
+        EXPECT_TRUE(standin::registry().translate);
+    }
     EXPECT_FALSE(standin::registry().translate);
 }
 
