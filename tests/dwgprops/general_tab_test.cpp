@@ -1,5 +1,6 @@
 // The General tab: texts of sizes and kinds of files, and what the tab shows of a file.
 #include "dwgprops/db_text.h"
+#include "dwgprops/elided_label.h"
 #include "dwgprops/general_tab.h"
 #include "tests/dwgprops/dialog_driver.h"
 
@@ -191,6 +192,11 @@ TEST_F(GeneralPage, LocationIsElidedOnResizeWithTheWholePathInTheToolTip) {
     EXPECT_TRUE(waitUntil([&] { return location->text() == narrow; }));
 }
 
+TEST(ElidedText, IsShortenedAtOnce) {
+    const ElidedLabel label(QString(300, 'x'), nullptr);
+    EXPECT_TRUE(label.text().endsWith(QChar(0x2026))) << label.text().toStdString();
+}
+
 TEST_F(GeneralPage, ALongNameIsShownFromItsFirstCharacterAfterEveryResize) {
     useFile(QString(200, 'n') + ".txt");
     OpenProperties dialog;
@@ -250,6 +256,11 @@ TEST_F(GeneralPage, RowsAndSpacersStandInTheirPlaces) {
                                                 {9, "Attributes:"}};
     for (const auto& [row, text] : rows)
         EXPECT_EQ(qobject_cast<QLabel*>(grid->itemAtPosition(row, 0)->widget())->text(), QLatin1String(text));
+    const std::pair<int, const char*> values[] = {{1, "typeLabel"},     {2, "locationLabel"},
+                                                  {3, "sizeLabel"},     {5, "createdLabel"},
+                                                  {6, "modifiedLabel"}, {7, "accessedLabel"}};
+    for (const auto& [row, name] : values)
+        EXPECT_EQ(grid->itemAtPosition(row, 1)->widget()->objectName(), QLatin1String(name));
     for (const int row : {0, 4, 8}) {
         const QSpacerItem* spacer = grid->itemAtPosition(row, 1)->spacerItem();
         EXPECT_EQ(spacer->sizeHint(), QSize(40, 20));

@@ -52,7 +52,8 @@ TEST_F(SummaryPage, LabelsStandInColumnOneAndTextsInColumnTwo) {
               QStringList({"Title:", "Subject:", "Author:", "Keywords:", "Comments:", "Hyperlink base:"}));
     EXPECT_EQ(edits, QStringList({"titleEdit", "subjectEdit", "authorEdit", "keywordsEdit", "commentsEdit",
                                   "hyperlinkEdit"}));
-    EXPECT_NE(grid->itemAtPosition(7, 1)->spacerItem(), nullptr);
+    ASSERT_NE(grid->itemAtPosition(7, 1)->spacerItem(), nullptr);
+    EXPECT_EQ(grid->itemAtPosition(7, 1)->spacerItem()->sizeHint(), QSize(20, 40));
     EXPECT_EQ(grid->columnStretch(2), 0);
 }
 

@@ -3,9 +3,11 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QHideEvent>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
+#include <qtestspontaneevent.h>
 #include <stdexcept>
 
 namespace {
@@ -36,6 +38,37 @@ TEST(ModalRunnerTest, TheDialogIsModalWhileItRunsOnly) {
     EXPECT_TRUE(modalInside);
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_FALSE(dialog.testAttribute(Qt::WA_ShowModal));
+}
+
+TEST(ModalRunnerTest, ADialogThatIsModalByItselfStaysSo) {
+    QDialog dialog;
+    dialog.setModal(true);
+    whenShown(dialog, [&] { dialog.accept(); });
+    runModal(dialog);
+    EXPECT_TRUE(dialog.testAttribute(Qt::WA_ShowModal));
+}
+
+TEST(ModalRunnerTest, ADialogThatIsOnlyHiddenEndsWithARejection) {
+    QDialog dialog;
+    dialog.setResult(7);
+    whenShown(dialog, [&] { dialog.hide(); });
+    EXPECT_EQ(runModal(dialog), QDialog::Rejected);
+}
+
+TEST(ModalRunnerTest, ADialogThatIsMinimisedGoesOn) {
+    QDialog dialog;
+    bool wentOn = false;
+    whenShown(dialog, [&] {
+        QHideEvent minimised;
+        QSpontaneKeyEvent::setSpontaneous(&minimised); // as one of the window system
+        qApp->notify(&dialog, &minimised);
+        QTimer::singleShot(0, &dialog, [&] {
+            wentOn = true;
+            dialog.done(3);
+        });
+    });
+    EXPECT_EQ(runModal(dialog), 3);
+    EXPECT_TRUE(wentOn);
 }
 
 TEST(ModalRunnerTest, AnExceptionInASlotEndsTheDialogAndReachesTheCaller) {

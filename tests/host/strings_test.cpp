@@ -85,6 +85,13 @@ TEST(CXStringTest, FindAndDeleteStayWithinTheText) {
     EXPECT_EQ(text.Find(L';', 4), -1);
     EXPECT_EQ(text.Find(L'x'), -1);
     EXPECT_EQ(text.Find(L';', 99), -1);
+    EXPECT_EQ(text.Find(L';', -1), -1);
+    EXPECT_EQ(text.Find(L'a', 0), 0);
+    EXPECT_EQ(text.Find(L'\0'), -1) << "the end is no part of the text";
+    for (const auto& [start, count] : {std::pair(-1, 1), {0, 0}, {1, -1}, {5, 1}}) {
+        text.Delete(start, count);
+        EXPECT_STREQ(text, L"a;b;c") << start;
+    }
     text.Delete(1, 2);
     EXPECT_STREQ(text, L"a;c");
     text.Delete(1, 99);

@@ -1,12 +1,15 @@
 // The application object of the tests.
 #include "tests/support/test_application.h"
 
-OdRxObjectPtr TestServices::newContext(int, int) {
+OdRxObjectPtr TestServices::newContext(int first, int second) {
     ++contextsMade;
+    contextNumbers = {first, second};
     return OdRxObjectPtr(new OdRxObject);
 }
 
-OdSmartPtr<OdDbDatabase> TestServices::readFile(const OdString& path, int, int, int, const OdString&) {
+OdSmartPtr<OdDbDatabase> TestServices::readFile(const OdString& path, int first, int second, int shareMode,
+                                                const OdString&) {
+    readNumbers = {first, second, shareMode};
     if (!reader)
         throw OdError(eCantOpenFile);
     return reader(path);

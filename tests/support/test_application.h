@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <functional>
+#include <vector>
 
 class TestServices : public IqServices {
 public:
@@ -16,6 +17,8 @@ public:
     int contextsMade = 0;
     // Stands in for reading drawings; empty: no path can be opened.
     std::function<OdDbDatabasePtr(const OdString& path)> reader;
+    std::vector<int> readNumbers; // the three numbers of the last readFile, in order
+    std::vector<int> contextNumbers;
 };
 
 class TestConsole : public QObject, public IqConsole {

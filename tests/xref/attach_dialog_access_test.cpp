@@ -1,6 +1,7 @@
 // The attach dialog for who uses it by keyboard or by ear: order, labels, names, and fields that only show.
 #include "tests/xref/attach_dialog_fixture.h"
 
+#include <QButtonGroup>
 #include <QGroupBox>
 
 namespace {
@@ -161,4 +162,26 @@ TEST_F(AttachAccess, ControlsStandFromLeftToRightAndFromTopToBottom) {
             EXPECT_LT(place(row[i - 1]).x(), place(row[i]).x()) << row[i];
     const QWidget* const help = control<QWidget>("helpButton");
     EXPECT_LT(dialog->width() - help->geometry().right(), 20) << "the buttons stand at the right";
+}
+
+TEST_F(AttachAccess, TheTwoKindsAreOneChoice) {
+    open(write("part.dxf"));
+    const QButtonGroup* const kinds = control<QRadioButton>("attachmentRadio")->group();
+    ASSERT_NE(kinds, nullptr);
+    EXPECT_EQ(control<QRadioButton>("overlayRadio")->group(), kinds);
+    EXPECT_TRUE(kinds->exclusive());
+}
+
+TEST_F(AttachAccess, GroupsKeepTheirHeightsAndStayAtTheTopOfAHigherWindow) {
+    open(write("part.dxf"));
+    std::map<QString, QRect> before;
+    for (const QGroupBox* group : dialog->findChildren<QGroupBox*>())
+        before[group->title()] = group->geometry();
+    dialog->resize(dialog->width(), dialog->height() + 300);
+    ASSERT_TRUE(
+        waitUntil([&] { return control<QWidget>("okButton")->y() > before["Rotation"].bottom() + 200; }));
+    for (const QGroupBox* group : dialog->findChildren<QGroupBox*>()) {
+        EXPECT_EQ(group->height(), before[group->title()].height()) << group->title().toStdString();
+        EXPECT_LE(group->y() - before[group->title()].y(), 100) << group->title().toStdString();
+    }
 }

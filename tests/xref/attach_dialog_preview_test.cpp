@@ -81,22 +81,47 @@ std::string largePng(int width, int height) {
 
 } // namespace
 
-TEST_F(AttachDialog, APreviewThatClaimsToBeHugeIsNotBelieved) {
+class PreviewSizes : public AttachDialog {
+protected:
+    // The preview that is read of a drawing whose file carries one of that size.
+    QSize read(int width, int height) {
+        writeWithPreview(width, height);
+        return loadPreviewImage(inFolder("part.dxf")).size();
+    }
+    void writeWithPreview(int width, int height) {
+        const OdDbDatabasePtr part = smallDrawing();
+        OdThumbnailImage image;
+        image.bmp = largePng(width, height);
+        odDbPutPreviewBitmap(part.get(), image);
+        part->writeFile(odPath("part.dxf"));
+    }
+};
+
+TEST_F(PreviewSizes, WhatClaimsToBeHugeIsNotBelieved) {
     provideServices();
-    const OdDbDatabasePtr part = smallDrawing();
-    OdThumbnailImage image;
-    image.bmp = largePng(30000, 64);
-    odDbPutPreviewBitmap(part.get(), image);
-    part->writeFile(odPath("part.dxf"));
-    EXPECT_TRUE(loadPreviewImage(inFolder("part.dxf")).isNull());
-    EXPECT_EQ(services->reported.size(), 1) << "it is told that the preview can't be shown";
+    for (const auto& [width, height] : {std::pair(30000, 64), {16385, 8}, {8, 16385}}) {
+        services->reported.clear();
+        EXPECT_EQ(read(width, height), QSize(0, 0)) << width;
+        EXPECT_EQ(services->reported.size(), 1) << "it is told that the preview can't be shown";
+    }
 }
 
-TEST_F(AttachDialog, ALargePreviewIsScaledWhileItIsRead) {
-    const OdDbDatabasePtr part = smallDrawing();
-    OdThumbnailImage image;
-    image.bmp = largePng(16384, 4096);
-    odDbPutPreviewBitmap(part.get(), image);
-    part->writeFile(odPath("part.dxf"));
-    EXPECT_EQ(loadPreviewImage(inFolder("part.dxf")).size(), QSize(1024, 256));
+TEST_F(PreviewSizes, LargeOnesAreScaledWhileTheyAreRead) {
+    EXPECT_EQ(read(16384, 4096), QSize(1024, 256));
+    EXPECT_EQ(read(64, 16384), QSize(4, 1024));
+    EXPECT_EQ(read(16384, 1), QSize(1024, 1)) << "a line stays a line";
+    EXPECT_EQ(read(1024, 1024), QSize(1024, 1024));
+    EXPECT_EQ(read(1025, 1025), QSize(1024, 1024));
+}
+
+TEST_F(PreviewSizes, ShownOnesFillTheirPlaceOneWayAndStandInItsMiddle) {
+    for (const auto& [size, shown] :
+         {std::pair(QSize(64, 16), QSize(200, 50)), {QSize(16, 64), QSize(50, 200)}}) {
+        writeWithPreview(size.width(), size.height());
+        open(inFolder("part.dxf"));
+        const auto* const label = control<QLabel>("previewLabel");
+        EXPECT_EQ(label->pixmap(Qt::ReturnByValue).size(), shown);
+        EXPECT_EQ(label->size(), QSize(200, 200));
+        EXPECT_EQ(label->alignment(), Qt::AlignCenter);
+    }
 }

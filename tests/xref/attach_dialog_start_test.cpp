@@ -165,6 +165,10 @@ TEST_F(AttachDialog, EntriesStandForTheNonEmptyParts) {
     EXPECT_FALSE(dialog->entries[0].flag);
     EXPECT_EQ(dialog->entries[1].name, "b");
     EXPECT_TRUE(dialog->entries[1].flag);
+    std::vector<XRefEntry> others(5);
+    EXPECT_TRUE(fillEntries("/x/c.dxf", others));
+    ASSERT_EQ(others.size(), 1u) << "in the place of what was there";
+    EXPECT_EQ(others[0].savedPath, "/x/c.dxf");
 }
 
 TEST_F(AttachDialog, MapFillsTheControls) {

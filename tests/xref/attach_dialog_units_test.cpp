@@ -39,3 +39,27 @@ TEST_P(DialogUnits, FactorsKeepTheirValueWhenUniformScaleIsLeft) {
 
 INSTANTIATE_TEST_SUITE_P(StyleAndPrecision, DialogUnits,
                          testing::Combine(testing::Values(1, 2, 3, 4, 5), testing::Values(0, 2, 4, 8)));
+
+// Of a drawing in feet and inches.
+class DialogInFeet : public AttachDialog {
+protected:
+    DialogInFeet() {
+        host.vars.set("LUNITS", 4);
+        give("INSERTION_POINT_SPECIFY_ON_SCREEN", 0);
+        open(write("part.dxf"));
+    }
+};
+
+TEST_F(DialogInFeet, FieldsAreCheckedInTheUnitStyleOfTheDrawing) {
+    for (const char* field : {"insertXEdit", "insertYEdit", "insertZEdit", "angleEdit"}) {
+        edit(field)->setText("2'x");
+        click("okButton");
+        EXPECT_EQ(noticeTexts().size(), 1) << field;
+        EXPECT_TRUE(dialog->isVisible()) << field;
+        host.notices().clear();
+        edit(field)->setText("2'");
+    }
+    click("okButton");
+    EXPECT_EQ(noticeTexts(), QStringList()) << "feet are a length there";
+    EXPECT_EQ(ended, QDialog::Accepted);
+}

@@ -285,6 +285,27 @@ TEST_F(AttachFailures, WithoutADocumentTheConsoleIsTheManagersOwn) {
     EXPECT_EQ(attach::io(), nullptr);
 }
 
+// Notes the fixed numbers that come with a text.
+class NotedNumbers : public CKWUnknownImpl<IEvents> {
+public:
+    int notify(int kind, const wchar_t*, int reserved, int buttons) override {
+        numbers = {kind, reserved, buttons};
+        return 5;
+    }
+    std::vector<int> numbers;
+};
+
+TEST_F(AttachFailures, NoticesCarryTheirNumbersAndGiveTheAnswer) {
+    const auto noted = Ref<NotedNumbers>::share(new NotedNumbers);
+    standin::registry().events = noted.get();
+    for (const NoticeKind kind : {kFileNotice, kInputNotice, kConflictNotice}) {
+        EXPECT_EQ(attach::notice(kind, L"text"), 5);
+        EXPECT_EQ(noted->numbers, (std::vector<int>{kind, 0, 7}));
+    }
+    standin::registry().events = nullptr;
+    EXPECT_EQ(attach::notice(kFileNotice, L"text"), 0) << "nobody answers";
+}
+
 TEST_F(AttachFailures, MessagesAreTranslated) {
     host.translations[L"Drawing file is not valid."] = L"Keine Zeichnung.";
     attachFile(writeBytes("empty.dxf", ""));

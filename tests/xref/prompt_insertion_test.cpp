@@ -1,6 +1,8 @@
 // The insertion prompt, driven cell by cell, and the value prompts that its keywords lead to.
 #include "tests/xref/xref_fixture.h"
 #include "xref/prompt_insertion.h"
+#include "xref/prompt_rotation.h"
+#include "xref/prompt_scale.h"
 #include "xref/prompt_value.h"
 
 #include <cmath>
@@ -298,4 +300,45 @@ TEST_F(ValuePrompt, MessagesOfRefusedAnswersReachOnlyTheServices) {
               QStringList({"Requires numeric distance or two points.", "Value must be nonzero.",
                            "Requires valid numeric angle or two points."}));
     EXPECT_TRUE(io.lines.isEmpty());
+}
+
+namespace {
+
+// In a drawing in feet and inches, and with angles in radians.
+class UnitsOfTheDrawing : public XRefTest {
+protected:
+    UnitsOfTheDrawing() {
+        host.vars.set("LUNITS", 4);
+        host.vars.set("AUNITS", 3);
+        reference->setScaleFactors(OdGeScale3d(1));
+    }
+    OdDbBlockReferencePtr reference{new OdDbBlockReference};
+};
+
+} // namespace
+
+TEST_F(UnitsOfTheDrawing, CountForTypedDistances) {
+    io.script({typed(L"2'"), pick(1, 1), typed(L"3'")});
+    double got = 0;
+    promptDistanceValue(L"How far:", L"", got, true);
+    EXPECT_EQ(got, 24);
+    promptDistanceValue(L"How far:", L"", got, true);
+    EXPECT_EQ(got, 36);
+}
+
+TEST_F(UnitsOfTheDrawing, CountForTypedFactors) {
+    io.script({typed(L"2'"), value(1), keyword(1), typed(L"2'"), value(1), typed(L"3'")});
+    promptScale(reference, false, 1);
+    EXPECT_EQ(reference->scaleFactors(), OdGeScale3d(24, 1, 24));
+    promptScale(reference, false, 1);
+    EXPECT_EQ(reference->scaleFactors(), OdGeScale3d(24, 1, 36));
+}
+
+TEST_F(UnitsOfTheDrawing, CountForTypedAngles) {
+    io.script({typed(L"1.5"), typed(L"0.5")});
+    double got = 0;
+    promptAngleValue(L"How much:", L"", got);
+    EXPECT_DOUBLE_EQ(got, 1.5);
+    promptRotation(reference);
+    EXPECT_DOUBLE_EQ(reference->rotation(), 0.5);
 }

@@ -223,6 +223,7 @@ TEST_F(ScalePromptTexts, AsksWithItsPromptsKeywordsAndFlags) {
         EXPECT_EQ(io.questions[i].flags, flags[i]);
         EXPECT_EQ(io.questions[i].withTracker, trackers[i]);
     }
+    EXPECT_EQ(io.questions[3].reserved, (std::vector<int>{0, 0}));
 }
 
 TEST_F(ScalePromptTexts, MessagesOfRefusedAnswersAreSilentWithoutServices) {

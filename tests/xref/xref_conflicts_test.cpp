@@ -28,6 +28,7 @@ protected:
 TEST_F(Conflicts, DrawingWithoutReferencesPasses) {
     EXPECT_TRUE(check());
     EXPECT_EQ(asked, OdString(L"/x/part.dxf"));
+    EXPECT_EQ(TestApplication::self()->testServices.readNumbers, (std::vector<int>{0, 0, 64}));
 }
 
 TEST_F(Conflicts, OtherReferencesPass) {

@@ -33,6 +33,7 @@ public:
         int flags;
         bool withBase, withTracker;
         OdGePoint3d base;
+        std::vector<int> reserved{}; // what getReal was given behind the flags
     };
     std::vector<Question> questions;
     QStringList lines, formatted;
@@ -64,8 +65,11 @@ public:
                     int flags, OdString* text, HostEdPointTracker* tracker) override {
         return number(ask("getDistance", &base, prompt, keywords, flags, tracker), distance, text);
     }
-    int getReal(double* real, const wchar_t* prompt, const wchar_t* keywords, int flags, int, int) override {
-        return number(ask("getReal", nullptr, prompt, keywords, flags, nullptr), real, nullptr);
+    int getReal(double* real, const wchar_t* prompt, const wchar_t* keywords, int flags, int first,
+                int second) override {
+        const int code = number(ask("getReal", nullptr, prompt, keywords, flags, nullptr), real, nullptr);
+        questions.back().reserved = {first, second};
+        return code;
     }
 
 private:
@@ -77,9 +81,14 @@ private:
     }
     Answer ask(const char* operation, const OdGePoint3d* base, const wchar_t* prompt, const wchar_t* keywords,
                int flags, HostEdPointTracker* tracker) {
-        questions.push_back({QLatin1String(operation), hostqt::qString(prompt),
-                             keywords ? QStringLiteral("") + hostqt::qString(keywords) : QString(), flags,
-                             base != nullptr, tracker != nullptr, base ? *base : OdGePoint3d()});
+        questions.push_back({QLatin1String(operation),
+                             hostqt::qString(prompt),
+                             keywords ? QStringLiteral("") + hostqt::qString(keywords) : QString(),
+                             flags,
+                             base != nullptr,
+                             tracker != nullptr,
+                             base ? *base : OdGePoint3d(),
+                             {}});
         if (onQuestion)
             onQuestion(questions.back(), tracker);
         if (answers.empty()) {
