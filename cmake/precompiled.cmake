@@ -24,5 +24,7 @@ endfunction()
 
 house_precompiled_holder(precompiled_core HEADERS ${HOUSE_CORE_HEADERS} USES Qt5::Core)
 house_precompiled_holder(precompiled_windows HEADERS ${HOUSE_WINDOW_HEADERS} USES Qt5::Widgets)
-house_precompiled_holder(precompiled_tests HEADERS ${HOUSE_WINDOW_HEADERS} <QTest> <gmock/gmock.h> <gtest/gtest.h>
-                         USES Qt5::Widgets Qt5::Test GTest::gtest GTest::gmock)
+if(HOUSE_TESTS)
+    house_precompiled_holder(precompiled_tests HEADERS ${HOUSE_WINDOW_HEADERS} <QTest> <gmock/gmock.h> <gtest/gtest.h>
+                             USES Qt5::Widgets Qt5::Test GTest::gtest GTest::gmock)
+endif()

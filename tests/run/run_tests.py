@@ -93,9 +93,10 @@ def shards_of(binaries, env):
 
 
 def part_of_failures(output):
-    """The output of what failed, without the tests that passed."""
-    kept = [part for part in re.split(r"(?m)^(?=\[ RUN      \])", output) if not re.search(r"(?m)^\[       OK \]", part)]
-    return "".join(kept)[-20000:]
+    """The output of what failed, without the tests that passed, and what the process said at its end."""
+    tests, _, end = output.partition("[----------] Global test environment tear-down")
+    kept = [part for part in re.split(r"(?m)^(?=\[ RUN      \])", tests) if not re.search(r"(?m)^\[       OK \]", part)]
+    return ("".join(kept) + end)[-20000:]
 
 
 def run_shards(shards, jobs, env):

@@ -39,7 +39,10 @@ class RunTests(unittest.TestCase):
         self.assertEqual(self.shard_of(TWO + "exit 139").problem, "Suite.Two ended the process (exit 139)")
 
     def test_fails_when_the_end_of_the_process_tells_of_a_fault(self):
-        self.assertEqual(self.shard_of(TWO + PASSED + "\nexit 23").problem, "exit 23 after its tests")
+        end = "\necho '[----------] Global test environment tear-down'\necho 'a leak of 5 bytes'\nexit 23"
+        shard = self.shard_of(TWO + PASSED + end)
+        self.assertEqual(shard.problem, "exit 23 after its tests")
+        self.assertIn("a leak of 5 bytes", run_tests.part_of_failures(shard.output))
 
     def test_fails_when_tests_were_left_out(self):
         lines = ONE + "\necho '[==========] 1 test from 1 test suite ran. (1 ms total)'"

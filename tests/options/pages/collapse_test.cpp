@@ -216,6 +216,7 @@ struct ListenedBox : SearchingLineEdit {
 
 TEST_F(Collapse, ListensTwiceToTheEndOfASearch) {
     ListenedBox box(window.tree, window.description, &window, "green", "white");
+    box.statusLabel->setParent(&box); // no layout takes it here
     const int before = box.listeners();
     const CollapseWidget collapse(window.tree, &box, &window);
     EXPECT_EQ(box.listeners() - before, 2);
