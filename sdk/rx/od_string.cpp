@@ -28,7 +28,7 @@ std::wstring widePattern(const wchar_t* pattern) {
         if (*p == L's')
             result += L'l';
         if (!*p)
-            break;
+            return result + L'%'; // a sign at the end stands for itself
         result += *p;
     }
     return result;

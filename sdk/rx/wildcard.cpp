@@ -28,7 +28,8 @@ Single matchSet(const Text& pattern, std::size_t at, wchar_t c) {
             found = found || (c >= pattern[i] && c <= pattern[i + 2]);
             i += 3;
         } else {
-            found = found || c == pattern[i++];
+            found = found || c == pattern[i];
+            ++i;
         }
     }
     return {found != inverted, end - at + 1};

@@ -2,7 +2,7 @@
 #include "dwgprops/db_text.h"
 #include "tests/dwgprops/dialog_driver.h"
 
-#include "tests/dwgprops/time_zone.h"
+#include "tests/support/time_zone.h"
 
 namespace {
 constexpr std::uint32_t seventhOfMarch2024 = 2460377;

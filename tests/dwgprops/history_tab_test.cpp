@@ -3,7 +3,7 @@
 #include "dwgprops/file_history.h"
 #include "host/typed_reads.h"
 #include "tests/dwgprops/dialog_driver.h"
-#include "tests/dwgprops/time_zone.h"
+#include "tests/support/time_zone.h"
 
 #include <QDateTime>
 #include <QFile>

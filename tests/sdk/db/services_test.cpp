@@ -5,6 +5,7 @@
 #include "sdk/db/layer_table.h"
 #include "sdk/db/thumbnail.h"
 #include "sdk/rx/wildcard.h"
+#include "tests/support/time_zone.h"
 
 #include <cmath>
 
@@ -16,6 +17,18 @@ TEST(Units, FactorsAreInMetres) {
     EXPECT_DOUBLE_EQ(metres, 0.0254);
     EXPECT_EQ(GetUnitFactor(OdDb::kUnitsUSSurveyMile, metres), eOk);
     EXPECT_NEAR(metres, 1609.347, 1e-3);
+}
+
+TEST(Units, EachHasItsSizeInMetres) {
+    const double sizes[] = {0.0254,    0.3048,    1609.344,     0.001,       0.01,        1,
+                            1000,      2.54e-8,   2.54e-5,      0.9144,      1e-10,       1e-9,
+                            1e-6,      0.1,       10,           100,         1e9,         149597870700.0,
+                            9.4607e15, 3.0857e16, 0.3048006096, 0.025400051, 0.914401829, 1609.347219};
+    for (int unit = 1; unit <= 24; ++unit) {
+        double metres = 0;
+        EXPECT_EQ(GetUnitFactor(static_cast<OdDb::UnitsValue>(unit), metres), eOk) << unit;
+        EXPECT_NEAR(metres / sizes[unit - 1], 1, 1e-5) << unit;
+    }
 }
 
 TEST(Units, NoUnitAndUnknownUnitsFailAndLeaveTheTargetAlone) {
@@ -64,13 +77,20 @@ TEST(Dates, FractionOfTheDayGoesThereAndBack) {
     EXPECT_EQ(OdTimeStamp::fromJulianFraction(date.asJulianFraction()), date);
     EXPECT_EQ(OdTimeStamp::fromJulianFraction(std::nan("")), OdTimeStamp());
     EXPECT_EQ(OdTimeStamp::fromJulianFraction(1e30), OdTimeStamp());
+    EXPECT_EQ(OdTimeStamp::fromJulianFraction(-0.5), OdTimeStamp());
+    EXPECT_EQ(OdTimeStamp::fromJulianFraction(1e7), OdTimeStamp());
+    EXPECT_EQ(OdTimeStamp::fromJulianFraction(2460377.5), OdTimeStamp(2460377, 43200000));
+    EXPECT_EQ(OdTimeStamp::fromJulianFraction(2460377.9999999999), OdTimeStamp(2460378, 0))
+        << "the last half of a millisecond belongs to the next day";
 }
 
 TEST(Dates, LocalAndUniversalTimeAreEachOthersReverse) {
-    OdTimeStamp date(2460377, 50000000);
+    const TimeZone east("EAST-9");
+    OdTimeStamp date(2460377, 61200000); // 17 hours: 2 hours past midnight in the east
     date.universalToLocal();
+    EXPECT_EQ(date, OdTimeStamp(2460378, 7200000));
     date.localToUniversal();
-    EXPECT_EQ(date, OdTimeStamp(2460377, 50000000));
+    EXPECT_EQ(date, OdTimeStamp(2460377, 61200000));
 }
 
 TEST(NamePatterns, WildcardsIgnoreCase) {
