@@ -11,6 +11,15 @@ enum class DialogHabit {
     // Options: the search box takes wildcards as typed, searches after a pause in typing, opens branches that
     // match, and finds keys and search words too. Wants FocusStaysInOptions beside it.
     SearchWhileTyping,
+    // Attaching: angles in the dialog are in the unit of the drawing, as the prompts read them.
+    AnglesAsAtPrompts,
+    // Attaching: a file that can't be attached is told of before the dialog, and left out; each failure is
+    // told in a box with the file and the reason.
+    BadFilesRefusedAtOnce,
+    // Attaching: the unit of a single file is shown.
+    UnitOfFileShown,
+    // Attaching: several files are placed one after the other on screen, or beside each other at one point.
+    FilesPlacedApart,
 };
 
 class IDialogHabits : public IKWUnknown {

@@ -11,6 +11,7 @@
 #include "standin/params/application.h"
 #include "standin/params/root_use.h"
 #include "standin/qt_application/host_application.h"
+#include "standin/references/reference_files.h"
 #include "standin/registry.h"
 #include "workbench/canvas/preview_writer.h"
 #include "workbench/commands/commands.h"
@@ -66,7 +67,8 @@ public:
 
 std::vector<Ref<IKWUnknown>> extraServices() {
     std::vector<Ref<IKWUnknown>> services{Ref<OptionsParent>::share(new OptionsParent),
-                                          Ref<DialogHabits>::share(new DialogHabits)};
+                                          Ref<DialogHabits>::share(new DialogHabits),
+                                          Ref<ReferenceFiles>::share(new ReferenceFiles)};
     if (auto* host = qobject_cast<HostApplication*>(QCoreApplication::instance()))
         services.push_back(host->loopExceptions());
     return services;

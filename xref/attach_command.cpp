@@ -3,12 +3,14 @@
 
 #include "host/app.h"
 #include "host/attach_files.h"
+#include "host/dialog_habits.h"
 #include "host/modal_runner.h"
 #include "host/text.h"
 #include "host/transaction_guard.h"
 #include "host/typed_reads.h"
 #include "xref/attach_dialog.h"
 #include "xref/attach_host.h"
+#include "xref/file_check.h"
 #include "xref/file_selection.h"
 #include "xref/new_definitions.h"
 
@@ -83,6 +85,10 @@ struct ChosenFiles {
     bool byPrompts = false;
 };
 
+QStringList filesToShow(const QStringList& chosen) {
+    return hasHabit(DialogHabit::BadFilesRefusedAtOnce) ? attachableOf(chosen) : chosen;
+}
+
 } // namespace
 
 int OdQCmd_hostAttachExternalReferenceCommand::Run(IParam*) {
@@ -90,14 +96,17 @@ int OdQCmd_hostAttachExternalReferenceCommand::Run(IParam*) {
     const ChosenFiles files(parent);
     if (files.paths.isEmpty())
         return 0;
-    const Ref<IParam> params = Ref<IParam>::take(new_MemParam());
-    writeValue(params.get(), "PATH", joinedPaths(files.paths));
     const NewDefinitionsScope newDefinitions;
     const OdDbDatabasePtr database = attach::database();
     const UndoBlock undoBlock(database);
     DbTransactionGuard guard(database);
     guard.begin();
     const AbortAtEnd abortAtEnd(guard);
+    const QStringList paths = filesToShow(files.paths);
+    if (paths.isEmpty())
+        return 0;
+    const Ref<IParam> params = Ref<IParam>::take(new_MemParam());
+    writeValue(params.get(), "PATH", joinedPaths(paths));
     hostInsertExternalReferenceDialog dialog(parent, params.get());
     if (!dialog.initialized)
         return 0;

@@ -1,12 +1,15 @@
 // Start and end of the attach dialog: the parameter map on the way in, the attaching on the way out.
 #include "xref/attach_dialog.h"
 
+#include "host/command_io.h"
+#include "host/dialog_habits.h"
 #include "host/text.h"
 #include "host/typed_reads.h"
 #include "xref/attach_host.h"
 #include "xref/attach_messages.h"
 #include "xref/attach_reference.h"
 #include "xref/create_xref_reference.h"
+#include "xref/reference_row.h"
 #include "xref/xref_paths.h"
 
 #include <QCheckBox>
@@ -17,7 +20,8 @@
 #include <QRadioButton>
 
 hostInsertExternalReferenceDialog::hostInsertExternalReferenceDialog(QWidget* parent, IParam* params)
-    : QDialog(parent), database(attach::database()), depth(database) {
+    : QDialog(parent), database(attach::database()), depth(database),
+      placedApart(hasHabit(DialogHabit::FilesPlacedApart)) {
     depth.begin();
     build();
     setAttribute(Qt::WA_MouseTracking);
@@ -78,7 +82,9 @@ void hostInsertExternalReferenceDialog::readTypes(IParam* params) {
     int overlay = isOverlay();
     readValue(params, "REFERENCE_TYPE", &overlay);
     (overlay ? overlayRadio : attachmentRadio)->setChecked(true);
-    readNumber(params, "ROTATION", angleEdit);
+    double rotation = 0;
+    if (readValue(params, "ROTATION", &rotation))
+        angleEdit->setText(angleUnit.number(rotation));
 }
 
 void hostInsertExternalReferenceDialog::readChecks(IParam* params) {
@@ -140,6 +146,8 @@ void hostInsertExternalReferenceDialog::takeSeveralFiles() {
     nameCombo->setCurrentIndex(nameCombo->findData(tr("Varies"), Qt::DisplayRole, Qt::MatchCaseSensitive));
     nameCombo->setEnabled(false);
     for (QCheckBox* check : {scaleOnScreenCheck, insertionOnScreenCheck, rotationOnScreenCheck}) {
+        if (placedApart)
+            break;
         check->setChecked(false);
         check->setEnabled(false);
     }
@@ -160,28 +168,48 @@ bool hostInsertExternalReferenceDialog::makeReference(const QString& file) {
 }
 
 void hostInsertExternalReferenceDialog::accept() {
-    const OdGePoint3d insertionPoint(insertXEdit->text().toDouble(), insertYEdit->text().toDouble(),
-                                     insertZEdit->text().toDouble());
-    const double rotation = angleEdit->text().toDouble();
-    OdGeScale3d scale;
-    if (!scaleOnScreenCheck->isChecked())
-        scale = OdGeScale3d(scaleXEdit->text().toDouble(), scaleYEdit->text().toDouble(),
-                            scaleZEdit->text().toDouble());
-    const int row = pathTypeCombo->currentIndex();
-    const int pathType = row == 0 ? kRelativePath : row == 1 ? kFullPath : kFileNameOnly;
     saveAttachSettings();
     hide(); // so that the prompts have the drawing before them; the result follows all the same
-    bool allAttached = true; // a failure keeps none of the files behind it from being tried, on purpose
-    for (const QString& file : path.split(QLatin1Char(';')))
-        if (!attachReference(hostqt::odString(file), insertionPoint, scale, isOverlay(),
-                             scaleOnScreenCheck->isChecked(), insertionOnScreenCheck->isChecked(),
-                             rotationOnScreenCheck->isChecked(), uniformScaleCheck->isChecked(), pathType,
-                             autoZoomCheck->isChecked(), rotation))
-            allAttached = false;
-    if (allAttached)
+    if (attachFiles())
         QDialog::accept();
     else
         QDialog::reject();
+}
+
+// A failure keeps none of the files behind it from being tried, on purpose; where files are placed one after
+// the other, it or Escape ends the placing.
+bool hostInsertExternalReferenceDialog::attachFiles() {
+    const QStringList files = path.split(QLatin1Char(';'));
+    const bool apart = placedApart && files.size() > 1;
+    ReferenceRow row;
+    bool allAttached = true;
+    for (int i = 0; i < files.size() && (allAttached || !apart); ++i) {
+        if (apart)
+            reportToConsole(attach::io(), hostqt::odString(tr("Placing %1 (%2 of %3).")
+                                                               .arg(QFileInfo(files[i]).fileName())
+                                                               .arg(i + 1)
+                                                               .arg(files.size())));
+        const bool inRow = apart && !insertionOnScreenCheck->isChecked();
+        allAttached = attachFile(files[i], inRow ? &row : nullptr) && allAttached;
+    }
+    return allAttached;
+}
+
+OdGeScale3d hostInsertExternalReferenceDialog::wantedScale() const {
+    if (scaleOnScreenCheck->isChecked())
+        return {};
+    return {scaleXEdit->text().toDouble(), scaleYEdit->text().toDouble(), scaleZEdit->text().toDouble()};
+}
+
+bool hostInsertExternalReferenceDialog::attachFile(const QString& file, ReferenceRow* row) const {
+    const OdGePoint3d insertionPoint(insertXEdit->text().toDouble(), insertYEdit->text().toDouble(),
+                                     insertZEdit->text().toDouble());
+    const int listRow = pathTypeCombo->currentIndex();
+    const int pathType = listRow == 0 ? kRelativePath : listRow == 1 ? kFullPath : kFileNameOnly;
+    return attachReference(hostqt::odString(file), insertionPoint, wantedScale(), isOverlay(),
+                           scaleOnScreenCheck->isChecked(), insertionOnScreenCheck->isChecked(),
+                           rotationOnScreenCheck->isChecked(), uniformScaleCheck->isChecked(), pathType,
+                           autoZoomCheck->isChecked(), angleUnit.radians(angleEdit->text()), row);
 }
 
 bool hostInsertExternalReferenceDialog::isOverlay() const { return !attachmentRadio->isChecked(); }

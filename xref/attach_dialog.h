@@ -4,6 +4,7 @@
 #include "host/param.h"
 #include "host/transaction_guard.h"
 #include "sdk/db/block_table.h"
+#include "xref/angle_unit.h"
 
 #include <QDialog>
 #include <vector>
@@ -18,6 +19,7 @@ class QLayout;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class ReferenceRow;
 
 struct XRefEntry {
     QString name, path, savedPath;
@@ -69,6 +71,8 @@ public:
     std::vector<XRefEntry> entries; // one for each file when there are several
     OdDbDatabasePtr database;
     DbTransactionGuard depth;
+    const AngleUnit angleUnit = AngleUnit::wanted();
+    const bool placedApart;   // several files; otherwise all go to one point, one on top of the other
     bool initialized = false; // false: the dialog is not to be shown
 
 private:
@@ -108,8 +112,13 @@ private:
     bool requireDistance(QLineEdit* edit, const wchar_t* message) const;
     bool requireFactor(QLineEdit* edit, bool free) const;
     bool isOverlay() const;
+    bool attachFiles();
+    bool attachFile(const QString& file, ReferenceRow* row) const;
+    OdGeScale3d wantedScale() const;
     // The name that a chosen file can take; empty when the file is attached already and was taken over.
     OdString nameForChosenFile(const QString& candidate, const QString& native, const QString& baseFile);
+    void takeReadable(const QString& native, const QString& baseFile);
+    void eraseShownDefinition();
     void takeOver(const QString& candidate, const QString& native, const QString& baseFile);
     void replaceDefinition(const OdString& candidate, const QString& native, const QString& baseFile);
 };

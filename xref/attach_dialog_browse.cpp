@@ -1,10 +1,12 @@
 // Browse of the attach dialog: another file takes the place of the chosen one.
 #include "xref/attach_dialog.h"
 
+#include "host/dialog_habits.h"
 #include "host/text.h"
 #include "sdk/db/xref_graph.h"
 #include "xref/attach_host.h"
 #include "xref/block_name.h"
+#include "xref/file_check.h"
 #include "xref/file_selection.h"
 #include "xref/new_definitions.h"
 #include "xref/xref_blocks.h"
@@ -18,6 +20,8 @@ void hostInsertExternalReferenceDialog::onBrowse() {
         return;
     const QString native = QDir::toNativeSeparators(files.first());
     const QString baseFile = QFileInfo(native).fileName();
+    if (hasHabit(DialogHabit::BadFilesRefusedAtOnce))
+        return takeReadable(native, baseFile);
     QString candidate;
     if (!blockNameFromFile(baseFile, 0, candidate))
         return;
@@ -58,6 +62,16 @@ OdString hostInsertExternalReferenceDialog::nameForChosenFile(const QString& can
     return {};
 }
 
+// The check has made the definition already, if there was none.
+void hostInsertExternalReferenceDialog::takeReadable(const QString& native, const QString& baseFile) {
+    QString blockName;
+    if (!canBeAttached(native, &blockName))
+        return;
+    if (blockName.compare(name, Qt::CaseInsensitive) != 0)
+        eraseShownDefinition();
+    takeOver(blockName, native, baseFile);
+}
+
 void hostInsertExternalReferenceDialog::takeOver(const QString& candidate, const QString& native,
                                                  const QString& baseFile) {
     path = native;
@@ -70,13 +84,18 @@ void hostInsertExternalReferenceDialog::takeOver(const QString& candidate, const
 void hostInsertExternalReferenceDialog::replaceDefinition(const OdString& candidate, const QString& native,
                                                           const QString& baseFile) {
     const OdDbBlockTablePtr table = blockTableOf(database);
-    const OdDbSymbolTableRecordPtr old = table->getAt(hostqt::odStringFromWidget(name), OdDb::kForWrite);
-    if (!old.isNull()) {
-        old->upgradeOpen();
-        old->erase(true); // one that the drawing uses stays
-    }
+    eraseShownDefinition();
     if (table->getAt(candidate, OdDb::kForRead).isNull())
         noteNewDefinition(OdDbXRefManExt::addNewXRefDefBlock(
             database.get(), hostqt::odString(native), candidate, isOverlay(), OdString(), OdDbHandle()));
     takeOver(hostqt::qString(candidate), native, baseFile);
+}
+
+void hostInsertExternalReferenceDialog::eraseShownDefinition() {
+    const OdDbBlockTablePtr table = blockTableOf(database);
+    const OdDbSymbolTableRecordPtr old = table->getAt(hostqt::odStringFromWidget(name), OdDb::kForWrite);
+    if (old.isNull())
+        return;
+    old->upgradeOpen();
+    old->erase(true); // one that the drawing uses stays
 }

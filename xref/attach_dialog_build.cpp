@@ -95,7 +95,9 @@ void hostInsertExternalReferenceDialog::buildNumberEdits() {
     insertYEdit = numberEdit("insertYEdit");
     insertZEdit = numberEdit("insertZEdit");
     angleEdit = numberEdit("angleEdit");
-    angleEdit->setToolTip(tr("In radians, counterclockwise from the X axis."));
+    angleEdit->setToolTip(angleUnit.name().isEmpty()
+                              ? tr("In radians, counterclockwise from the X axis.")
+                              : tr("In %1, as at the prompts of this drawing.").arg(angleUnit.name()));
 }
 
 void hostInsertExternalReferenceDialog::setDefaults() {
@@ -105,7 +107,8 @@ void hostInsertExternalReferenceDialog::setDefaults() {
         edit->setEnabled(false);
     for (QLineEdit* edit : {scaleXEdit, scaleYEdit, scaleZEdit})
         edit->setText(QString::number(1.0, 'g', 6));
-    for (QLineEdit* edit : {insertXEdit, insertYEdit, insertZEdit, angleEdit})
+    for (QLineEdit* edit : {insertXEdit, insertYEdit, insertZEdit})
         edit->setText(QString::number(0.0, 'g', 6));
+    angleEdit->setText(angleUnit.number(0));
     pathTypeCombo->setCurrentIndex(1);
 }

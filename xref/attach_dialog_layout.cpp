@@ -18,6 +18,20 @@ void nameAfterGroup(const QString& group, std::initializer_list<std::pair<QWidge
         control->setAccessibleName(QStringLiteral("%1, %2").arg(group, name));
 }
 
+// The field with the unit beside it, when there is one to tell.
+void addAngleRow(QFormLayout* rows, const QString& text, QLineEdit* edit, const QString& unit) {
+    if (unit.isEmpty())
+        return rows->addRow(text, edit);
+    auto* const label = new QLabel(text);
+    label->setBuddy(edit);
+    auto* const unitLabel = new QLabel(unit);
+    unitLabel->setObjectName(QStringLiteral("angleUnitLabel"));
+    auto* const field = new QHBoxLayout;
+    field->addWidget(edit);
+    field->addWidget(unitLabel);
+    rows->addRow(label, field);
+}
+
 } // namespace
 
 void hostInsertExternalReferenceDialog::layOut() {
@@ -144,7 +158,7 @@ QLayout* hostInsertExternalReferenceDialog::rightColumn() {
     auto* const rotation = new QGroupBox(tr("Rotation"), this);
     auto* const rotationRows = new QFormLayout(rotation);
     rotationRows->addRow(rotationOnScreenCheck);
-    rotationRows->addRow(tr("Angle:"), angleEdit);
+    addAngleRow(rotationRows, tr("Angle:"), angleEdit, angleUnit.name());
     auto* const unit = new QGroupBox(tr("Block Unit"), this);
     auto* const unitRows = new QFormLayout(unit);
     unitRows->addRow(tr("Unit:"), unitEdit);

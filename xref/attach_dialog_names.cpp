@@ -1,11 +1,13 @@
 // The list of block names in the attach dialog, and what it shows for the chosen one.
 #include "xref/attach_dialog.h"
 
+#include "host/dialog_habits.h"
 #include "host/text.h"
 #include "sdk/db/xref_graph.h"
 #include "xref/attach_host.h"
 #include "xref/block_name.h"
 #include "xref/unit_ratio.h"
+#include "xref/unit_words.h"
 #include "xref/xref_blocks.h"
 #include "xref/xref_paths.h"
 
@@ -64,6 +66,11 @@ void hostInsertExternalReferenceDialog::refreshForName(const QString& blockName)
 
 void hostInsertExternalReferenceDialog::updateUnit(const QString& blockName,
                                                    OdDbBlockTableRecordPtr& record) {
+    if (multipleFiles && hasHabit(DialogHabit::UnitOfFileShown)) {
+        unitEdit->setText(tr("Varies"));
+        factorEdit->setText(tr("Varies"));
+        return;
+    }
     if (multipleFiles) {
         unitEdit->setText(hostqt::qString(attach::word(L"Unitless")));
         factorEdit->setText(QString::number(unitRatio(OdDb::kUnitsUndefined, OdDb::kUnitsUndefined), 'g', 6));
@@ -73,7 +80,8 @@ void hostInsertExternalReferenceDialog::updateUnit(const QString& blockName,
         blockTableOf(database)->getAt(hostqt::odStringFromWidget(blockName), OdDb::kForRead));
     if (record.isNull() || OdDbXRefMan::load(record.get()) != eOk)
         return;
-    unitEdit->setText(QString());
+    const bool shown = hasHabit(DialogHabit::UnitOfFileShown);
+    unitEdit->setText(shown ? unitWord(record->blockInsertUnits()) : QString());
     const double factor = unitRatio(record->blockInsertUnits(), database->getINSUNITS());
     factorEdit->setText(QString::number(factor, 'g', 6));
 }

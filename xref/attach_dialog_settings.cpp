@@ -57,9 +57,9 @@ bool hostInsertExternalReferenceDialog::isOnScreenCheck(const QObject* control) 
 
 void hostInsertExternalReferenceDialog::saveAttachSettings() const {
     const Ref<IParam> store = settingsStore();
-    // For several files the three boxes are off by force, which says nothing about what the user wants.
+    // For several files the three boxes may be off by force, which says nothing about what the user wants.
     for (const auto& [key, button] : settingButtons(*this))
-        if (!multipleFiles || !isOnScreenCheck(button))
+        if (!multipleFiles || placedApart || !isOnScreenCheck(button))
             writeValue(store.get(), key, int(button->isChecked()));
     writeValue(store.get(), kPathTypeKey, pathTypeCombo->currentIndex());
 }

@@ -11,3 +11,6 @@ void tellAttachFailure(HostCommandIO* io, const OdString& path, const OdError& e
 void tellUnknownAttachFailure(HostCommandIO* io, const OdString& what);
 // A file of the current drawing's own base name; `io` may be null.
 void tellCircle(HostCommandIO* io, const OdString& path);
+// These two only to hosts that want each failure in a box.
+void tellNoName(const OdString& path);
+void tellSemicolon(const OdString& path);

@@ -12,6 +12,7 @@
 #include "xref/prompt_insertion.h"
 #include "xref/prompt_rotation.h"
 #include "xref/prompt_scale.h"
+#include "xref/reference_row.h"
 #include "xref/ucs_rotation.h"
 #include "xref/xref_paths.h"
 
@@ -27,6 +28,7 @@ struct Wishes {
     int pathType;
     bool autoZoom;
     double rotation;
+    ReferenceRow* row;
 };
 
 enum class Placing { Enter, KeepOut, Erase };
@@ -38,12 +40,6 @@ OdDbObjectId targetSpace(const OdDbDatabasePtr& database) {
         return current;
     const auto viewport = odrxCast<OdDbViewport>(database->activeViewportId().safeOpenObject());
     return viewport->number() > 1 ? database->getModelSpaceId() : current;
-}
-
-// By base name alone and with case, on purpose: two drawings of one base name can't be attached to each
-// other.
-bool isCircular(const QString& path) {
-    return QFileInfo(attach::documentFile()).baseName() == QFileInfo(path).baseName();
 }
 
 OdDb::UnitsValue prepareRecord(const OdDbBlockTableRecordPtr& record, const OdString& path,
@@ -116,8 +112,10 @@ bool attachTo(HostCommandIO* io, const OdString& path, Wishes& wishes) {
     OdDbBlockReferencePtr reference;
     bool hadDefinition = false;
     OdDbObjectId blockId;
-    if (!createXRefReference(file, blockName, wishes.overlay, reference, hadDefinition, blockId))
+    if (!createXRefReference(file, blockName, wishes.overlay, reference, hadDefinition, blockId)) {
+        tellNoName(path);
         return false;
+    }
     const auto record = odrxCast<OdDbBlockTableRecord>(blockId.safeOpenObject(OdDb::kForWrite));
     const OdDb::UnitsValue blockUnits = prepareRecord(record, path, hadDefinition, wishes);
     const double factor = GetUnitFactor(database->getINSUNITS(), blockUnits);
@@ -127,6 +125,8 @@ bool attachTo(HostCommandIO* io, const OdString& path, Wishes& wishes) {
         eraseNewXRef(reference);
         return false;
     }
+    if (placing == Placing::Enter && wishes.row)
+        wishes.row->add(reference);
     if (placing == Placing::Enter)
         enterSpace(database, space, reference, wishes.autoZoom);
     return true;
@@ -134,11 +134,26 @@ bool attachTo(HostCommandIO* io, const OdString& path, Wishes& wishes) {
 
 } // namespace
 
+// By base name alone and with case, on purpose: two drawings of one base name can't be attached to each
+// other.
+bool isCircular(const QString& path) {
+    return QFileInfo(attach::documentFile()).baseName() == QFileInfo(path).baseName();
+}
+
 bool attachReference(const OdString& path, const OdGePoint3d& insertionPoint, const OdGeScale3d& scale,
                      bool overlay, bool scaleOnScreen, bool insertionOnScreen, bool rotationOnScreen,
-                     bool uniform, int pathType, bool autoZoom, double rotation) {
-    Wishes wishes{insertionPoint,   scale,   overlay,  scaleOnScreen, insertionOnScreen,
-                  rotationOnScreen, uniform, pathType, autoZoom,      rotation};
+                     bool uniform, int pathType, bool autoZoom, double rotation, ReferenceRow* row) {
+    Wishes wishes{insertionPoint,
+                  scale,
+                  overlay,
+                  scaleOnScreen,
+                  insertionOnScreen,
+                  rotationOnScreen,
+                  uniform,
+                  pathType,
+                  autoZoom,
+                  rotation,
+                  row};
     HostCommandIO* const io = attach::io();
     try {
         return attachTo(io, path, wishes);

@@ -176,9 +176,12 @@ OdDbObjectIdArray OdDbBlockTableRecord::entityIds() const {
 
 OdDbObjectIterator OdDbBlockTableRecord::newIterator() const { return OdDbObjectIterator(entityIds()); }
 
+// A loaded reference shows the model space of its own drawing.
 OdGeExtents3d OdDbBlockTableRecord::extents() const {
     if (!database())
         return {};
+    if (const OdDbDatabasePtr loaded = xrefDatabase(); !loaded.isNull())
+        return odrxCast<OdDbBlockTableRecord>(loaded->getModelSpaceId().safeOpenObject())->extents();
     OdDbDatabaseImpl& impl = database()->impl();
     OdDbBlockContent& block = impl.blocks[objectId().getStub()];
     if (block.extentsChange == impl.changeCount || block.measuring)

@@ -87,7 +87,7 @@ TEST_F(AttachTest, MenuAttachesAndUndoTakesItBackInOneStep) {
 
 TEST_F(AttachTest, FileDialogOfTheShippedCatalogueListsDrawings) {
     play({typing("XATTACH"), typing("~"), choosing(write("part.dxf")), clicking("cancelButton")});
-    EXPECT_EQ(filters, QStringList("Drawings (*.dxf *.dwg)"));
+    EXPECT_EQ(filters, QStringList({"Drawings (*.dxf)", "All files (*)"}));
 }
 
 TEST_F(AttachTest, ToolBarAttaches) {
@@ -110,7 +110,8 @@ TEST_F(AttachTest, FilesArePromptedForWhenFilediaIsOff) {
     EXPECT_FALSE(block(L"part")->xrefDatabase().isNull());
     enter({"UNDO"});
     EXPECT_TRUE(block(L"part").isNull());
-    enter({"XATTACH", qPrintable(inFolder("part.dxf") + ";\"" + inFolder("other.dxf") + '"')});
+    enter({"XATTACH", qPrintable(inFolder("part.dxf") + ";\"" + inFolder("other.dxf") + '"'), "3,4", "20,4"});
+    EXPECT_TRUE(printed("Placing other.dxf (2 of 2)."));
     EXPECT_FALSE(block(L"part").isNull());
     EXPECT_FALSE(block(L"other").isNull());
 }
@@ -158,22 +159,39 @@ TEST_F(AttachTest, SettingsAreThereAgainInTheNextRun) {
     EXPECT_FALSE(uniform);
 }
 
-TEST_F(AttachTest, BadFileIsToldInABoxAndOnTheConsoleWithItsPath) {
+TEST_F(AttachTest, BadFileIsRefusedBeforeTheDialogInABoxAndOnTheConsoleWithItsPath) {
     QFile file(inFolder("bad.dxf"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("no drawing");
     file.close();
     QString shown;
-    play({typing("XATTACH"), typing("~"), choosing(inFolder("bad.dxf")), clicking("okButton"), [&] {
+    play({typing("XATTACH"), typing("~"), choosing(inFolder("bad.dxf")), [&] {
               auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
               ASSERT_NE(box, nullptr);
               shown = box->text();
               box->accept();
           }});
-    EXPECT_EQ(shown, "Drawing file is not valid.");
-    EXPECT_TRUE(printed(inFolder("bad.dxf") + ": Drawing file is not valid."));
+    EXPECT_EQ(shown, inFolder("bad.dxf") + ": Drawing file is not valid.");
+    EXPECT_TRUE(printed(shown));
     EXPECT_FALSE(drawing()->isModified());
     EXPECT_EQ(drawing()->numActiveTransactions(), 0);
+}
+
+TEST_F(AttachTest, FileDialogStartsBesideTheDrawingAndThenWhereItWasLast) {
+    openSite();
+    QTemporaryDir lib;
+    QFile::copy(write("part.dxf"), lib.filePath("lib.dxf"));
+    QStringList folders;
+    const auto noting = [&] {
+        folders << dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget()).directory().path();
+    };
+    const auto choosingInLib = [&] {
+        noting();
+        choosing(lib.filePath("lib.dxf"))();
+    };
+    play({typing("XATTACH"), typing("~"), choosingInLib, clicking("cancelButton"), typing("XATTACH"),
+          typing("~"), noting});
+    EXPECT_EQ(folders, QStringList({drawings.path(), lib.path()}));
 }
 
 TEST_F(AttachTest, RefusedAnswersAreToldOnTheConsole) {

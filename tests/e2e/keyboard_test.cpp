@@ -1,7 +1,10 @@
 // The jobs done from start to end in the real workbench without a mouse: every key goes to whatever has the
 // focus.
+#include "sdk/db/block_reference.h"
+#include "sdk/db/block_table.h"
 #include "tests/e2e/workbench_fixture.h"
 
+#include <QLineEdit>
 #include <QSpinBox>
 #include <QTreeWidget>
 
@@ -25,6 +28,10 @@ struct KeyboardTest : WorkbenchFixture {
         QTest::keyClick(focused(), Qt::Key(key), modifiers);
         QCoreApplication::processEvents();
     }
+    // Later, so that what the key starts may wait for the next step.
+    void pressLater(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTimer::singleShot(0, bench.get(), [key, modifiers] { press(key, modifiers); });
+    }
     // In place of what the field holds.
     static void typeAnew(const QString& text) {
         press(Qt::Key_A, Qt::ControlModifier);
@@ -36,6 +43,35 @@ struct KeyboardTest : WorkbenchFixture {
         ASSERT_EQ(focusName(), name) << "Tab does not get there";
     }
 };
+
+TEST_F(KeyboardTest, AReferenceIsChosenTurnedAndPlaced) {
+    QTemporaryDir drawings;
+    const QString part = drawings.filePath("part.dxf");
+    QFile::copy(SHIPPED_DATA_DIR "/samples/part.dxf", part);
+    QString unit;
+    play({[this] { submit("XATTACH"); },
+          [&part] {
+              tabTo("fileNameEdit");
+              QTest::keyClicks(focused(), part);
+              press(Qt::Key_Return);
+          },
+          [this, &unit] {
+              tabTo("angleEdit");
+              typeAnew("90");
+              unit = window()->findChild<QLineEdit*>("unitEdit")->text();
+              tabTo("okButton");
+              pressLater(Qt::Key_Space);
+          },
+          [this] { submit("3,4"); }});
+    EXPECT_NE(unit, "");
+    const auto space = odrxCast<OdDbBlockTableRecord>(
+        HostDocManager()->currentDocument()->database()->getModelSpaceId().safeOpenObject());
+    const OdDbObjectIdArray ids = space->entityIds();
+    ASSERT_EQ(ids.size(), 1u);
+    const auto reference = odrxCast<OdDbBlockReference>(ids[0].safeOpenObject());
+    EXPECT_NEAR(reference->rotation(), 1.5707963267948966, 1e-12);
+    EXPECT_EQ(reference->position(), OdGePoint3d(3, 4, 0));
+}
 
 TEST_F(KeyboardTest, AnOptionIsSoughtChangedAndKept) {
     play({[this] { submit("QPREF"); },

@@ -6,11 +6,11 @@
     <name>OdQCmd_hostAttachExternalReferenceCommand</name>
     <message>
         <source>Drawing (*.dwg;)</source>
-        <translation>Drawings (*.dxf *.dwg)</translation>
+        <translation>Drawings (*.dxf);;All files (*)</translation>
     </message>
     <message>
         <source>Drawing (*.dwg;);;Standards (*.dws;);;Drawing Template (*.dwt)</source>
-        <translation>Drawings (*.dxf *.dwg);;Standards (*.dws);;Drawing templates (*.dwt)</translation>
+        <translation>Drawings (*.dxf);;Standards (*.dws);;Drawing templates (*.dwt)</translation>
     </message>
 </context>
 </TS>
