@@ -191,6 +191,66 @@ TEST_F(ConsoleInputTest, DistanceIsMeasuredInSpace) {
     EXPECT_NEAR(distance, 13, 1e-12);
 }
 
+TEST_F(ConsoleInputTest, DistanceIsMeasuredFromTheBaseAlsoToATypedPoint) {
+    double distance = 0;
+    console.pickPoint({4, 6, 15});
+    EXPECT_EQ(console.getDistance({1, 2, 3}, &distance, L"Distance", nullptr, 14, &text, nullptr),
+              kInputPicked);
+    EXPECT_NEAR(distance, 13, 1e-12);
+    type({"@3,4"});
+    EXPECT_EQ(console.getDistance({1, 2, 3}, &distance, L"Distance", nullptr, 14, &text, nullptr),
+              kInputPicked);
+    EXPECT_NEAR(distance, 5, 1e-12);
+    EXPECT_EQ(console.inputPoint(), OdGePoint3d(4, 6, 3));
+}
+
+TEST_F(ConsoleInputTest, WhatIsNoValueIsRefusedWithWhatIsNeeded) {
+    double value = 7;
+    type({"x", "1"});
+    EXPECT_EQ(console.getDistance({}, &value, L"D", nullptr, 0, &text, nullptr), kInputPicked);
+    type({"x", "1"});
+    EXPECT_EQ(console.getAngle({}, &value, L"A", nullptr, 0, &text, nullptr), kInputPicked);
+    console.pickPoint({1, 2, 0});
+    type({"1"});
+    EXPECT_EQ(console.getReal(&value, L"R", nullptr, 4, 0, 0), kInputPicked);
+    EXPECT_EQ(value, 1);
+    EXPECT_EQ(console.transcript(), QStringList({"D: x", "A distance or a point is needed.", "D: 1", "A: x",
+                                                 "An angle or a point is needed.", "A: 1", "R: 1,2",
+                                                 "A number is needed.", "R: 1"}));
+}
+
+TEST_F(ConsoleInputTest, PromptsEndInAMarkAndABlank) {
+    for (const auto& [prompt, shown] :
+         {std::pair(L"Name", "Name: x"), {L"Name:", "Name: x"}, {L"Sure? \n ", "Sure? x"}, {L"", "x"}}) {
+        type({"x"});
+        console.getInput(prompt, nullptr, 6, nullptr, 0);
+        EXPECT_EQ(lastLine(), shown);
+    }
+}
+
+TEST_F(ConsoleInputTest, CoordinatesOfTheWrongNumberAreNoPoint) {
+    for (const char* wrong : {"1", "1,2,3,4", "1,x", "1<2<3", "x<1", "1<x"}) {
+        type({wrong, "5,6"});
+        EXPECT_EQ(getPoint(0), kInputPicked) << wrong;
+        EXPECT_EQ(point, OdGePoint3d(5, 6, 0)) << wrong;
+        EXPECT_TRUE(console.transcript().at(console.transcript().size() - 2).startsWith("A point is needed"))
+            << wrong;
+    }
+    type({"@"});
+    point = {};
+    EXPECT_EQ(getPoint(0), kInputPicked);
+    EXPECT_EQ(point, OdGePoint3d(5, 6, 0)) << "the last one again";
+}
+
+TEST_F(ConsoleInputTest, PickedPointsAreWrittenWithTheirHeightIfTheyHaveOne) {
+    console.pickPoint({3.5, -4, 0});
+    getPoint();
+    EXPECT_EQ(lastLine(), "Point: 3.5,-4");
+    console.pickPoint({3, 4, 5});
+    getPoint();
+    EXPECT_EQ(lastLine(), "Point: 3,4,5");
+}
+
 TEST_F(ConsoleInputTest, TypedDistanceIsTextOrAValueAsTheCallerTakesIt) {
     double distance = 1;
     type({"0"});

@@ -125,6 +125,33 @@ TEST_F(ConsoleLoopTest, CommandsAreCompletedFromTheirBeginning) {
     EXPECT_EQ(loop.completions("co"), QStringList({"COPY", "COUNTUP"}));
     EXPECT_EQ(loop.completions("cou"), QStringList({"COUNTUP"}));
     EXPECT_TRUE(loop.completions("").isEmpty());
+    EXPECT_EQ(loop.descriptionOf("_copy"), "Copies.");
+    EXPECT_EQ(loop.descriptionOf("COUNTUP"), "");
+}
+
+TEST_F(ConsoleLoopTest, NamesAreSortedEachOnce) {
+    loop.add({"DRAW", "Draws.", [] {}});
+    loop.add({"COUNTUP", "In the place of the module's.", [] {}});
+    loop.add({"ASK", "Asks.", [] {}});
+    EXPECT_EQ(loop.names(), QStringList({"ASK", "COUNTUP", "DRAW"}));
+}
+
+TEST_F(ConsoleLoopTest, BeginAndEndOfACommandAreTold) {
+    QStringList told;
+    QObject::connect(&loop, &CommandLoop::commandStarted, &loop, [&](const QString& name) {
+        EXPECT_TRUE(loop.isRunning());
+        told << "start " + name;
+    });
+    QObject::connect(&loop, &CommandLoop::commandEnded, &loop, [&](const QString& name) {
+        EXPECT_FALSE(loop.isRunning());
+        told << "end " + name;
+    });
+    run({"countup", ""});
+    EXPECT_EQ(told, QStringList({"start COUNTUP", "end COUNTUP", "start COUNTUP", "end COUNTUP"}));
+    EXPECT_EQ(loop.lastCommand(), "COUNTUP");
+    counting.fails = true;
+    run({""});
+    EXPECT_EQ(told.last(), "end COUNTUP") << "also when it has failed";
 }
 
 TEST(ConsoleHistory, ArrowsWalkThroughTheLinesAndBackToWhatWasTyped) {
@@ -133,6 +160,9 @@ TEST(ConsoleHistory, ArrowsWalkThroughTheLinesAndBackToWhatWasTyped) {
         history.add(line);
     EXPECT_EQ(history.older(""), "HELP");
     EXPECT_EQ(history.older("HELP"), "SETVAR");
+    EXPECT_EQ(history.older("SETVAR"), "QPREF");
+    EXPECT_EQ(history.older("QPREF"), "QPREF") << "the first one stays";
+    EXPECT_EQ(history.newer("QPREF"), "SETVAR");
     EXPECT_EQ(history.newer("SETVAR"), "HELP");
     EXPECT_EQ(history.newer("HELP"), "");
 }

@@ -33,7 +33,14 @@ TEST(UnitsLength, FeetAndInchesAreReadInTheStylesThatHaveThem) {
     EXPECT_EQ(lengthFromText("5'-6.5\"", kEngineering), 66.5);
     EXPECT_EQ(lengthFromText("2'", kArchitectural), 24);
     EXPECT_EQ(lengthFromText("7", kArchitectural), 7);
+    EXPECT_EQ(lengthFromText("5'2", kArchitectural), 62);
+    EXPECT_EQ(lengthFromText("5'-2", kArchitectural), 62);
+    EXPECT_EQ(lengthFromText("-5'2", kEngineering), -62);
+    EXPECT_EQ(lengthFromText("+1/2\"", kEngineering), 0.5);
+    for (const char* text : {"'2", "x'2", "5'x", "5'--2", "5'2'", "1e308'"})
+        EXPECT_FALSE(lengthFromText(text, kArchitectural)) << text;
     EXPECT_FALSE(lengthFromText("5'2\"", kDecimal));
+    EXPECT_FALSE(lengthFromText("5'2\"", kFractional));
 }
 
 TEST(UnitsLength, TextsFollowStyleAndPrecision) {
@@ -43,6 +50,13 @@ TEST(UnitsLength, TextsFollowStyleAndPrecision) {
     EXPECT_EQ(lengthText(62.5, {kArchitectural, 4}), "5'-2-1/2\"");
     EXPECT_EQ(lengthText(66.25, {kEngineering, 2}), "5'-6.25\"");
     EXPECT_EQ(lengthText(-1.75, {kFractional, 3}), "-1-3/4");
+    EXPECT_EQ(lengthText(0.75, {kFractional, 3}), "3/4");
+    EXPECT_EQ(lengthText(2.03, {kFractional, 3}), "2");
+    EXPECT_EQ(lengthText(0.09, {kFractional, 3}), "1/8") << "the nearest eighth";
+    EXPECT_EQ(lengthText(1.5, {kDecimal, 0}), "2");
+    EXPECT_EQ(lengthText(100, {kDecimal, 0}), "100") << "zeros of a whole number stay";
+    EXPECT_EQ(lengthText(24, {kEngineering, 2}), "2'-0\"");
+    EXPECT_EQ(lengthText(-0.4, {kFractional, 0}), "0");
 }
 
 TEST(UnitsLength, NumbersOfHundredsOfDigitsAreWrittenWithAnExponentInEveryStyle) {
@@ -66,6 +80,12 @@ TEST(UnitsAngle, MarksNameOtherStyles) {
     EXPECT_NEAR(*angleFromText("1.5r", {}), 1.5, 1e-12);
     EXPECT_NEAR(*angleFromText("N45dE", {}), M_PI / 4, 1e-12);
     EXPECT_NEAR(*angleFromText("S30dW", {}), 240 * M_PI / 180, 1e-12);
+    EXPECT_NEAR(*angleFromText("n30dw", {}), 120 * M_PI / 180, 1e-12);
+    EXPECT_NEAR(*angleFromText("S30dE", {}), 300 * M_PI / 180, 1e-12);
+    EXPECT_NEAR(*angleFromText("N90dE", {}), 0, 1e-12);
+    EXPECT_NEAR(*angleFromText("N0E", {}), M_PI / 2, 1e-12);
+    EXPECT_NEAR(*angleFromText("N45dE", {kDegrees, 1, true}), M_PI / 4, 1e-12) << "never turned";
+    EXPECT_FALSE(angleFromText("N-5E", {}));
 }
 
 TEST(UnitsAngle, PlainNumberFollowsTheStyle) {
