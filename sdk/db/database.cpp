@@ -103,6 +103,8 @@ OdDbObjectId layoutViewport(OdDbObjectId space) {
     return {};
 }
 
+constexpr const wchar_t* kGroups = L"ACAD_GROUP";
+
 OdDbObjectId tableId(const OdDbDatabaseImpl& impl, const char* name) {
     return OdDbObjectId(impl.tables.at(name).record);
 }
@@ -126,22 +128,29 @@ OdDbObjectId OdDbDatabase::getNamedObjectsDictionaryId() const {
     return OdDbObjectId(parts->rootDictionary);
 }
 
+// One that is created is no change: it enters the drawing with the first thing in it.
 OdDbObjectId OdDbDatabase::getGroupDictionaryId(bool createIfNotFound) {
-    constexpr const wchar_t* key = L"ACAD_GROUP";
     const auto root = odrxCast<OdDbDictionary>(getNamedObjectsDictionaryId().safeOpenObject());
-    const OdDbObjectId id = root->getAt(key);
+    const OdDbObjectId id = root->getAt(kGroups);
     const bool isThere = id.isValid() && id.objectClass()->isDerivedFrom(OdDbDictionary::desc());
     if (isThere || !createIfNotFound)
         return isThere ? id : OdDbObjectId();
+    if (!parts->waitingGroups) {
+        OdDbDictionaryPtr groups(new OdDbDictionary);
+        parts->waitingGroups = &parts->addUnwritten(*groups, root->objectId().getStub());
+    }
+    return OdDbObjectId(parts->waitingGroups);
+}
+
+void OdDbDatabaseImpl::enterGroups() {
+    const auto root = odrxCast<OdDbDictionary>(self.getNamedObjectsDictionaryId().safeOpenObject());
     const bool wasWritable = root->isWriteEnabled();
     root->upgradeOpen();
-    if (id.isValid())
-        root->remove(key); // a damaged file has something else under this name
-    OdDbDictionaryPtr groups(new OdDbDictionary);
-    const OdDbObjectId created = root->setAt(key, groups.get());
+    root->remove(kGroups); // a damaged file has something else under this name
+    setWritten(*waitingGroups);
+    root->setAt(kGroups, load(*waitingGroups).get());
     if (!wasWritable)
         root->downgradeOpen();
-    return created;
 }
 
 OdDbObjectId OdDbDatabase::currentSpaceId() const {

@@ -68,6 +68,15 @@ private:
     OdDbStub& stub;
 };
 
+class WrittenChange : public OdDbChange {
+public:
+    explicit WrittenChange(OdDbStub& changed) : stub(changed) {}
+    void swap() override { stub.set(OdDbStub::kUnwritten, !stub.has(OdDbStub::kUnwritten)); }
+
+private:
+    OdDbStub& stub;
+};
+
 // An entity at the end of its block's list: taken off and put back there.
 class AppendChange : public OdDbChange {
 public:
@@ -208,6 +217,11 @@ OdDbStub& OdDbDatabaseImpl::addUnwritten(OdDbObject& object, OdDbStub* owner) {
     attach(object, stub);
     stub.set(OdDbStub::kUnwritten, true);
     return stub;
+}
+
+void OdDbDatabaseImpl::setWritten(OdDbStub& stub) {
+    log.record(std::make_unique<WrittenChange>(stub));
+    stub.set(OdDbStub::kUnwritten, false);
 }
 
 OdDbStub& OdDbDatabaseImpl::addMissing(OdDbObject& object, std::string_view dxfName, std::string_view name,

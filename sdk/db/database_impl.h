@@ -99,6 +99,7 @@ public:
     std::map<std::string, OdDbTableContent> tables;
     std::unordered_map<const OdDbStub*, OdDbBlockContent> blocks;
     OdDbStub* rootDictionary = nullptr;
+    OdDbStub* waitingGroups = nullptr; // a group dictionary that was asked for; unwritten while it is empty
     OdDbStub* modelSpace = nullptr;
     OdDbStub* paperSpace = nullptr;
     std::vector<OdDbStub*> blocksOfLayouts; // that the file lacks although its layouts refer to them
@@ -118,6 +119,8 @@ public:
     OdDbStub& add(OdDbObject& object, OdDbStub* owner);
     // The same for one that stands for something the file's version doesn't write; never undone.
     OdDbStub& addUnwritten(OdDbObject& object, OdDbStub* owner);
+    void setWritten(OdDbStub& stub); // one that was added as unwritten; recorded
+    void enterGroups();              // before something is put into the dictionary that waits
     // A table that the file lacks.
     OdDbStub& addMissing(OdDbObject& object, std::string_view dxfName, std::string_view name,
                          std::string_view typeTitle);

@@ -167,6 +167,9 @@ OdDbObjectId OdDbDictionary::setAt(const OdString& name, OdDbObject* object) {
         throw OdError(eDuplicateKey, name);
     if (!isWriteEnabled())
         throw OdError(eNotOpenForWrite);
+    const OdDbStub* const stub = objectId().getStub();
+    if (stub && stub == database()->impl().waitingGroups && stub->has(OdDbStub::kUnwritten))
+        database()->impl().enterGroups();
     OdDbObjectId id = object->objectId();
     if (id.isNull())
         id = database()->addOdDbObject(object, objectId());

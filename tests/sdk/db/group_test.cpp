@@ -233,3 +233,37 @@ TEST_F(Groups, RemoveTakesAMemberThatAFileNamesTwice) {
     EXPECT_EQ(codeOf([&] { group->remove(twice); }), eKeyNotFound);
     EXPECT_EQ(read->writeBytes().find(second), std::string::npos);
 }
+
+// The bytes of a drawing that has no place for groups.
+std::string withoutGroups() {
+    return "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1015\n  0\nENDSEC\n  0\nSECTION\n  2\nENTITIES\n"
+           "  0\nLINE\n  5\n20\n100\nAcDbEntity\n  8\n0\n100\nAcDbLine\n 10\n0.0\n 20\n0.0\n 11\n9.0\n "
+           "21\n9.0\n"
+           "  0\nENDSEC\n  0\nEOF\n";
+}
+
+TEST(GroupDictionary, IsNoChangeOfADrawingWhileNothingIsInIt) {
+    const OdDbDatabasePtr drawing = OdDbDatabase::readBytes(withoutGroups());
+    const OdDbObjectId asked = drawing->getGroupDictionaryId(true);
+    ASSERT_TRUE(asked.isValid());
+    EXPECT_EQ(drawing->getGroupDictionaryId(true), asked) << "each question makes another dictionary";
+    EXPECT_TRUE(drawing->getGroupDictionaryId().isNull());
+    EXPECT_FALSE(drawing->isModified());
+    EXPECT_FALSE(drawing->hasUndo());
+    EXPECT_EQ(drawing->writeBytes(), withoutGroups());
+}
+
+TEST(GroupDictionary, ComesAndGoesWithTheFirstGroup) {
+    const OdDbDatabasePtr drawing = OdDbDatabase::readBytes(withoutGroups());
+    const OdDbObjectId asked = drawing->getGroupDictionaryId(true);
+    drawing->startUndoRecord();
+    addGroup(*drawing, L"FIRST", {drawing->getOdDbObjectId(OdDbHandle(0x20))});
+    const std::string grouped = drawing->writeBytes();
+    EXPECT_EQ(drawing->getGroupDictionaryId(), asked);
+    EXPECT_TRUE(groupsOf(*OdDbDatabase::readBytes(grouped))->has(L"FIRST"));
+    drawing->undo();
+    EXPECT_EQ(drawing->writeBytes(), withoutGroups());
+    EXPECT_EQ(drawing->getGroupDictionaryId(true), asked);
+    ASSERT_TRUE(drawing->redo()) << "asking for the dictionary takes the way forward away";
+    EXPECT_EQ(drawing->writeBytes(), grouped);
+}
