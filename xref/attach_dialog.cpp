@@ -107,12 +107,9 @@ bool hostInsertExternalReferenceDialog::takeName(IParam* params) {
         attach::notice(kFileNotice, attach::word(kNotOnOneDisk));
         return true;
     }
-    savedPathEdit->setText(found);
     path = found;
     if (!makeReference(found))
         return false;
-    savedPathEdit->setText(path);
-    foundInEdit->setText(path);
     pathTypeCombo->setCurrentIndex(0);
     return true;
 }
@@ -134,8 +131,6 @@ bool hostInsertExternalReferenceDialog::takeSingleFile() {
     const QFileInfo file(path);
     fileName = file.fileName();
     name = file.baseName().trimmed();
-    foundInEdit->setText(path);
-    savedPathEdit->setText(path);
     // Without a name there is nothing to call the block, and nothing that may throw for the file here.
     return !name.isEmpty() && makeReference(path);
 }

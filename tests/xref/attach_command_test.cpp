@@ -93,8 +93,10 @@ TEST_F(AttachCommand, DialogHasItsTitleAndCentresTheWindowBehindIt) {
     Qt::WindowFlags flags;
     bool modal = false;
     QPoint place;
+    bool focused = false;
     QWidget* parent = nullptr;
     OnAttachDialog onDialog([&](Dialog& dialog) {
+        focused = dialog.focusWidget() == &dialog;
         title = dialog.windowTitle();
         flags = dialog.windowFlags();
         modal = dialog.isModal();
@@ -110,6 +112,7 @@ TEST_F(AttachCommand, DialogHasItsTitleAndCentresTheWindowBehindIt) {
     EXPECT_TRUE(flags & Qt::MSWindowsFixedSizeDialogHint);
     EXPECT_TRUE(flags & Qt::WindowCloseButtonHint);
     EXPECT_TRUE(modal);
+    EXPECT_TRUE(focused) << "none of its controls";
     EXPECT_EQ(parent, &window);
     EXPECT_EQ(place, QPoint((screen.width() - 200) / 2, (screen.height() - 100) / 2));
 }
