@@ -49,6 +49,8 @@ bool passesIn(const char* locale, const char* test, QByteArray& output) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("LC_ALL", locale);
     environment.insert("LANGUAGE", locale);
+    for (const char* part : {"GTEST_TOTAL_SHARDS", "GTEST_SHARD_INDEX"})
+        environment.remove(part); // of the tests of this process, not of the one test
     child.setProcessEnvironment(environment);
     child.setProcessChannelMode(QProcess::MergedChannels);
     child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--gtest_filter=") + test});
