@@ -11,6 +11,6 @@ void ElidedLabel::resizeEvent(QResizeEvent* event) {
     elide();
 }
 
-void ElidedLabel::elide() { setText(QFontMetrics(font()).elidedText(fullText, Qt::ElideRight, width(), 0)); }
+void ElidedLabel::elide() { setText(QFontMetrics(font()).elidedText(fullText, Qt::ElideRight, width())); }
 
 #include "moc_elided_label.cpp"

@@ -52,7 +52,7 @@ OdString odString(const CXStringW& text) { return OdString(text.c_str()); }
 OdString odString(const QString& text) { return OdString(text.toStdWString()); }
 std::wstring stdWString(const QString& text) { return text.toStdWString(); }
 OdString odStringFromWidget(const QString& text) {
-    return OdString(text.toLocal8Bit().constData(), OdCodePageId(46));
+    return OdString(text.toLocal8Bit().constData(), CP_LOCAL_8BIT);
 }
 
 } // namespace hostqt

@@ -12,6 +12,10 @@ protected:
     void add(const QString& name, const QString& value) {
         onNextDialog<AddDlg>([=](AddDlg& add) {
             waitUntil([&add] { return add.isActiveWindow(); });
+            EXPECT_EQ(add.findChild<QLineEdit*>("nameEdit"), add.nameEdit);
+            EXPECT_EQ(add.findChild<QLineEdit*>("valueEdit"), add.valueEdit);
+            EXPECT_EQ(add.findChild<QPushButton*>("okButton"), add.okButton);
+            EXPECT_EQ(add.findChild<QPushButton*>("cancelButton"), add.cancelButton);
             add.nameEdit->setText(name);
             add.valueEdit->setText(value);
             add.valueEdit->setFocus();

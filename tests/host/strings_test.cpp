@@ -98,6 +98,8 @@ TEST(CXStringTest, FindAndDeleteStayWithinTheText) {
     EXPECT_STREQ(text, L"a");
     text.Delete(5, 1);
     EXPECT_STREQ(text, L"a");
+    text.Delete(0, 1);
+    EXPECT_STREQ(text, L"");
 }
 
 TEST(CXStringTest, AddDirDelimAppendsTheDelimiter) {

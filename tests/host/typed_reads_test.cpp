@@ -15,7 +15,11 @@ protected:
         const CKWVariant variant(7, code);
         node->setValue("V", &variant);
     }
-    template <class T> bool reads(T* target) { return readValue(node.get(), "V", target) != 0; }
+    template <class T> bool reads(T* target) {
+        const int read = readValue(node.get(), "V", target);
+        EXPECT_TRUE(read == 0 || read == 1) << read;
+        return read != 0;
+    }
 };
 
 TEST_F(TypedReadsTest, IntegersOfEveryWidthAreReadAsIntAndUnsigned) {

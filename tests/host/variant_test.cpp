@@ -5,6 +5,7 @@
 #include "sdk/rx/alloc.h"
 
 #include <cstddef>
+#include <cstring>
 #include <gtest/gtest.h>
 
 namespace {
@@ -49,7 +50,13 @@ TEST(VariantTest, AWrongReadGivesNothing) {
     EXPECT_EQ(double(value), 0.0);
     EXPECT_EQ(static_cast<wchar_t*>(value), nullptr);
     EXPECT_EQ(static_cast<IKWUnknown*>(value), nullptr);
+    EXPECT_EQ(static_cast<unsigned int>(value), 0u);
     EXPECT_EQ(tagSIZE(value).cx, 0);
+    EXPECT_EQ(tagSIZE(value).cy, 0);
+    EXPECT_EQ(tagRSIZE(value).cx, 0);
+    EXPECT_EQ(tagRSIZE(value).cy, 0);
+    EXPECT_EQ(tagRPOINT(value).x, 0);
+    EXPECT_EQ(tagRPOINT(value).y, 0);
     value = 12;
     EXPECT_EQ(static_cast<char*>(value), nullptr);
     EXPECT_EQ(double(value), 0.0);
@@ -101,6 +108,67 @@ TEST(VariantTest, ItsTextsComeFromTheDrawingAllocator) {
     }
     EXPECT_EQ(odrxAllocCount() - taken, 3u);
     EXPECT_EQ(odrxFreeCount() - given, 3u);
+}
+
+TEST(VariantTest, EachAssignmentLetsGoOfTheValueBefore) {
+    const auto assignments = std::initializer_list<void (*)(CKWVariant&)>{
+        [](CKWVariant& value) { value = 1; },
+        [](CKWVariant& value) { value = 1u; },
+        [](CKWVariant& value) { value = static_cast<unsigned short>(1); },
+        [](CKWVariant& value) { value = 1.5; },
+        [](CKWVariant& value) { value = "new"; },
+        [](CKWVariant& value) { value = L"new"; },
+        [](CKWVariant& value) { value = CXString("new"); },
+        [](CKWVariant& value) { value = CXStringW(L"new"); },
+        [](CKWVariant& value) {
+            value = tagSIZE{1, 2};
+        },
+        [](CKWVariant& value) {
+            value = tagRSIZE{1, 2};
+        },
+        [](CKWVariant& value) {
+            value = tagRPOINT{1, 2};
+        },
+        [](CKWVariant& value) { value = static_cast<IKWUnknown*>(nullptr); },
+        [](CKWVariant& value) { value = CKWVariant(); }};
+    int number = 0;
+    for (const auto assign : assignments) {
+        bool gone = false;
+        CKWVariant value;
+        {
+            const auto object = Ref<IKWUnknown>::share(new Counted(gone));
+            value = object.get();
+        }
+        ASSERT_FALSE(gone);
+        assign(value);
+        EXPECT_TRUE(gone) << number;
+        const std::uint64_t inUse = odrxAllocCount() - odrxFreeCount();
+        {
+            CKWVariant text;
+            text = "old";
+            assign(text);
+        }
+        EXPECT_EQ(odrxAllocCount() - odrxFreeCount(), inUse) << number++;
+    }
+}
+
+// As a variant on the stack begins: with what was there before.
+TEST(VariantTest, AVariantThatIsBuiltFreesNothing) {
+    bool gone = false;
+    const auto object = Ref<IKWUnknown>::share(new Counted(gone));
+    CKWVariant former;
+    former = object.get();
+    alignas(CKWVariant) unsigned char place[sizeof(CKWVariant)];
+    for (const auto build : std::initializer_list<CKWVariant* (*)(void*)>{
+             [](void* memory) { return new (memory) CKWVariant; },
+             [](void* memory) { return new (memory) CKWVariant(3, kVtInt); },
+             [](void* memory) { return new (memory) CKWVariant(CXStringW(L"a")); },
+             [](void* memory) { return new (memory) CKWVariant(tagKWVARIANT()); }}) {
+        std::memcpy(place, static_cast<const void*>(&former), sizeof place);
+        build(place)->~CKWVariant();
+        EXPECT_EQ(object->AddRef(), 3u);
+        object->Release();
+    }
 }
 
 TEST(VariantTest, ClearingTwiceIsHarmless) {
