@@ -27,6 +27,32 @@ TEST(CXStringTest, TheirBuffersComeFromTheDrawingAllocator) {
     odrxFailAllocations(false);
 }
 
+template <class String> void changeInEveryWay(String text, String other) {
+    text = other;
+    text = other.c_str();
+    text.AssignCopy(other.c_str(), 1);
+    text.ConcatCopy(other.c_str(), 1);
+    text.AddDirDelim();
+    text += other;
+    text = std::move(other);
+}
+
+TEST(CXStringTest, EveryChangeFreesTheFormerBuffer) {
+    const std::uint64_t inUse = odrxAllocCount() - odrxFreeCount();
+    changeInEveryWay(CXString("abc"), CXString("other"));
+    EXPECT_EQ(odrxAllocCount() - odrxFreeCount(), inUse);
+    changeInEveryWay(CXStringW(L"abc"), CXStringW(L"other"));
+    EXPECT_EQ(odrxAllocCount() - odrxFreeCount(), inUse);
+    {
+        CXString narrow("abc");
+        narrow.Format("%d", 5);
+        CXStringW wide(L"abc");
+        wide.Format(L"%d", 5);
+        wide.Delete(0, 1);
+    }
+    EXPECT_EQ(odrxAllocCount() - odrxFreeCount(), inUse);
+}
+
 TEST(CXStringTest, WideAndNarrowConvertInTheLocalCodePage) {
     EXPECT_STREQ(CXString(L"Zürich").c_str(), "Z\u00fcrich");
     EXPECT_STREQ(CXStringW("Z\u00fcrich").c_str(), L"Zürich");
@@ -130,6 +156,8 @@ TEST(TextConversionTest, TheWideFormsConvertWithoutLoss) {
 TEST(TextConversionTest, APointerIsReadToItsEndOrTheGivenLength) {
     EXPECT_EQ(hostqt::qString(L"abc"), QStringLiteral("abc"));
     EXPECT_EQ(hostqt::qString(L"abc", 2), QStringLiteral("ab"));
+    EXPECT_EQ(hostqt::qString(L"abc", 1), QStringLiteral("a"));
+    EXPECT_EQ(hostqt::qString(L"abc", 0), QString());
     EXPECT_EQ(hostqt::qString(static_cast<const wchar_t*>(nullptr)), QString());
 }
 

@@ -151,6 +151,16 @@ TEST_F(TypedReadsTest, RecordsAreReadFromTheirOwnCodeOnly) {
     EXPECT_EQ(size.cy, 4);
 }
 
+TEST_F(TypedReadsTest, ChildrenAreNamedEachOnceInTheirOrder) {
+    EXPECT_TRUE(childNames(node.get()).empty());
+    for (const char* name : {"Third", "First", "Second"})
+        openChild(node.get(), name, 1);
+    EXPECT_EQ(childNames(node.get()), (std::vector<std::string>{"Third", "First", "Second"}));
+    EXPECT_TRUE(openChild(node.get(), "First"));
+    EXPECT_FALSE(openChild(node.get(), "Fourth"));
+    EXPECT_EQ(childNames(node.get()).size(), 3u) << "looking for a child makes none";
+}
+
 TEST_F(TypedReadsTest, ANullNodeReadsAsNothing) {
     int number = 4;
     CXStringW text(L"before");
