@@ -182,6 +182,20 @@ TEST(MultipleLines, AreTheLinesOfTheirElementsWithCaps) {
     EXPECT_EQ(pathsOf(closed).size(), 4u); // and back
 }
 
+TEST(MultipleLines, HaveRoundCapsOutwardsAndJointsWhereTheirStyleSaysSo) {
+    std::string style = kMlineStyle;
+    style.replace(style.find("272"), 3, "1090"); // 2 + 64 + 1024
+    const std::vector<Points> paths =
+        pathsOf(Drawing(mline("1", "41\n1.0\n41\n0.0\n"), {}, {}, objects(style)));
+    ASSERT_EQ(paths.size(), 4u);
+    const auto middleOf = [](const Points& path) { return path[path.size() / 2]; };
+    EXPECT_NEAR(middleOf(paths[2]).x(), -1, 1e-9);
+    EXPECT_NEAR(middleOf(paths[3]).x(), 11, 1e-9);
+    EXPECT_NEAR(middleOf(paths[3]).y(), 0, 1e-9);
+    const Drawing closed(mline("3", "41\n1.0\n41\n0.0\n"), {}, {}, objects(style));
+    EXPECT_EQ(pathsOf(closed).size(), 6u) << "the lines, and a joint at each corner";
+}
+
 TEST(MultipleLines, HaveTheGapsThatWereCutIntoThem) {
     const Drawing drawing(mline("1", "41\n1.0\n41\n0.0\n41\n3.0\n41\n7.0\n"));
     EXPECT_EQ(pathsOf(drawing),

@@ -2,6 +2,7 @@
 #include "sdk/db/database.h"
 #include "standin/display/kinds.h"
 
+#include <cmath>
 #include <optional>
 
 namespace standin {
@@ -9,11 +10,15 @@ namespace standin {
 namespace {
 
 enum Code { kVertex = 11, kDirection = 12, kMitre = 13, kParameterCount = 74, kParameter = 41, kStyle = 340 };
-constexpr int kClosed = 2;          // in the flags of the object
-constexpr int kNoStartCap = 4;      // in them, too
-constexpr int kNoEndCap = 8;        // in them, too
-constexpr int kSquareStartCap = 16; // in the flags of the style
-constexpr int kSquareEndCap = 256;  // in them, too
+constexpr int kClosed = 2;     // in the flags of the object
+constexpr int kNoStartCap = 4; // in them, too
+constexpr int kNoEndCap = 8;   // in them, too
+constexpr int kJoints = 2;     // in the flags of the style, like those below
+constexpr int kSquareStartCap = 16;
+constexpr int kRoundStartCap = 64;
+constexpr int kSquareEndCap = 256;
+constexpr int kRoundEndCap = 1024;
+constexpr int kPiecesOfCap = 16;
 
 // What stands at a vertex for each element: how far off along the mitre, then where the line begins, stops
 // and begins again.
@@ -99,11 +104,34 @@ void drawSegment(const Vertex& from, const Vertex& to, std::size_t element, cons
     }
 }
 
-void drawCap(const Vertex& vertex, const Pencil& pencil) {
+// A line across, and half a circle that lies outwards.
+void drawCap(const Vertex& vertex, bool square, const OdGeVector3d& outwards, const Pencil& pencil) {
     const std::size_t count = vertex.elements.size();
     const auto first = vertex.start(0), last = vertex.start(count > 0 ? count - 1 : 0);
-    if (first && last && count > 1)
+    if (!first || !last || count < 2)
+        return;
+    if (square)
         pencil.path({*first, *last}, pencil.world());
+    if (outwards.length() == 0)
+        return;
+    const OdGeVector3d half = (*last - *first) * 0.5, out = outwards.normal() * half.length();
+    std::vector<OdGePoint3d> arc;
+    for (int i = 0; i <= kPiecesOfCap; ++i) {
+        const double turn = M_PI * i / kPiecesOfCap;
+        arc.push_back(*first + half * (1 - std::cos(turn)) + out * std::sin(turn));
+    }
+    pencil.path(arc, pencil.world());
+}
+
+void drawCaps(const std::vector<Vertex>& list, std::int64_t flags, const Style& style, const Pencil& pencil) {
+    const auto has = [&style](int flag) { return (style.flags & flag) != 0; };
+    const OdGeVector3d none(0, 0, 0);
+    if ((flags & kNoStartCap) == 0)
+        drawCap(list.front(), has(kSquareStartCap), has(kRoundStartCap) ? list.front().direction * -1 : none,
+                pencil);
+    const OdGeVector3d end = list[list.size() > 1 ? list.size() - 2 : 0].direction;
+    if ((flags & kNoEndCap) == 0)
+        drawCap(list.back(), has(kSquareEndCap), has(kRoundEndCap) ? end : none, pencil);
 }
 
 } // namespace
@@ -125,10 +153,10 @@ void draw::mline(const OdDbEntity& entity, const Pencil& pencil) {
         for (std::size_t i = 0; i + 1 < list.size(); ++i)
             drawSegment(list[i], list[i + 1], element, own);
     }
-    if (!isClosed && (style.flags & kSquareStartCap) != 0 && (flags & kNoStartCap) == 0)
-        drawCap(list.front(), pencil);
-    if (!isClosed && (style.flags & kSquareEndCap) != 0 && (flags & kNoEndCap) == 0)
-        drawCap(list.back(), pencil);
+    if (!isClosed)
+        drawCaps(list, flags, style, pencil);
+    for (std::size_t i = 1; i + (isClosed ? 0 : 1) < list.size() && (style.flags & kJoints) != 0; ++i)
+        drawCap(list[i], true, {0, 0, 0}, pencil);
 }
 
 } // namespace standin
