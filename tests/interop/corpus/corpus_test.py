@@ -14,45 +14,15 @@ import ezdxf
 import ezdxf.recover
 from ezdxf.entities import DXFGraphic
 
+from corpus import CORPUS, NO_PROPERTIES_BY_EZDXF, UNREAD_BY_EZDXF, name_of, read_somehow, read_strictly
+
 DXFLIB = sys.argv.pop()
 TOOL = sys.argv.pop()
-FILES = pathlib.Path(__file__).resolve().parent / "files"
-CORPUS = sorted(FILES.rglob("*.dxf"))
 # What dxflib counts as we do, with its names; attributes and polyline parts it tells otherwise.
 COUNTED = {"POINT": "POINT", "LINE": "LINE", "ARC": "ARC", "CIRCLE": "CIRCLE", "ELLIPSE": "ELLIPSE", "SPLINE": "SPLINE",
            "HATCH": "HATCH", "MTEXT": "MTEXT", "TEXT": "TEXT", "INSERT": "INSERT", "LWPOLYLINE": "POLYLINE",
            "POLYLINE": "POLYLINE"}
-# Files that a reader cannot judge, each with the reason: they are held to all the rest.
-NO_PROPERTIES_BY_EZDXF = {
-    "bent/no_header": "it fails over a table without names",
-    "bent/no_header_no_handles": "it fails over a table without names",
-    "bent/unknown_entity": "an entity of an unknown kind has no attributes there",
-    "bent/lower_case_sections": "it finds no entities in a section of that name",
-    "bent/values_with_blanks": "blanks belong to a name there, so that it finds no entities",
-}
-# It fails over these as they came, before anything is changed in them.
-UNREAD_BY_EZDXF = {
-    "bent/blanks_round_end": "it takes the blank lines behind the end for tags",
-    "bent/no_handles": "it wants handles in this version",
-    "bent/no_markers": "it wants the subclass markers",
-    "bent/no_owners": "it wants owners in this version",
-}
 NOT_FOR_DXFLIB = {"bent/cr": "it knows no carriage returns alone as line ends"}
-
-
-def name_of(path):
-    return f"{path.parent.name}/{path.stem}"
-
-
-def read_strictly(path):
-    try:
-        return ezdxf.readfile(path)
-    except (ezdxf.DXFError, UnicodeDecodeError, ValueError, IOError):
-        return None
-
-
-def read_somehow(path):
-    return read_strictly(path) or ezdxf.recover.readfile(path)[0]
 
 
 def described(entity):
