@@ -74,7 +74,7 @@ class Examples(unittest.TestCase):
 
     def test_there_are_enough_of_them(self):
         self.assertGreater(len(EXAMPLES), 30)
-        self.assertEqual([path.name for path in SAMPLES], ["house.dxf", "part.dxf", "site.dxf"])
+        self.assertEqual([path.name for path in SAMPLES], ["house.dxf", "kinds.dxf", "part.dxf", "site.dxf"])
 
     def test_they_come_back_byte_for_byte(self):
         for path in EXAMPLES + SAMPLES:

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Makes the sample drawings house.dxf and part.dxf beside this file; the same bytes every time.
+"""Makes the sample drawings house.dxf, part.dxf and kinds.dxf beside this file; the same bytes every time.
 
-With the workbench as argument it makes site.dxf, too, to which the workbench attaches the other two, and puts the
-preview pictures into all of them. The workbench plays scripts in a folder of its own, so that the relative paths hold
+With the workbench as argument it makes site.dxf, too, to which the workbench attaches the first two, and puts the
+preview pictures into the others. The workbench plays scripts in a folder of its own, so that the relative paths hold
 wherever the samples lie.
 """
 
@@ -15,6 +15,7 @@ import sys
 import tempfile
 
 import house
+import kinds
 import part
 import site_plan
 
@@ -61,7 +62,9 @@ if __name__ == "__main__":
         os.execve(sys.executable, [sys.executable, *sys.argv], {**os.environ, "PYTHONHASHSEED": "0"})
     house.make().saveas(FOLDER / "house.dxf")
     part.make().saveas(FOLDER / "part.dxf")
+    kinds.make().saveas(FOLDER / "kinds.dxf")
     if len(sys.argv) > 1:
         add_preview(sys.argv[1], FOLDER / "house.dxf")
         add_preview(sys.argv[1], FOLDER / "part.dxf")
+        add_preview(sys.argv[1], FOLDER / "kinds.dxf")
         make_site(sys.argv[1])
