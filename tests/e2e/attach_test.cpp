@@ -266,4 +266,21 @@ TEST_F(AttachTest, WithoutADrawingBothCommandsOnlySaySo) {
     EXPECT_EQ(lastLine(), "No drawing is open.");
 }
 
+// The last of too many drawings, each of which refers to the next one.
+TEST_F(AttachTest, ReferencesThatAreTooDeepAreToldWhenTheyAreAttached) {
+    const int count = 67;
+    for (int i = count; i-- > 0;) {
+        const OdDbDatabasePtr chained = OdDbDatabase::createEmpty();
+        if (i + 1 < count)
+            OdDbXRefManExt::addNewXRefDefBlock(chained.get(), std::to_wstring(i + 1) + L".dxf", L"next",
+                                               false);
+        chained->writeFile(hostqt::odString(inFolder(QString::number(i) + ".dxf")));
+    }
+    const QString notice = "references are not loaded: a drawing loads no more than";
+    enter({"NEW", "XATTACH", qPrintable(inFolder("0.dxf")), "0,0", "", "", ""});
+    EXPECT_EQ(transcript().filter(notice).size(), 1) << "nothing is said when they are attached";
+    enter({"XREFS", "*"});
+    EXPECT_EQ(transcript().filter(notice).size(), 2) << "nothing is said when they are read anew";
+}
+
 } // namespace

@@ -59,6 +59,25 @@ void print(Console& console, const OdDbBlockTableRecord& reference) {
     console.print(tr("    found at    %1").arg(found.isEmpty() ? tr("nowhere") : found));
 }
 
+// Prints at its end what reading references has left out of a drawing since its begin.
+class LeftOutNotices {
+public:
+    explicit LeftOutNotices(const CommandScope& scope)
+        : console(scope.console), drawing(scope.documents.currentOne()->database()),
+          before(drawing->readWarnings().size()) {}
+    ~LeftOutNotices() {
+        for (std::size_t i = before; i < drawing->readWarnings().size(); ++i)
+            console.print(qString(drawing->readWarnings()[i]));
+    }
+    LeftOutNotices(const LeftOutNotices&) = delete;
+    LeftOutNotices& operator=(const LeftOutNotices&) = delete;
+
+private:
+    Console& console;
+    const OdDbDatabasePtr drawing;
+    const std::size_t before;
+};
+
 // What is loaded stays as it is unless it is unloaded first.
 void reload(Console& console, const OdDbBlockTableRecordPtr& reference) {
     OdDbXRefMan::unload(reference.get());
@@ -72,6 +91,7 @@ void reload(Console& console, const OdDbBlockTableRecordPtr& reference) {
 
 void reloadNamed(const CommandScope& scope, const References& references, const QString& name) {
     bool any = false;
+    const LeftOutNotices notices(scope);
     for (const OdDbBlockTableRecordPtr& reference : references) {
         if (name != QLatin1String("*") && reference->getName().iCompare(odString(name)) != 0)
             continue;
@@ -102,6 +122,7 @@ void attach(const CommandScope& scope, const LoadedModule& module) {
         return scope.console.print(tr("No drawing is open."));
     if (!command)
         return scope.console.print(tr("The plug-in can't attach references."));
+    const LeftOutNotices notices(scope);
     command->Run(nullptr);
     scope.canvas.regenerate();
 }
