@@ -252,7 +252,7 @@ void OdDbDrawingWriter::emitFileRecord(OdDbStub& stub) {
     if (isLeftOut(stub))
         return;
     if (&stub == headerBegin && header.isChanged()) {
-        writeBytes(stub.bytes().substr(0, impl.headerStart));
+        writeBytes(withoutMark(stub, stub.bytes().substr(0, impl.headerStart)));
         return emitOwned(header.bytes());
     }
     if (&stub == previewBegin && impl.newPreview)
@@ -262,7 +262,12 @@ void OdDbDrawingWriter::emitFileRecord(OdDbStub& stub) {
         return emitObject(stub);
     if ((!before.empty() || handles.concerns(stub)) && isTableHead(impl, stub))
         return emitTableHead(stub);
-    writeBytes(stub.bytes().substr(stub.index == 0 ? markSize() : 0));
+    writeBytes(withoutMark(stub, stub.bytes()));
+}
+
+// The first record of a file begins with its mark, which is written first of all.
+std::string_view OdDbDrawingWriter::withoutMark(const OdDbStub& stub, std::string_view bytes) const {
+    return bytes.substr(stub.index == 0 ? markSize() : 0);
 }
 
 // A table says how many records it has; that is only rewritten where it has become wrong.

@@ -38,6 +38,7 @@ private:
     void emitMissingTables();
     void restoreLineEnds();
     std::size_t markSize() const;
+    std::string_view withoutMark(const OdDbStub& stub, std::string_view bytes) const;
     bool isLeftOut(const OdDbStub& stub) const;
     bool refersToErased(OdDbStub& stub) const;
     void emitAdded(const OdDbStub& stub);
