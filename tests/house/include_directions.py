@@ -16,8 +16,8 @@ ALLOWED = {
     "xref": {"xref", "host", "sdk"},
     "groups": {"groups", "host", "sdk"},
     "workbench": {"workbench", "standin", "host", "sdk"},
-    "benchmarks": {"benchmarks", "sdk", "host", "standin", "module", "module/icons", "options", "dwgprops", "xref",
-                   "groups", "tests"},
+    "benchmarks": {"benchmarks", "sdk", "host", "standin", "workbench", "module", "module/icons", "options", "dwgprops",
+                   "xref", "groups", "tests"},
     "tests": None,  # everything
 }
 # Within sdk: the object model stands below everything, the tags of a file below the database that is made of them.
