@@ -52,6 +52,7 @@ public:
     // The items that touch `box`, in no order, until the visitor says false.
     void visit(const Box& box, const std::function<bool(const Item&)>& visitor) const;
     Box extents() const;
+    std::size_t size() const { return items.size(); } // no fewer than there are items
     // What of the drawing could not be shown when all of it was shown last.
     const Unshown& unshown() const { return left; }
     const std::unordered_set<OdDbObjectId>& highlighted() const { return marked; }

@@ -9,6 +9,7 @@
 #include "standin/display/kinds.h"
 #include "standin/display/pencil.h"
 
+#include <QScopedValueRollback>
 #include <utility>
 
 namespace standin {
@@ -110,9 +111,12 @@ bool ItemBuilder::addBlock(OdDbObjectId blockId, const Holder& holder, const OdG
 
 // The shapes of a block are made once, in its own coordinates, unless heights of them would be seen.
 void ItemBuilder::addCells(Place& inner, const Repeats& repeats) {
+    const QScopedValueRollback<int> inside(blocksInside, blocksInside + 1);
     const OdGeMatrix3d first = inner.toWorld;
     const auto movement = FlatMovement::of(first);
     const auto shapes = movement ? made(inner) : nullptr;
+    if (shapes && shapes->isCut && isFull())
+        return passOn(*shapes, *movement);
     for (int row = 0; row < repeats.rows; ++row)
         for (int column = 0; column < repeats.columns && !isFull(); ++column) {
             const OdGeVector3d step = repeats.rowStep * row + repeats.columnStep * column;
@@ -129,11 +133,23 @@ void ItemBuilder::addCells(Place& inner, const Repeats& repeats) {
 void ItemBuilder::addMoved(const BlockShapes::Made& shapes, const FlatMovement& movement) {
     for (auto shape = shapes.shapes.begin(); shape != shapes.shapes.end() && !isFull(); ++shape) {
         countPart();
-        Shape moved = movedShape(*shape, movement);
-        if (isDrawable(moved))
-            put(withinLimits(std::move(moved)));
+        addMoved(*shape, movement);
     }
     item.isCut |= shapes.isCut;
+}
+
+void ItemBuilder::addMoved(const Shape& shape, const FlatMovement& movement) {
+    Shape moved = movedShape(shape, movement);
+    if (isDrawable(moved))
+        put(withinLimits(std::move(moved)));
+}
+
+// When there is no room for more, one copy of what was made of a block is shown nevertheless: half of it, so
+// that the levels of blocks within blocks add up to no more than twice as much.
+void ItemBuilder::passOn(const BlockShapes::Made& shapes, const FlatMovement& movement) {
+    const std::size_t count = (shapes.shapes.size() + 1) / 2;
+    for (std::size_t i = 0; i < count && passed < kMostShapes && points < 2 * kMostPoints; ++i, ++passed)
+        addMoved(shapes.shapes[i], movement);
 }
 
 std::shared_ptr<const BlockShapes::Made> ItemBuilder::made(const Place& inner) {
@@ -179,13 +195,17 @@ void ItemBuilder::addParts(const Place& inner) {
 
 // Asked before more is drawn.
 bool ItemBuilder::isFull() {
-    const bool full = item.shapes.size() >= kMostShapes || parts >= kMostParts;
+    const bool full = item.shapes.size() >= kMostShapes || parts >= kMostParts || points >= kMostPoints;
     item.isCut |= full;
     return full;
 }
 
 void ItemBuilder::put(Shape shape) {
-    item.box.add(boxOf(shape));
+    shape.box = boxOf(shape);
+    item.box.add(shape.box);
+    item.weight.add(weightOf(shape));
+    if (blocksInside > 0)
+        points += shape.points.size() + (shape.area ? 2 * shape.area->hatching.size() : 0);
     item.isEndless |= shape.isEndless;
     item.reach.add(reachOf(shape));
     item.shapes.push_back(std::move(shape));

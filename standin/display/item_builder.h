@@ -25,8 +25,9 @@ public:
     const Unshown& unshown() const { return left; }
     // Blocks that repeat each other grow without bounds: what would be beyond these numbers isn't shown, and
     // the item says so.
-    static constexpr std::size_t kMostShapes = 1000000; // of one object
-    static constexpr std::size_t kMostParts = 2000000;  // of blocks, in all
+    static constexpr std::size_t kMostShapes = 1000000;  // of one object
+    static constexpr std::size_t kMostParts = 2000000;   // of blocks, in all
+    static constexpr std::size_t kMostPoints = 20000000; // of the shapes in blocks, in all
     // What would take more lines of hatch patterns than these is shown as a shade.
     static constexpr std::size_t kMostLinesOfHatch = 20000;
     static constexpr std::size_t kMostHatchLines = 1000000; // in all
@@ -45,6 +46,8 @@ private:
     void addCells(Place& inner, const Repeats& repeats);
     void addParts(const Place& inner);
     void addMoved(const BlockShapes::Made& shapes, const FlatMovement& movement);
+    void addMoved(const Shape& shape, const FlatMovement& movement);
+    void passOn(const BlockShapes::Made& shapes, const FlatMovement& movement);
     std::shared_ptr<const BlockShapes::Made> made(const Place& inner);
     Shape withinLimits(Shape shape);
     void countPart();
@@ -58,6 +61,9 @@ private:
     bool isContextual = false; // what was added last would look different elsewhere
     Unshown left;
     std::size_t parts = 0;          // of blocks, so far
+    std::size_t points = 0;         // of shapes in blocks, so far
+    std::size_t passed = 0;         // shapes that were shown though there was no room, so far
+    int blocksInside = 0;           // how deep in blocks we are
     std::size_t hatchingLines = 0;  // so far
     std::optional<double> reported; // nothing while progress is not reported
     std::map<const OdDbDatabase*, LayerLooks> looks;

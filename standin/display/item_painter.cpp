@@ -36,7 +36,8 @@ double heightsOf(const QPolygonF& polygon) {
 
 ItemPainter::ItemPainter(QPainter& painter, const View& view, const QColor& foreground)
     : target(painter), shownView(view), standOut(foreground),
-      clip(-16, -16, view.size().width() + 32, view.size().height() + 32) {
+      clip(-16, -16, view.size().width() + 32, view.size().height() + 32),
+      inSight(boxOf(view.toDrawing(clip.topLeft()), view.toDrawing(clip.bottomRight()))) {
     lines.reserve(mostWaiting);
 }
 
@@ -117,17 +118,25 @@ void ItemPainter::flush() {
 void ItemPainter::draw(const Item& item) {
     const double size = std::max(item.box.width(), item.box.height()) * shownView.scale();
     const bool isPlain = item.shapes.front().kind != Shape::Missing && item.shapes.front().kind != Shape::Dot;
-    if (size < smallestItem && isPlain) {
+    if ((size < smallestItem && isPlain) || end.isBefore(item)) {
         use(item.shapes.front());
         return addDot(shownView.toPixel(item.box.center()));
     }
     if (!dots.isEmpty() && isSmooth())
         flush();
-    for (const Shape& shape : item.shapes) {
+    const std::size_t count = &item == end.item ? end.shapes : item.shapes.size();
+    for (std::size_t i = 0; i < count; ++i) {
         if (isStopped && *isStopped)
             return;
-        draw(shape);
+        if (!isOut(item.shapes[i], item))
+            draw(item.shapes[i]);
     }
+}
+
+// Marks reach out of their boxes by pixels, letters by a part of their size.
+bool ItemPainter::isOut(const Shape& shape, const Item& item) const {
+    return shape.kind != Shape::Dot && shape.kind != Shape::Missing && !shape.box.isEmpty() &&
+           !shape.box.intersects(inSight.grown(item.reach.units));
 }
 
 bool ItemPainter::isSmooth() const { return target.testRenderHint(QPainter::Antialiasing); }

@@ -1,6 +1,7 @@
 // Paints items with as little work as their size on the screen deserves.
 #pragma once
 
+#include "standin/display/picture_budget.h"
 #include "standin/display/shape.h"
 #include "standin/display/view.h"
 
@@ -21,10 +22,14 @@ public:
     // All shapes in one pen from now on, as for what is selected.
     void setPen(const QPen& pen);
     void draw(const Item& item);
+    // Leaves out what lies outside of this part of the drawing.
+    void paintOnly(const Box& part) { inSight = part; }
+    void endAt(const PictureEnd& wanted) { end = wanted; }
     // Draws no more as soon as it is true; another thread may change it.
     void stopAt(const std::atomic<bool>* wanted) { isStopped = wanted; }
 
 private:
+    bool isOut(const Shape& shape, const Item& item) const;
     void draw(const Shape& shape);
     void drawPart(const Shape& shape); // in the pen that is in use
     void drawDot(const Shape& dot);
@@ -49,6 +54,8 @@ private:
     const View& shownView;
     const QColor standOut;
     const QRectF clip;
+    Box inSight; // in the drawing
+    PictureEnd end;
     QPen ownPen;
     bool hasOwnPen = false;
     Ink current = kForeground;

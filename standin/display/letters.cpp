@@ -11,7 +11,7 @@ namespace standin {
 namespace {
 
 const int fontSize = 100; // large, so that the outlines are exact
-const int cachedTexts = 20000;
+const int cachedLetters = 300000;
 
 QFont drawingFont(bool isBold) {
     QFont font(QStringLiteral("DejaVu Sans"));
@@ -33,11 +33,13 @@ Letters* makeLetters(const QString& text, bool isBold) {
 } // namespace
 
 const Letters& lettersOf(const QString& text, bool isBold) {
-    thread_local QCache<std::pair<QString, bool>, Letters> made(cachedTexts);
+    thread_local QCache<std::pair<QString, bool>, Letters> made(cachedLetters);
+    if (text.size() > kMostLetters)
+        return lettersOf(text.left(kMostLetters), isBold);
     Letters* found = made.object({text, isBold});
     if (!found) {
         found = makeLetters(text, isBold);
-        made.insert({text, isBold}, found);
+        made.insert({text, isBold}, found, text.size() + 1);
     }
     return *found;
 }

@@ -12,6 +12,9 @@ struct Letters {
     double width = 0;
 };
 
+// Of a longer text these alone are shown: each one takes time and space.
+constexpr int kMostLetters = 5000;
+
 // Good until the next call of the same thread.
 const Letters& lettersOf(const QString& text, bool isBold = false);
 

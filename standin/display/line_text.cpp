@@ -113,7 +113,7 @@ void drawVertical(const std::vector<Part>& parts, const LinePainter& painter) {
 
 void LineText::fitBetween(const OdGePoint3d& from, const OdGePoint3d& to, bool keepsShape) {
     const OdGeVector3d way = to - from;
-    const double natural = widthOf(partsOf(content)) * widthFactor * height;
+    const double natural = widthOf(partsOf(content.substr(0, kMostLetters))) * widthFactor * height;
     place = from + way * 0.5;
     before.setX(0.5);
     rotation = std::atan2(way.y, way.x);
@@ -123,7 +123,7 @@ void LineText::fitBetween(const OdGePoint3d& from, const OdGePoint3d& to, bool k
 }
 
 void drawLineText(const LineText& text, const OdGeMatrix3d& plane, const Pencil& pencil) {
-    const std::vector<Part> parts = partsOf(text.content);
+    const std::vector<Part> parts = partsOf(pencil.shortened(text.content, kMostLetters));
     const LinePainter painter(text, plane, pencil);
     if (text.isVertical)
         drawVertical(parts, painter);

@@ -75,6 +75,7 @@ void LivePicture::help(int threads) {
 void LivePicture::take() {
     last = {job->order(), jobRevision};
     picture = job->picture();
+    isLastCut = job->isCut();
     moving.order.list = nullptr;
     job.reset();
 }

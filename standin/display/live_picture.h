@@ -20,6 +20,8 @@ public:
     // Paints what can be shown without a wait. When that is not the finished picture, `improved` follows.
     void paintAtOnce(QPainter& painter, const PictureOrder& order);
     bool isFinished(const PictureOrder& order) const { return last.isFor(order); }
+    // Whether the finished picture leaves something out that would take too long.
+    bool isCut() const { return isLastCut; }
     void forget(); // the last picture is of no use for what comes next
     // More work than this is not waited for, as a number of lines.
     static constexpr std::size_t kMostAtOnce = 2500;
@@ -50,6 +52,7 @@ private:
 
     Carried last; // that was finished
     QImage picture;
+    bool isLastCut = false;
     Carried moving; // what is shown in its place: the last picture where it belongs now, and these
     std::vector<Part> sketches;
     std::shared_ptr<PictureJob> job;                    // that goes on; null when none does

@@ -9,6 +9,7 @@ namespace standin {
 
 namespace {
 
+const int longestName = 255;       // letters, at the mark of a missing reference
 const double endlessLength = 1e10; // longer ones would not be exact where they begin
 
 bool hasLines(const Shape& shape) {
@@ -85,10 +86,18 @@ bool Pencil::block(OdDbObjectId block, const OdGeMatrix3d& toWorld, const Repeat
 }
 
 void Pencil::missing(const OdGePoint3d& at, const OdString& name) const {
-    draw({Shape::Missing, {}, {flat(at)}, QString::fromStdWString(name.c_str())});
+    draw({Shape::Missing, {}, {flat(at)}, QString::fromStdWString(name.wide()).left(longestName)});
 }
 
 void Pencil::part(const OdDbEntity& entity) const { maker.add(entity, where); }
+
+std::wstring Pencil::shortened(std::wstring text, std::size_t most) const {
+    if (text.size() > most) {
+        text.resize(most);
+        maker.item.isCut = true;
+    }
+    return text;
+}
 
 bool Pencil::isFull() const { return maker.isFull(); }
 

@@ -48,6 +48,8 @@ public:
     // An entity that belongs to the one that is drawn.
     void part(const OdDbEntity& entity) const;
     bool isLayerOff() const { return layerLook.off; }
+    // Of a text no more than this; the object is marked as one that is shown only in part then.
+    std::wstring shortened(std::wstring text, std::size_t most) const;
     bool isFull() const; // asked before more is drawn: no more will be
     // Lines of hatch patterns that may still be drawn, in all hatches together.
     std::size_t hatchLinesLeft() const;

@@ -16,60 +16,79 @@ double distanceToSegment(const QPointF& point, const QPointF& a, const QPointF& 
     return std::hypot(off.x(), off.y());
 }
 
-using Runs = std::vector<std::vector<QPointF>>;
-
-std::vector<QPointF> closed(std::vector<QPointF> corners) {
-    corners.push_back(corners.front());
-    return corners;
+// The lines of a shape, one by one, until the visitor says false.
+template <class Visitor>
+bool visitRun(const QPointF* points, std::size_t count, bool isClosed, Visitor visitor) {
+    if (count == 1)
+        return visitor(points[0], points[0]);
+    for (std::size_t i = 0; i + 1 < count; ++i)
+        if (!visitor(points[i], points[i + 1]))
+            return false;
+    return !isClosed || visitor(points[count - 1], points[0]);
 }
 
-std::vector<QPointF> frameOf(const Box& box) {
-    return closed(
-        {{box.left, box.bottom}, {box.right, box.bottom}, {box.right, box.top}, {box.left, box.top}});
+template <class Visitor> bool visitRun(const std::vector<QPointF>& points, bool isClosed, Visitor visitor) {
+    return visitRun(points.data(), points.size(), isClosed, visitor);
 }
 
-// The outlines of a shape as points joined by lines.
-Runs outlines(const Shape& shape, double scale) {
+std::vector<QPointF> cornersOf(const Box& box) {
+    return {{box.left, box.bottom}, {box.right, box.bottom}, {box.right, box.top}, {box.left, box.top}};
+}
+
+template <class Visitor> bool visitLines(const Shape& shape, double scale, Visitor visitor) {
     switch (shape.kind) {
+    case Shape::Path:
+        return visitRun(shape.points, false, visitor);
     case Shape::Arc:
-        return {arcPoints(shape, scale)};
+        return visitRun(arcPoints(shape, scale), false, visitor);
     case Shape::Text:
-        return {closed(textCorners(shape))};
-    case Shape::Fill:
-        return bordersOf(shape);
+        return visitRun(textCorners(shape), true, visitor);
     case Shape::Missing:
-        return {frameOf(boxOf(shape).grown(kMissingMark / scale))};
-    default:
-        return {shape.points};
+        return visitRun(cornersOf(boxOf(shape).grown(kMissingMark / scale)), true, visitor);
+    case Shape::Dot:
+        return visitor(shape.points[0], shape.points[0]);
+    case Shape::Fill: {
+        bool goesOn = true;
+        visitBorders(shape, [&](std::size_t from, std::size_t to) {
+            goesOn = goesOn && visitRun(&shape.points[from], to - from, true, visitor);
+        });
+        return goesOn;
     }
+    }
+    return true;
 }
 
-double distanceToLines(const Runs& runs, const QPointF& point) {
-    double nearest = HUGE_VAL;
-    for (const std::vector<QPointF>& run : runs) {
-        nearest = std::min(nearest, distanceToSegment(point, run.front(), run.front()));
-        for (std::size_t i = 0; i + 1 < run.size(); ++i)
-            nearest = std::min(nearest, distanceToSegment(point, run[i], run[i + 1]));
-    }
-    return nearest;
+// Whether the lines of the shape can't come as near as this.
+bool isFar(const Shape& shape, const Box& from, double reach, double scale) {
+    const double mark = shape.kind == Shape::Missing ? kMissingMark / scale : 0;
+    return !shape.box.intersects(from.grown(reach + mark));
+}
+
+bool isOnPlate(const Shape& shape, const QPointF& point, double scale) {
+    const std::vector<QPointF> corners =
+        shape.kind == Shape::Text ? textCorners(shape) : cornersOf(boxOf(shape).grown(kMissingMark / scale));
+    return QPolygonF(QVector<QPointF>(corners.begin(), corners.end())).containsPoint(point, Qt::OddEvenFill);
 }
 
 // Texts and marks are picked anywhere inside, other shapes on their lines. The inside of an area is just
 // within reach, so that whatever lies upon it comes first.
 double distanceTo(const Shape& shape, const QPointF& point, double reach, double scale) {
-    const Runs runs = outlines(shape, scale);
     const bool isPlate = shape.kind == Shape::Text || shape.kind == Shape::Missing;
-    if (isPlate &&
-        QPolygonF(QVector<QPointF>(runs[0].begin(), runs[0].end())).containsPoint(point, Qt::OddEvenFill))
+    if (isPlate && isOnPlate(shape, point, scale))
         return 0;
-    const double distance = distanceToLines(runs, point);
-    return shape.kind == Shape::Fill && distance > reach && isInside(shape, point) ? reach : distance;
+    double nearest = HUGE_VAL;
+    visitLines(shape, scale, [&](const QPointF& a, const QPointF& b) {
+        nearest = std::min(nearest, distanceToSegment(point, a, b));
+        return true;
+    });
+    return shape.kind == Shape::Fill && nearest > reach && isInside(shape, point) ? reach : nearest;
 }
 
 double distanceTo(const Item& item, const QPointF& point, double reach, double scale) {
     double nearest = HUGE_VAL;
     for (const Shape& shape : item.shapes)
-        nearest = std::min(nearest, distanceTo(shape, point, reach, scale));
+        if (!isFar(shape, boxOf(point, point), reach, scale))
+            nearest = std::min(nearest, distanceTo(shape, point, reach, scale));
     return nearest;
 }
 
@@ -93,14 +112,12 @@ bool crosses(const Box& box, const QPointF& a, const QPointF& b) {
 }
 
 bool touches(const Shape& shape, const Box& window, double scale) {
-    for (const std::vector<QPointF>& run : outlines(shape, scale)) {
-        if (window.contains(run.front()))
-            return true;
-        for (std::size_t i = 0; i + 1 < run.size(); ++i)
-            if (crosses(window, run[i], run[i + 1]))
-                return true;
-    }
-    return shape.kind == Shape::Fill && isInside(shape, window.center()); // the window may lie within
+    if (isFar(shape, window, 0, scale))
+        return false;
+    const bool isApart =
+        visitLines(shape, scale, [&](const QPointF& a, const QPointF& b) { return !crosses(window, a, b); });
+    // The window may lie within.
+    return !isApart || (shape.kind == Shape::Fill && isInside(shape, window.center()));
 }
 
 bool touches(const Item& item, const Box& window, double scale) {

@@ -62,12 +62,31 @@ void PictureJob::plan() {
     isSmooth = all.size() <= most;
     if (isSmooth)
         std::sort(all.begin(), all.end());
+    cutAt = findEnd();
     int top = 0;
     for (const int bottom : cuts(usefulBands())) {
         bands.push_back({top, bottom});
         top = bottom;
     }
     bandCount = bands.size();
+}
+
+// The items are looked at closely only where a quick look does not show that they are cheap enough.
+PictureEnd PictureJob::findEnd() const {
+    double most = 0;
+    const auto isCheap = [&](const Item& item) {
+        most += mostCostOf(item, wanted);
+        return most <= wanted.budget;
+    };
+    if (isSmooth && std::all_of(all.begin(), all.end(), [&](const Item* item) { return isCheap(*item); }))
+        return {};
+    if (!isSmooth)
+        visitItems(wanted, isCheap);
+    if (most <= wanted.budget)
+        return {};
+    std::vector<const Item*> items = isSmooth ? all : standin::itemsOf(wanted, wanted.list->size());
+    std::sort(items.begin(), items.end());
+    return endOf(items, wanted);
 }
 
 // So many rows make whole device pixels; 0 when no number of rows does.
@@ -157,6 +176,8 @@ void PictureJob::paint(const Band& band) {
     prepare(painter, band);
     ItemPainter itemPainter(painter, wanted.view, wanted.foreground());
     itemPainter.stopAt(&isCancelled);
+    itemPainter.paintOnly(wanted.boxOfRows(band.top, band.bottom, rowsAround));
+    itemPainter.endAt(cutAt);
     if (wanted.pen)
         itemPainter.setPen(*wanted.pen);
     for (const Item* item : itemsOf(band))

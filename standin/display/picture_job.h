@@ -2,7 +2,7 @@
 // there what a painter of the whole picture would, pixel for pixel.
 #pragma once
 
-#include "standin/display/picture_order.h"
+#include "standin/display/picture_budget.h"
 
 #include <QImage>
 #include <atomic>
@@ -22,6 +22,8 @@ public:
     void cancel() { isCancelled = true; } // what is being painted is left where it is
     void wait();                          // until nobody works any more
     bool isDone() const { return bandsDone == bandCount; }
+    // Whether the budget of the order was too small for all that there is to paint.
+    bool isCut() const { return cutAt.item; }
     // The whole picture once it is done.
     const QImage& picture() const { return image; }
     // In the thread that paints the last band.
@@ -33,6 +35,7 @@ private:
     };
     void paintBands();
     void plan();
+    PictureEnd findEnd() const;
     std::vector<int> cuts(std::size_t wantedBands) const;
     std::size_t usefulBands() const;
     int rowStep() const;
@@ -45,6 +48,7 @@ private:
     QImage image;
     std::vector<const Item*> all; // in the picture; only some when there are too many for smooth edges
     bool isSmooth = true;
+    PictureEnd cutAt;
     std::vector<Band> bands;
     std::atomic<std::size_t> nextBand{0}, bandsDone{0}, bandCount{1};
     std::atomic<bool> isCancelled{false};

@@ -4,17 +4,8 @@ namespace standin {
 
 namespace {
 
-const double lineReach = 5; // pixels: half the thickest line, and a little more
-
-// Ends with the first item that the visitor refuses.
-void visitItems(const PictureOrder& order, const std::function<bool(const Item&)>& visitor) {
-    const Box box = order.box();
-    if (!order.only)
-        return order.list->visit(box, visitor);
-    for (const Item* item : *order.only)
-        if (item->box.intersects(box) && !visitor(*item))
-            return;
-}
+const std::size_t effortOfArea = 20; // in lines
+const double lineReach = 5;          // pixels: half the thickest line, and a little more
 
 } // namespace
 
@@ -31,6 +22,15 @@ Box PictureOrder::box() const {
     return boxOfRows(0, view.size().height(), lineReach).grown(kMissingMark / view.scale());
 }
 
+void visitItems(const PictureOrder& order, const std::function<bool(const Item&)>& visitor) {
+    const Box box = order.box();
+    if (!order.only)
+        return order.list->visit(box, visitor);
+    for (const Item* item : *order.only)
+        if (item->box.intersects(box) && !visitor(*item))
+            return;
+}
+
 std::vector<const Item*> itemsOf(const PictureOrder& order, std::size_t most) {
     std::vector<const Item*> items;
     visitItems(order, [&](const Item& item) {
@@ -43,7 +43,9 @@ std::vector<const Item*> itemsOf(const PictureOrder& order, std::size_t most) {
 std::size_t effortOf(const Item& item) {
     std::size_t effort = 0;
     for (const Shape& shape : item.shapes)
-        effort += 1 + shape.points.size() + (shape.area ? shape.area->hatching.size() : 0);
+        effort += 1 + shape.points.size() + static_cast<std::size_t>(shape.text.size()) +
+                  (shape.kind == Shape::Fill ? effortOfArea : 0) +
+                  (shape.area ? shape.area->hatching.size() : 0);
     return effort;
 }
 

@@ -58,6 +58,7 @@ OdThumbnailImage previewPicture(const DisplayList& list, const QColor& backgroun
     order.view.resize(pictureSize(box));
     order.view.fit(box);
     order.background = background;
+    order.budget = PictureOrder::kSmallBudget;
     result.bmp = bitmapOf(LivePicture().finished(order));
     return result;
 }

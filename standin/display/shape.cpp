@@ -20,6 +20,8 @@ QPointF arcPoint(const Shape& arc, double angle) {
     return arc.points[0] + arc.points[1] * std::cos(angle) + arc.points[2] * std::sin(angle);
 }
 
+double lengthOf(const QPointF& vector) { return std::hypot(vector.x(), vector.y()); }
+
 // The ends, and the places in between where the arc turns back along one of the axes.
 Box boxOfArc(const Shape& arc) {
     const double start = arc.points[3].x(), sweep = arc.points[3].y();
@@ -47,9 +49,7 @@ bool isDrawable(const Shape& shape) {
 }
 
 std::vector<QPointF> arcPoints(const Shape& arc, double scale) {
-    const double radius = std::max(std::hypot(arc.points[1].x(), arc.points[1].y()),
-                                   std::hypot(arc.points[2].x(), arc.points[2].y())) *
-                          scale;
+    const double radius = std::max(lengthOf(arc.points[1]), lengthOf(arc.points[2])) * scale;
     const double start = arc.points[3].x(), sweep = arc.points[3].y();
     // A chord stays within a quarter of a pixel of its arc.
     const double step = radius > 1 ? 2 * std::acos(1 - 0.25 / radius) : M_PI / 2;
@@ -69,31 +69,32 @@ std::vector<QPointF> textCorners(const Shape& text) {
 }
 
 std::vector<std::vector<QPointF>> bordersOf(const Shape& fill) {
-    std::vector<std::size_t> starts{0};
-    if (fill.area)
-        starts.insert(starts.end(), fill.area->starts.begin(), fill.area->starts.end());
-    starts.push_back(fill.points.size());
     std::vector<std::vector<QPointF>> borders;
-    for (std::size_t i = 0; i + 1 < starts.size(); ++i) {
-        const auto from = fill.points.begin() + static_cast<std::ptrdiff_t>(starts[i]);
-        borders.emplace_back(from, fill.points.begin() + static_cast<std::ptrdiff_t>(starts[i + 1]));
-        borders.back().push_back(*from);
-    }
+    visitBorders(fill, [&](std::size_t from, std::size_t to) {
+        const auto begin = fill.points.begin();
+        borders.emplace_back(begin + static_cast<std::ptrdiff_t>(from),
+                             begin + static_cast<std::ptrdiff_t>(to));
+        borders.back().push_back(fill.points[from]);
+    });
     return borders;
 }
 
 // Counts how often the borders go round the point.
 bool isInside(const Shape& fill, const QPointF& point) {
     int turns = 0;
-    for (const std::vector<QPointF>& border : bordersOf(fill))
-        for (std::size_t i = 0; i + 1 < border.size(); ++i) {
-            const QPointF a = border[i] - point, b = border[i + 1] - point;
-            if ((a.y() > 0) == (b.y() > 0))
-                continue;
-            const double side = a.x() * b.y() - a.y() * b.x();
-            if ((b.y() > 0) == (side > 0))
-                turns += b.y() > 0 ? 1 : -1;
-        }
+    const auto pass = [&](const QPointF& from, const QPointF& to) {
+        const QPointF a = from - point, b = to - point;
+        if ((a.y() > 0) == (b.y() > 0))
+            return;
+        const double side = a.x() * b.y() - a.y() * b.x();
+        if ((b.y() > 0) == (side > 0))
+            turns += b.y() > 0 ? 1 : -1;
+    };
+    visitBorders(fill, [&](std::size_t from, std::size_t to) {
+        for (std::size_t i = from; i + 1 < to; ++i)
+            pass(fill.points[i], fill.points[i + 1]);
+        pass(fill.points[to - 1], fill.points[from]);
+    });
     return fill.area && fill.area->rule == Qt::WindingFill ? turns != 0 : turns % 2 != 0;
 }
 
@@ -104,6 +105,30 @@ Box extentsOf(const Item& item) {
     for (const Shape& shape : item.shapes)
         box.add(shape.isEndless ? boxOf(shape.points[0], shape.points[0]) : boxOf(shape));
     return box;
+}
+
+// Thick lines take longer; letters are areas with many corners.
+Weight weightOf(const Shape& shape) {
+    const double pointsOfArc = 64, pointsOfLetter = 20, thick = 4;
+    double length = 0, points = static_cast<double>(shape.points.size());
+    if (shape.kind == Shape::Path || shape.kind == Shape::Fill)
+        for (std::size_t i = 0; i + 1 < shape.points.size(); ++i)
+            length += lengthOf(shape.points[i + 1] - shape.points[i]);
+    if (shape.kind == Shape::Arc) {
+        length = shape.points[3].y() * std::max(lengthOf(shape.points[1]), lengthOf(shape.points[2]));
+        points = pointsOfArc;
+    }
+    if (shape.area)
+        for (const QLineF& line : shape.area->hatching)
+            length += line.length();
+    if (shape.area)
+        points += 2 * static_cast<double>(shape.area->hatching.size());
+    points += pointsOfLetter * shape.text.size();
+    if (weightInPixels(shape.weight) > 1)
+        length *= thick;
+    const bool isFilled = shape.kind == Shape::Fill || shape.kind == Shape::Text;
+    return {static_cast<float>(points), static_cast<float>(length),
+            isFilled ? static_cast<float>(shape.box.width() * shape.box.height()) : 0, isFilled ? 1.0f : 0};
 }
 
 // Letters may reach out of the corners of their text, as those below the base line do.

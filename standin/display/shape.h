@@ -47,6 +47,7 @@ struct Shape {
     std::uint8_t opacity = 255;         // 0 is not to be seen
     bool isBold = false;                // of a text
     bool isEndless = false;             // a path: it counts for the size of the drawing by its start alone
+    Box box{};                          // around it, once it belongs to an item
 };
 
 // Pixels across a line of this weight, on a screen of 96 dots to the inch.
@@ -65,11 +66,28 @@ struct Reach {
     }
 };
 
+// What painting takes, whatever the view: it grows with the points, and with the pixels that lines and areas
+// have there.
+struct Weight {
+    float points = 0; // of all lines
+    float length = 0; // of all lines, in units of the drawing
+    float area = 0;   // of the boxes around what is filled, in square units
+    float fills = 0;  // their number
+
+    void add(const Weight& other) {
+        points += other.points;
+        length += other.length;
+        area += other.area;
+        fills += other.fills;
+    }
+};
+
 struct Item {
     OdDbObjectId id;
     Box box;
     std::vector<Shape> shapes;
     Reach reach;
+    Weight weight;
     bool isEndless = false; // there are shapes without end
     bool isCut = false;     // there would be more shapes than can be shown
 };
@@ -81,13 +99,24 @@ Box extentsOf(const Item& item);
 std::vector<QPointF> arcPoints(const Shape& arc, double scale);
 // The corners of a text, in order around it.
 std::vector<QPointF> textCorners(const Shape& text);
-// The borders of a filled area, each back to its start.
+// The borders of a filled area, each by its first point and the one behind its last.
+template <class Visitor> void visitBorders(const Shape& fill, Visitor visitor) {
+    std::size_t from = 0;
+    if (fill.area)
+        for (const std::size_t start : fill.area->starts) {
+            visitor(from, start);
+            from = start;
+        }
+    visitor(from, fill.points.size());
+}
+// Each back to its start.
 std::vector<std::vector<QPointF>> bordersOf(const Shape& fill);
 // Whether all places are numbers, and not too far away.
 bool isDrawable(const Shape& shape);
 bool isInside(const Shape& fill, const QPointF& point);
 Box boxOf(const Shape& shape);
 Reach reachOf(const Shape& shape);
+Weight weightOf(const Shape& shape); // by its box
 
 // Half the size of the mark of a missing reference, in pixels.
 constexpr double kMissingMark = 12;

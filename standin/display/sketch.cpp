@@ -30,14 +30,14 @@ QRgb Sketch::colorOf(Ink ink) const {
 
 void Sketch::draw() {
     const QPointF end = origin + QPointF(clip.width(), clip.height()) / ratio;
-    const Box box = boxOf(view.toDrawing(origin), view.toDrawing(end));
+    seen = boxOf(view.toDrawing(origin), view.toDrawing(end));
     if (!wanted.only)
-        return wanted.list->visit(box, [this](const Item& item) {
+        return wanted.list->visit(seen, [this](const Item& item) {
             draw(item);
             return true;
         });
     for (const Item* item : *wanted.only)
-        if (item->box.intersects(box))
+        if (item->box.intersects(seen))
             draw(*item);
 }
 
@@ -58,7 +58,10 @@ void Sketch::drawShapes(const Item& item, double size) {
     const double room = std::max(item.box.width() * scale, 1.0) * std::max(item.box.height() * scale, 1.0);
     const auto most = static_cast<std::size_t>(std::clamp(room / fewestPixels, 8.0, 1e6));
     const std::size_t step = 1 + item.shapes.size() / most;
+    const bool isMarked = item.reach.pixels > 0 || item.reach.ofWindow > 0;
     for (std::size_t i = 0; i < item.shapes.size() && budget > 0; i += step) {
+        if (!isMarked && !item.shapes[i].box.intersects(seen))
+            continue;
         color = colorOf(item.shapes[i].ink);
         draw(item.shapes[i], size);
     }

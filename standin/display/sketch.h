@@ -43,6 +43,7 @@ private:
     QRgb* const pixels;
     const int stride;
     const QRect clip; // device pixels
+    Box seen;         // of the drawing
     QRgb color = 0;
     const std::size_t budgetAtFirst = kBudget;
     std::size_t budget = kBudget;

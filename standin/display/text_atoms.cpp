@@ -12,6 +12,12 @@ namespace {
 const double usualTabs = 4; // letter heights from one to the next
 const double slashWidth = 0.4;
 
+// Where an atom ends that begins at `x`.
+double endOf(const TextAtom& atom, double x, const TextLine& line) {
+    return atom.kind == TextAtom::Tab ? tabPlace(x, 0, line.format.paragraph, atom.format.height)
+                                      : x + atom.width;
+}
+
 TextAtom stackOf(const OdDbTextPiece& piece) {
     TextAtom atom{TextAtom::Stack,
                   QString::fromStdWString(piece.text).trimmed(),
@@ -49,7 +55,7 @@ private:
             return;
         case OdDbTextPiece::kTab:
             flushWord();
-            line.atoms.push_back({TextAtom::Tab, {}, {}, 0, 0, piece.format});
+            append({TextAtom::Tab, {}, {}, 0, 0, piece.format});
             return;
         case OdDbTextPiece::kParagraphEnd:
         case OdDbTextPiece::kColumnEnd:
@@ -74,7 +80,7 @@ private:
                           piece.format};
             if (isBlank) {
                 flushWord();
-                line.atoms.push_back(std::move(atom));
+                append(std::move(atom));
             } else {
                 word.push_back(std::move(atom));
             }
@@ -87,19 +93,17 @@ private:
         for (const TextAtom& atom : word)
             width += atom.width;
         const double limit = limitOf(line.format.paragraph);
-        const bool isEmpty = std::all_of(line.atoms.begin(), line.atoms.end(),
-                                         [](const TextAtom& atom) { return atom.kind == TextAtom::Blank; });
-        if (limit > 0 && !isEmpty && lengthSoFar() + width > limit)
+        if (limit > 0 && !isEmpty && length + width > limit)
             finish(false);
-        line.atoms.insert(line.atoms.end(), word.begin(), word.end());
+        for (TextAtom& atom : word)
+            append(std::move(atom));
         word.clear();
     }
 
-    // Blanks included.
-    double lengthSoFar() const {
-        TextLine filled = line;
-        filled.atoms.push_back({TextAtom::Word, {}, {}, 0, 0, line.format});
-        return naturalWidth(filled);
+    void append(TextAtom atom) {
+        length = endOf(atom, length, line);
+        isEmpty &= atom.kind == TextAtom::Blank;
+        line.atoms.push_back(std::move(atom));
     }
 
     double indentOf(const OdDbParagraphFormat& paragraph) const {
@@ -121,6 +125,8 @@ private:
         line.endsParagraph = endsParagraph;
         done.push_back(std::move(line));
         line = {};
+        length = 0;
+        isEmpty = true;
         line.format = format;
         isFirst = endsParagraph;
     }
@@ -128,6 +134,8 @@ private:
     const TextRoom& room;
     bool isFirst = true; // of its paragraph
     TextLine line;
+    double length = 0;          // of the line, blanks included
+    bool isEmpty = true;        // the line, but for blanks
     std::vector<TextAtom> word; // parts without a blank between them
     std::vector<TextLine> done;
 };
@@ -142,8 +150,7 @@ double naturalWidth(const TextLine& line) {
     double x = 0, solid = 0;
     for (std::size_t i = 0; i < line.atoms.size(); ++i) {
         const TextAtom& atom = line.atoms[i];
-        x = atom.kind == TextAtom::Tab ? tabPlace(x, 0, line.format.paragraph, atom.format.height)
-                                       : x + atom.width;
+        x = endOf(atom, x, line);
         if (atom.kind != TextAtom::Blank)
             solid = x;
     }

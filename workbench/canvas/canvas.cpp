@@ -58,7 +58,10 @@ void Canvas::connectSignals() {
     connect(&loop, &CommandLoop::commandStarted, this, [this] { windowCorner.reset(); });
     connect(&loop, &CommandLoop::commandEnded, this, &Canvas::refresh);
     for (LivePicture* picture : {&scene, static_cast<LivePicture*>(&marks)})
-        connect(picture, &LivePicture::improved, this, [this] { update(); });
+        connect(picture, &LivePicture::improved, this, [this] {
+            tellWhatIsLeftOut();
+            update();
+        });
 }
 
 void Canvas::apply(const Settings& settings) {
@@ -66,6 +69,15 @@ void Canvas::apply(const Settings& settings) {
     rubberBand = settings.rubberBand;
     cursorLook = settings.cursor;
     update();
+}
+
+// Once for each drawing.
+void Canvas::tellWhatIsLeftOut() {
+    if (!sheet || sheet->isCutTold || !scene.isCut() || !isPictureFinished())
+        return;
+    sheet->isCutTold = true;
+    io.print(tr("There is more to paint than can be shown at once: in views like this one, later objects are "
+                "dots."));
 }
 
 void Canvas::showCurrent() {

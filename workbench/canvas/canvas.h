@@ -42,7 +42,7 @@ public:
     // What of a drawing is not shown, as far as that was not said before.
     void printUnshown(const standin::Document& document);
     // Waits until the picture that is shown is finished; while the view moves it is a rough one.
-    void finishPicture();
+    Q_INVOKABLE void finishPicture();
     bool isPictureFinished() const;
     void escape(); // gives up a window that is being drawn, else the selection
     // What is shown of the drawing, up to date; null when it was never the current one.
@@ -68,6 +68,7 @@ private:
     void connectSignals();
     void bringUpToDate();
     void keepUpToDate();
+    void tellWhatIsLeftOut();
     void showCurrent();
     void forgetClosed();
     std::unique_ptr<Sheet> makeSheet(standin::Document& document);

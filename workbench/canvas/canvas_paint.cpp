@@ -65,6 +65,7 @@ void Canvas::finishPicture() {
     sheet->list.refresh();
     scene.finished(sceneOrder());
     marks.finished(marksOrder());
+    tellWhatIsLeftOut();
     update();
 }
 

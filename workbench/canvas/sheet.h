@@ -21,7 +21,8 @@ public:
 
     standin::Document& document;
     standin::DisplayList list;
-    QStringList told; // what of the drawing is not shown
+    QStringList told;       // what of the drawing is not shown
+    bool isCutTold = false; // the user knows that the picture leaves something out
 
     const standin::View& view() const { return current; }
     // Until the user has chosen a view, all of the drawing is shown, however large the window is.

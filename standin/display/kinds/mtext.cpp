@@ -11,8 +11,9 @@ namespace standin {
 namespace {
 
 constexpr std::string_view kMarker = "AcDbMText";
-constexpr int kFilled = 1;  // in the flags of the background
-constexpr int kFramed = 16; // in them, too
+constexpr std::size_t longestContents = 50000; // letters and codes
+constexpr int kFilled = 1;                     // in the flags of the background
+constexpr int kFramed = 16;                    // in them, too
 
 OdDbTextFormat usualFormat(const OdDbMText& text, const Pencil& pencil) {
     const TextStyle& style = pencil.looks().textStyles().of(text.textValue(kMarker, 7));
@@ -76,8 +77,9 @@ void draw::mtext(const OdDbEntity& entity, const Pencil& pencil) {
         return;
     const OdGeMatrix3d matrix = pencil.world() * OdGeMatrix3d::translation(text->location().asVector()) *
                                 OdGeMatrix3d::rotation(text->rotation(), OdGeVector3d::kZAxis);
-    const LaidText laid =
-        layOut(odDbTextPieces(text->contents().wide(), usualFormat(*text, pencil)), roomOf(*text));
+    const LaidText laid = layOut(odDbTextPieces(pencil.shortened(text->contents().wide(), longestContents),
+                                                usualFormat(*text, pencil)),
+                                 roomOf(*text));
     drawBackground(*text, laid.box, matrix, pencil);
     drawLaidText(laid, matrix, pencil);
 }
