@@ -105,6 +105,10 @@ Workbench::Workbench(const Launch& launchOptions)
 StoreIo Workbench::storeIo() {
     StoreIo made;
     made.reportProblem = [this](const QString& problem) { report(problem); };
+    made.isCalm = [] { return !QApplication::activeModalWidget(); };
+    made.takenIn = [this] {
+        QMetaObject::invokeMethod(this, &Workbench::applySettings, Qt::QueuedConnection);
+    };
     return made;
 }
 

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QScopedValueRollback>
 #include <QTimer>
 #include <algorithm>
 #include <cerrno>
@@ -17,6 +18,7 @@ namespace standin {
 
 namespace {
 
+const int calmCheck = 200;   // milliseconds between two looks whether a dialog is still open
 const int longestValue = 80; // characters of a value that is told
 const int mostLines = 10;    // values that are told one by one
 
@@ -156,6 +158,7 @@ bool FileStore::flush() {
     QString reason;
     dirty = !write(reason);
     busy = false;
+    takeInOthers();
     if (dirty)
         io.report(tr("%1 could not be written: %2.\nYour changes are kept until the program ends.")
                       .arg(QDir::toNativeSeparators(files.user), reason));
@@ -163,7 +166,7 @@ bool FileStore::flush() {
 }
 
 bool FileStore::write(QString& reason) {
-    QByteArray bytes = bytesOf(root);
+    const QByteArray bytes = bytesOf(root);
     if (bytes == base)
         return true; // everything was set to what it was
     if (!QDir().mkpath(QFileInfo(files.user).path())) {
@@ -176,29 +179,44 @@ bool FileStore::write(QString& reason) {
         reason = lockReason(lock);
         return false;
     }
-    bool merged = false;
-    if (!takeInOthers(merged, reason))
+    QByteArray all = bytes;
+    if (!addOthers(all, reason) || !writeWhole(io, files.user, all, reason))
         return false;
-    if (merged)
-        bytes = bytesOf(root);
-    if (!writeWhole(io, files.user, bytes, reason))
-        return false;
-    known = base = bytes;
+    known = all;
+    base = bytes;
     knownFaulty = false;
+    isBehind = all != bytes;
     return true;
 }
 
+// What others wrote comes into the tree while nobody holds values that were read before it.
+void FileStore::takeInOthers() {
+    if (!isBehind || dirty)
+        return;
+    if (io.isCalm && !io.isCalm()) {
+        QTimer::singleShot(calmCheck, this, &FileStore::takeInOthers);
+        return;
+    }
+    const QScopedValueRollback<bool> own(busy, true);
+    const YamlResult before = parsed(base, files.user), now = parsed(known, files.user);
+    mergeInto(root, before.tree->section(), now.tree->section(), files.wholeDepth);
+    base = bytesOf(root);
+    isBehind = false;
+    if (io.takenIn)
+        io.takenIn();
+}
+
 // Looks at the file as it is now: nothing in it may be overwritten unseen.
-bool FileStore::takeInOthers(bool& merged, QString& reason) {
+bool FileStore::addOthers(QByteArray& ours, QString& reason) {
     if (!QFileInfo::exists(files.user))
         return true;
     const auto bytes = readWhole(files.user, reason);
     if (!bytes)
         return false;
-    if (*bytes == known && !knownFaulty)
+    if (*bytes == known && !knownFaulty && !isBehind)
         return true;
-    merged = parsed(*bytes, files.user).clean();
-    return merged ? mergeOthers(*bytes, reason) : keepBroken(*bytes, reason);
+    const bool isClean = parsed(*bytes, files.user).clean();
+    return isClean ? mergeOthers(ours, *bytes, reason) : keepBroken(*bytes, reason);
 }
 
 bool FileStore::keepBroken(const QByteArray& bytes, QString& reason) {
@@ -209,11 +227,14 @@ bool FileStore::keepBroken(const QByteArray& bytes, QString& reason) {
     return !copy.isEmpty();
 }
 
-bool FileStore::mergeOthers(const QByteArray& bytes, QString& reason) {
+bool FileStore::mergeOthers(QByteArray& ours, const QByteArray& bytes, QString& reason) {
     const YamlResult theirs = parsed(bytes, files.user);
     const YamlResult before = parsed(base, files.user);
+    const YamlResult both = parsed(ours, files.user);
     const auto lost = missed(
-        mergeInto(root, before.tree->section(), theirs.tree->section(), files.wholeDepth), files.remembered);
+        mergeInto(both.tree->section(), before.tree->section(), theirs.tree->section(), files.wholeDepth),
+        files.remembered);
+    ours = bytesOf(both.tree->section());
     if (lost.empty())
         return true;
     const QString copy = keepBeside(files.user, QStringLiteral("other"), bytes, reason);

@@ -37,9 +37,10 @@ private:
     bool loadFile(const QString& path);
     void noteChange();
     bool write(QString& reason);
-    bool takeInOthers(bool& merged, QString& reason);
+    bool addOthers(QByteArray& ours, QString& reason);
     bool keepBroken(const QByteArray& bytes, QString& reason);
-    bool mergeOthers(const QByteArray& bytes, QString& reason);
+    bool mergeOthers(QByteArray& ours, const QByteArray& theirs, QString& reason);
+    void takeInOthers();
 
     Section& root;
     TreeRulesPtr rules;
@@ -47,7 +48,8 @@ private:
     StoreIo io;
     QByteArray known; // what the user's file held when this process last read or wrote it
     bool knownFaulty = false;
-    QByteArray base; // the tree of that moment, as text
+    QByteArray base;       // the tree of that moment, as text
+    bool isBehind = false; // the file has more of others than the tree
     bool dirty = false;
     bool scheduled = false;
     bool busy = false; // changes that come from the file itself are none

@@ -16,7 +16,11 @@ struct StoreIo {
     std::function<void(const QString& text)> reportProblem; // for the user; may be empty
     // The device that a file is written through; empty: a plain QSaveFile.
     std::function<std::unique_ptr<QSaveFile>(const QString& path)> newSaveFile;
-    int lockTimeout = 3000; // milliseconds to wait for another process that writes the same file
+    // Whether what another process wrote may come into the tree now: not while a dialog is open that writes
+    // back all that it has read. Empty: always.
+    std::function<bool()> isCalm;
+    std::function<void()> takenIn; // something of another process came into the tree; may be empty
+    int lockTimeout = 3000;        // milliseconds to wait for another process that writes the same file
 
     void report(const QString& text) const;
 };

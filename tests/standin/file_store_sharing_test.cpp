@@ -1,5 +1,6 @@
 // Stores of two processes on one file: what is kept of both, and what is told of the rest.
 #include "tests/standin/file_store_fixture.h"
+#include "tests/support/poll.h"
 
 #include <QLockFile>
 
@@ -35,6 +36,41 @@ TEST_F(FileStoreSharing, TwoProcessesOnOneRootKeepEachOthersChanges) {
     EXPECT_TRUE(openChild(third->tree.get(), "Cursor"));
     EXPECT_TRUE(openChild(third->tree.get(), "Grid"));
     EXPECT_EQ(second->value("A"), 10) << "the writer sees the other's change too";
+    EXPECT_EQ(problems, QStringList());
+}
+
+// A dialog reads all values when it opens and writes all of them when it is left.
+TEST_F(FileStoreSharing, WhatOthersWroteWaitsForTheEndOfADialogThatWritesWhatItHasRead) {
+    bool isCalm = false;
+    int taken = 0;
+    standin::StoreIo sharing = io();
+    sharing.isCalm = [&] { return isCalm; };
+    sharing.takenIn = [&] { ++taken; };
+    const auto other = start();
+    Process own(files, sharing);
+    other->set("A", 10);
+    other->setIn("Cursor", "Size", 3);
+    ASSERT_TRUE(other->store.flush());
+    own.set("B", 20); // Apply
+    ASSERT_TRUE(own.store.flush());
+    EXPECT_EQ(start()->value("A"), 10);
+    EXPECT_EQ(start()->value("B"), 20);
+    EXPECT_EQ(own.value("A"), 1) << "the open dialog has a value that it did not read";
+    own.set("A", 1); // OK, with all that was read
+    own.set("B", 30);
+    ASSERT_TRUE(own.store.flush());
+    EXPECT_EQ(start()->value("A"), 10) << "a value that was not changed here stands over the other's";
+    EXPECT_EQ(start()->value("B"), 30);
+    EXPECT_EQ(taken, 0);
+    isCalm = true;
+    EXPECT_TRUE(waitUntil([&] { return own.value("A") == 10; }));
+    EXPECT_TRUE(openChild(own.tree.get(), "Cursor"));
+    EXPECT_EQ(taken, 1) << "nobody hears of the values that came in";
+    EXPECT_EQ(problems, QStringList());
+    EXPECT_EQ(filesInRoot(), QStringList{QStringLiteral("user.yaml")});
+    own.set("A", 11);
+    ASSERT_TRUE(own.store.flush());
+    EXPECT_EQ(start()->value("A"), 11) << "and may be changed then";
     EXPECT_EQ(problems, QStringList());
 }
 
