@@ -30,6 +30,7 @@ Launch defaultLaunch() {
     launch.rootDir = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     launch.dataDir = QStringLiteral(WORKBENCH_DATA_DIR);
     launch.moduleFile = QCoreApplication::applicationDirPath() + QStringLiteral("/libhostPortedCommands.so");
+    launch.guideFile = QStringLiteral(WORKBENCH_GUIDE_FILE);
     return launch;
 }
 

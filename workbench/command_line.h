@@ -13,6 +13,7 @@ struct Launch {
     QString scriptFile; // empty: none
     QString drawing;    // empty: an empty one
     QString moduleFile; // the plug-in
+    QString guideFile;  // the user guide
     bool headless = false;
     std::optional<int> theme; // over the one that the user has set
 };

@@ -78,13 +78,13 @@ Settings readSettings(IParam* profile) {
     return result;
 }
 
-void writeTheme(IParam* profile, int theme) {
+void writeSetting(IParam* profile, const char* key, int number) {
     const Ref<IParam> section = openChild(profile, "Workbench", 1);
     if (!section)
         return;
     CKWVariant value;
-    value = theme;
-    section->setValue("Theme", &value);
+    value = number;
+    section->setValue(key, &value);
 }
 
 } // namespace workbench

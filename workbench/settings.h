@@ -33,6 +33,6 @@ struct Settings {
 
 // Sections "Workbench" and "Cursor"; what is missing or unusable has its default. A null profile is empty.
 Settings readSettings(IParam* profile);
-void writeTheme(IParam* profile, int theme);
+void writeSetting(IParam* profile, const char* key, int value); // of the section "Workbench"
 
 } // namespace workbench

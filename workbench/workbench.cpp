@@ -3,6 +3,7 @@
 #include "host/app.h"
 #include "host/options_parent.h"
 #include "host/typed_reads.h"
+#include "standin/console/aliases.h"
 #include "standin/console/error_text.h"
 #include "standin/console/shown_text.h"
 #include "standin/dialogs/dialog_habits.h"
@@ -15,12 +16,16 @@
 #include "standin/registry.h"
 #include "workbench/canvas/preview_writer.h"
 #include "workbench/commands/commands.h"
+#include "workbench/commands/drawing_commands.h"
 #include "workbench/commands/group_commands.h"
+#include "workbench/commands/help_commands.h"
 #include "workbench/commands/history_commands.h"
 #include "workbench/commands/xref_commands.h"
 #include "workbench/history/history_keeper.h"
 #include "workbench/module_loader.h"
+#include "workbench/recent_drawings.h"
 #include "workbench/script/script_player.h"
+#include "workbench/window/dialog_places.h"
 #include "workbench/window/main_window.h"
 #include "workbench/window/progress_dialog.h"
 #include "workbench/window/window_place.h"
@@ -30,6 +35,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+#include <QScreen>
 #include <cerrno>
 #include <cstdio>
 
@@ -97,7 +103,7 @@ Workbench::Workbench(const Launch& launchOptions)
     registry().mainWindow = mainWindow.get();
     previews = std::make_unique<PreviewWriter>(*documents, mainWindow->drawingArea());
     if (!launch.headless)
-        progressDialog = std::make_unique<ProgressDialog>();
+        showOnScreen();
     addCommands();
     applySettings();
 }
@@ -123,6 +129,7 @@ void Workbench::openStores() {
     setup.rootDir = launch.rootDir;
     setup.io = storeIo();
     setup.remembered = windowPlacePaths();
+    setup.remembered.push_back(recentDrawingsPath());
     setup.services = extraServices();
     application = std::make_unique<Application>(setup);
 }
@@ -130,6 +137,7 @@ void Workbench::openStores() {
 // The module goes first: it still finds the host around it.
 Workbench::~Workbench() {
     player.reset();
+    dialogPlaces.reset();
     progressDialog.reset();
     previews.reset();
     mainWindow.reset();
@@ -161,6 +169,8 @@ void Workbench::addCommands() {
     addGroupCommands(scope, *module);
     addPlugInEntries(*mainWindow);
     addProgramCommands(scope);
+    addHelpCommands(scope, *help, launch.guideFile);
+    addAliases();
     addVariableCommands(scope);
     loop.refusal = [this] { return documents->currentOne() ? QString() : tr("No drawing is open."); };
     connect(&loop, &CommandLoop::commandEnded, this, &Workbench::applySettings);
@@ -170,6 +180,39 @@ void Workbench::addCommands() {
     connect(&loop, &CommandLoop::commandEnded, &themeCheck, &QTimer::stop);
     connect(&themeCheck, &QTimer::timeout, this, &Workbench::applyTheme);
     connect(mainWindow.get(), &MainWindow::themeChosen, this, &Workbench::chooseTheme);
+    connect(mainWindow.get(), &MainWindow::drawingChosen, this, &Workbench::openChosen);
+    connect(mainWindow.get(), &MainWindow::partSwitched, this, [this](const QByteArray& option, bool shown) {
+        writeSetting(appService<IProfile>().get(), option.constData(), shown);
+        applySettings();
+    });
+}
+
+// What only a screen asks for. Without one the window has the size that pictures of it are made in.
+void Workbench::showOnScreen() {
+    const auto remember = [this] {
+        if (documents->currentOne())
+            addRecentDrawing(appService<IProfile>().get(), documents->currentOne()->path());
+    };
+    connect(documents.get(), &DocumentManager::documentOpened, this, remember);
+    connect(documents.get(), &DocumentManager::documentRenamed, this, remember);
+    progressDialog = std::make_unique<ProgressDialog>();
+    dialogPlaces = std::make_unique<DialogPlaces>(*mainWindow);
+    const QRect area = mainWindow->screen()->availableGeometry();
+    mainWindow->setGeometry(placeOver(area, mainWindow->size(), area));
+}
+
+void Workbench::addAliases() {
+    QStringList problems;
+    loop.setAliases(readAliases(launch.dataDir + QStringLiteral("/aliases.yaml"), &problems));
+    for (const QString& problem : problems)
+        report(problem);
+}
+
+// Two lines for who starts the program for the first time.
+void Workbench::greet() {
+    io.print(
+        tr("Welcome. Type a command and press Enter; HELP lists the commands, GUIDE opens the user guide."));
+    io.print(tr("OPEN opens a drawing, QPREF the options. Escape cancels, U takes the last change back."));
 }
 
 void Workbench::report(const QString& problem) {
@@ -188,7 +231,7 @@ void Workbench::printTranscript() {
 }
 
 void Workbench::chooseTheme(int theme) {
-    writeTheme(appService<IProfile>().get(), theme);
+    writeSetting(appService<IProfile>().get(), "Theme", theme);
     styles.setTheme(theme);
 }
 
@@ -209,9 +252,33 @@ void Workbench::start() {
     if (readSettings(appService<IProfile>().get()).restoreWindow && launch.scriptFile.isEmpty())
         restoreWindowPlace(*mainWindow);
     mainWindow->show();
+    if (!launch.headless && launch.scriptFile.isEmpty())
+        greet();
     openFirstDrawing();
+    if (!launch.headless && launch.scriptFile.isEmpty() && launch.drawing.isEmpty())
+        showStartPage();
     if (launch.headless || !launch.scriptFile.isEmpty())
         play();
+}
+
+void Workbench::showStartPage() {
+    const QDir samples(launch.dataDir + QStringLiteral("/samples"));
+    QStringList paths;
+    for (const QString& name : samples.entryList({QStringLiteral("*.dxf")}, QDir::Files))
+        paths.append(samples.filePath(name));
+    mainWindow->showStartPage(recentDrawings(appService<IProfile>().get()), paths);
+}
+
+// Samples are opened as copies: what is shipped stays as it is.
+void Workbench::openChosen(const QString& path) {
+    const QString problem = errorTextOf([&] {
+        if (path.startsWith(launch.dataDir))
+            documents->openCopy(path, QFileInfo(path).completeBaseName());
+        else
+            openInPlaceOfUntouched(*documents, path);
+    });
+    if (!problem.isNull())
+        report(problem);
 }
 
 void Workbench::openFirstDrawing() {

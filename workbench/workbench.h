@@ -24,6 +24,7 @@ class RootUse;
 
 namespace workbench {
 
+class DialogPlaces;
 class HistoryKeeper;
 class LoadedModule;
 class MainWindow;
@@ -54,7 +55,12 @@ private:
     void openStores();
     void provideServices();
     void addCommands();
+    void showOnScreen();
+    void showStartPage();
+    void addAliases();
+    void greet();
     void openFirstDrawing();
+    void openChosen(const QString& path);
     void play();
     void endScript(const QString& problem);
     void applySettings();
@@ -79,6 +85,7 @@ private:
     std::unique_ptr<MainWindow> mainWindow;
     std::unique_ptr<PreviewWriter> previews;
     std::unique_ptr<ProgressDialog> progressDialog; // null when headless
+    std::unique_ptr<DialogPlaces> dialogPlaces;     // likewise
     std::unique_ptr<ScriptPlayer> player;
     QTimer themeCheck;     // runs while a command does
     int appliedTheme = -1; // the one that the profile held last

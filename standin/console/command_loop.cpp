@@ -98,19 +98,35 @@ void CommandLoop::takeLines() {
     }
 }
 
+QString CommandLoop::commandOf(const QString& nameOrAlias) const {
+    const QString name = commandName(nameOrAlias);
+    const QString command = isKnown(name) ? name : aliases.value(name);
+    return isKnown(command) ? command : QString();
+}
+
 // An empty line runs the last command again.
 void CommandLoop::takeLine(const QString& line) {
     const QString name = commandName(line).isEmpty() ? last : commandName(line);
     console.echo(prompt(), line.trimmed().isEmpty() ? name : line.trimmed());
     if (name.isEmpty())
         return;
-    if (isKnown(name))
-        return runNamed(name);
-    bool taken = false;
-    if (otherwise)
+    if (const QString command = commandOf(name); !command.isEmpty())
+        return runNamed(command);
+    bool taken = runOnWords(line.simplified());
+    if (!taken && otherwise)
         execute(name, [&] { taken = otherwise(line.trimmed()); });
     if (!taken)
         console.print(tr("Unknown command \"%1\". HELP lists the commands.").arg(line.trimmed()));
+}
+
+bool CommandLoop::runOnWords(const QString& line) {
+    const QString name = commandOf(line.section(QLatin1Char(' '), 0, 0));
+    const auto own = ownCommands.find(name);
+    if (own == ownCommands.end() || !own->second.runOn)
+        return false;
+    last = name;
+    execute(name, [&] { own->second.runOn(line.section(QLatin1Char(' '), 1)); });
+    return true;
 }
 
 bool CommandLoop::isKnown(const QString& name) const {

@@ -3,6 +3,7 @@
 
 #include "sdk/ed/command.h"
 
+#include <QMap>
 #include <QObject>
 #include <QStringList>
 #include <functional>
@@ -17,6 +18,8 @@ struct OwnCommand {
     QString name; // in capitals
     QString description;
     std::function<void()> run;
+    // Takes the words behind the name in its line; without it a line with such words names no command.
+    std::function<void(const QString& words)> runOn{};
 };
 
 class CommandLoop : public QObject {
@@ -27,6 +30,11 @@ public:
 
     // Commands of the application itself; those of modules are on odedRegCmds().
     void add(OwnCommand command);
+    // Short names, in capitals, each with its command. The name of a command is never one.
+    void setAliases(const QMap<QString, QString>& shortNames) { aliases = shortNames; }
+    QStringList aliasesOf(const QString& command) const { return aliases.keys(command); }
+    // The command that a name or an alias means, in capitals; empty when it means none.
+    QString commandOf(const QString& nameOrAlias) const;
     QString descriptionOf(const QString& name) const;
     QStringList names() const;                               // all of them, sorted
     QStringList completions(const QString& beginning) const; // none for an empty beginning
@@ -50,12 +58,14 @@ private:
     void takeLines();
     void takeLine(const QString& line);
     void runNamed(const QString& name);
+    bool runOnWords(const QString& line);
     void execute(const QString& name, const std::function<void()>& body);
     void endFailed(const QString& name, const QString& problem, const DrawingState& before);
     bool isKnown(const QString& name) const;
 
     Console& console;
     std::map<QString, OwnCommand> ownCommands;
+    QMap<QString, QString> aliases;
     QString runningName, last;
     bool taking = false;
 };

@@ -51,7 +51,7 @@ void HelpBrowser::changeEvent(QEvent* event) {
 
 void HelpBrowser::resizeEvent(QResizeEvent* event) {
     QTextBrowser::resizeEvent(event);
-    if (readFor != 0 && readFor != pageWidth())
+    if (source().isValid() && readFor != 0 && readFor != pageWidth())
         readAnew();
 }
 

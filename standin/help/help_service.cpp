@@ -57,6 +57,20 @@ void HelpWindow::showTopic(const QString& topic) {
     showTitle();
 }
 
+void HelpWindow::showFile(const QString& path) {
+    if (QFileInfo(path).isFile())
+        pageBrowser->setSource(QUrl::fromLocalFile(path));
+    else
+        pageBrowser->setPlainText(tr("There is no file %1.").arg(path));
+    showTitle();
+}
+
+void HelpWindow::showPage(const QString& html) {
+    pageBrowser->setSource({});
+    pageBrowser->setHtml(html);
+    showTitle();
+}
+
 void HelpWindow::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Cancel))
         close();
@@ -74,16 +88,22 @@ HelpService::HelpService(QString pageFolder) : folder(std::move(pageFolder)) {}
 HelpService::~HelpService() { delete helpWindow; }
 
 // A window that isn't a child of the modal dialog would not take any click.
-void HelpService::showTopic(const char* topicId) {
+HelpWindow& HelpService::openWindow() {
     QWidget* parent = QApplication::activeModalWidget();
     if (helpWindow && helpWindow->parentWidget() != parent)
         delete helpWindow;
     if (!helpWindow)
         helpWindow = new HelpWindow(folder, parent);
-    helpWindow->showTopic(QString::fromUtf8(topicId));
     helpWindow->show();
     helpWindow->raise();
+    return *helpWindow;
 }
+
+void HelpService::showTopic(const char* topicId) { openWindow().showTopic(QString::fromUtf8(topicId)); }
+
+void HelpService::showFile(const QString& path) { openWindow().showFile(path); }
+
+void HelpService::showPage(const QString& html) { openWindow().showPage(html); }
 
 } // namespace standin
 

@@ -17,6 +17,8 @@ public:
     HelpWindow(const QString& pageFolder, QWidget* parent);
     ~HelpWindow() override;
     void showTopic(const QString& topic);
+    void showFile(const QString& path);
+    void showPage(const QString& html); // with a title of its own
 
 protected:
     void keyPressEvent(QKeyEvent* event) override; // Escape closes the window
@@ -35,9 +37,13 @@ public:
     ~HelpService() override;
     // Shows the page in a window that can be used beside a modal dialog, one window at a time.
     void showTopic(const char* topicId) override;
+    // In the same window: a file of HTML or Markdown, with the pictures beside it; and a page as it is given.
+    void showFile(const QString& path);
+    void showPage(const QString& html);
     HelpWindow* window() const { return helpWindow; }
 
 private:
+    HelpWindow& openWindow();
     QString folder;
     QPointer<HelpWindow> helpWindow;
 };

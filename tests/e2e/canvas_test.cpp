@@ -171,6 +171,7 @@ TEST_F(CanvasTest, UndoAndRedoRedraw) {
 
 TEST_F(CanvasTest, ControlZUndoesOnAnEmptyLine) {
     eraseFirstLine();
+    enter({"DRAWINGS"}); // the window looks when a command ends
     QTest::keyClick(&line(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_TRUE(waitUntil([this] { return entities().size() == 4; }));
 }

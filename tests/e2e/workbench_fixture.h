@@ -26,6 +26,7 @@ protected:
         launch.rootDir = rootDir;
         launch.dataDir = QStringLiteral(SHIPPED_DATA_DIR);
         launch.moduleFile = QStringLiteral(MODULE_FILE);
+        launch.guideFile = workbench::defaultLaunch().guideFile;
         return launch;
     }
     void start() {

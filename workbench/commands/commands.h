@@ -29,7 +29,7 @@ struct CommandScope {
     MenuSink& menus;
 };
 
-void addProgramCommands(const CommandScope& scope);  // QUIT, HELP, THEME
+void addProgramCommands(const CommandScope& scope);  // QUIT, THEME
 void addDrawingCommands(const CommandScope& scope);  // NEW, OPEN, SAVE, SAVEAS, CLOSE, DRAWINGS
 void addEditCommands(const CommandScope& scope);     // UNDO, REDO, SELECT, LIST
 void addViewCommands(const CommandScope& scope);     // ZOOM

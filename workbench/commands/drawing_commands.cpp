@@ -22,6 +22,11 @@ namespace {
 
 QString tr(const char* text) { return QCoreApplication::translate("DrawingCommands", text); }
 
+bool isUntouched(Document& document) {
+    const OdDbDatabase& drawing = *document.database();
+    return document.path().isEmpty() && !drawing.isModified() && !drawing.hasUndo() && !drawing.hasRedo();
+}
+
 // A drawing that is open already is brought to the front.
 void openDrawing(const CommandScope& scope) {
     const auto path = scope.files.fileToOpen(folderOfCurrent(scope.documents));
@@ -29,7 +34,7 @@ void openDrawing(const CommandScope& scope) {
         return;
     if (Document* open = scope.documents.documentOfFile(*path))
         return scope.documents.activate(open);
-    scope.documents.openFile(*path);
+    openInPlaceOfUntouched(scope.documents, *path);
 }
 
 void closeCurrent(const CommandScope& scope) {
@@ -98,6 +103,13 @@ bool write(DocumentManager& documents, Document& document, const QString& path, 
 
 } // namespace
 
+void openInPlaceOfUntouched(DocumentManager& documents, const QString& path) {
+    Document* const former = documents.currentOne();
+    documents.openFile(path);
+    if (former && isUntouched(*former))
+        documents.close(former);
+}
+
 QString folderOfCurrent(const DocumentManager& documents) {
     const Document* current = documents.currentOne();
     return current && !current->path().isEmpty() ? QFileInfo(current->path()).absolutePath() : QString();
@@ -120,6 +132,7 @@ bool saveDrawingAs(DocumentManager& documents, Document& document, const FileQue
 bool settleChanges(DocumentManager& documents, Document& document, const FileQuestions& files) {
     if (!document.database()->isModified())
         return true;
+    documents.activate(&document); // so that one sees what the question is about
     switch (files.whatOfChanges(document.displayName())) {
     case Unsaved::Save:
         return saveDrawing(documents, document, files);

@@ -1,6 +1,8 @@
 // Saving and closing drawings so that nothing is lost unasked; for the commands and for closing the window.
 #pragma once
 
+#include <QString>
+
 namespace standin {
 class Document;
 class DocumentManager;
@@ -21,5 +23,8 @@ bool saveDrawingAs(standin::DocumentManager& documents, standin::Document& docum
 bool settleChanges(standin::DocumentManager& documents, standin::Document& document,
                    const FileQuestions& files);
 bool settleAllChanges(standin::DocumentManager& documents, const FileQuestions& files);
+
+// Opens a file; an empty drawing that was current and that nobody has touched is closed. Throws OdError.
+void openInPlaceOfUntouched(standin::DocumentManager& documents, const QString& path);
 
 } // namespace workbench

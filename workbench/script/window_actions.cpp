@@ -122,10 +122,10 @@ QWidget* activeWindowForScript() {
         return popup;
     if (QWidget* dialog = QApplication::activeModalWidget())
         return dialog;
-    if (QWidget* active = QApplication::activeWindow())
+    if (QWidget* active = QApplication::activeWindow(); active && active->windowType() != Qt::Popup)
         return active;
     for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->isVisible())
+        if (window->isVisible() && window->windowType() != Qt::Popup)
             return window;
     throw ScriptFault{tr("there is no window")};
 }

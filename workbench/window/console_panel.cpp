@@ -16,6 +16,10 @@ using standin::Console;
 
 namespace workbench {
 
+namespace {
+const int leastTyped = 160; // pixels for what is typed behind a long prompt
+} // namespace
+
 ConsolePanel::ConsolePanel(Console& console, CommandLoop& commandLoop, QWidget* parent)
     : QWidget(parent), io(console), loop(commandLoop) {
     setObjectName(QStringLiteral("consolePanel"));
@@ -40,8 +44,10 @@ void ConsolePanel::build() {
     promptLabel = new QLabel(inputRow);
     promptLabel->setObjectName(QStringLiteral("promptLabel"));
     promptLabel->setTextFormat(Qt::PlainText);
+    promptLabel->setMinimumWidth(1); // a long prompt is cut and never makes the window wider
     promptLabel->setForegroundRole(QPalette::Text);
     commandLine = new ConsoleLine(inputRow);
+    commandLine->setMinimumWidth(leastTyped);
     commandLine->completions = [this](const QString& beginning) {
         return io.openPrompt() ? QStringList() : loop.completions(beginning);
     };
@@ -80,7 +86,10 @@ void ConsolePanel::showEnd() {
     bar->setValue(bar->maximum());
 }
 
-void ConsolePanel::showPrompt() { promptLabel->setText(loop.prompt()); }
+void ConsolePanel::showPrompt() {
+    promptLabel->setText(loop.prompt());
+    promptLabel->setToolTip(loop.prompt().toHtmlEscaped());
+}
 
 void ConsolePanel::apply(const Settings& settings) {
     QFont font(settings.consoleFont, settings.consoleFontSize);

@@ -3,8 +3,11 @@
 #include "sdk/db/database.h"
 #include "standin/documents/document_manager.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSignalBlocker>
 #include <QToolButton>
+#include <algorithm>
 
 using namespace standin;
 
@@ -13,6 +16,16 @@ namespace workbench {
 QString titleOf(Document& document) {
     return document.database()->isModified() ? document.displayName() + QLatin1Char('*')
                                              : document.displayName();
+}
+
+// The name, and behind it the folder where another open drawing has the same name.
+static QString tabTitle(Document& document, const std::vector<Document*>& open) {
+    const bool isTwice = std::count_if(open.begin(), open.end(), [&](const Document* other) {
+                             return other->displayName() == document.displayName();
+                         }) > 1;
+    const QString folder = QDir::toNativeSeparators(QFileInfo(document.path()).path());
+    return isTwice && !document.path().isEmpty() ? DrawingTabs::tr("%1 in %2").arg(titleOf(document), folder)
+                                                 : titleOf(document);
 }
 
 DrawingTabs::DrawingTabs(DocumentManager& documentManager, QWidget* parent)
@@ -57,7 +70,7 @@ void DrawingTabs::showDrawings() {
         removeTab(count() - 1);
     for (int i = 0; i < int(open.size()); ++i) {
         Document& document = *open[std::size_t(i)];
-        const QString title = titleOf(document).replace(QLatin1Char('&'), QLatin1String("&&"));
+        const QString title = tabTitle(document, open).replace(QLatin1Char('&'), QLatin1String("&&"));
         if (i == count())
             addCloseButton(addTab(title));
         setTabText(i, title);

@@ -12,6 +12,7 @@
 #include "workbench/window/console_line.h"
 #include "workbench/window/console_panel.h"
 #include "workbench/window/drawing_tabs.h"
+#include "workbench/window/start_page.h"
 #include "workbench/window/window_place.h"
 
 #include <QActionGroup>
@@ -94,11 +95,22 @@ void MainWindow::connectSignals() {
     connect(styles.themeWatcher(), &hostQtThemeChangeWatcher::clicked, this, &MainWindow::checkTheme);
 }
 
+void MainWindow::showStartPage(const QStringList& recent, const QStringList& samples) {
+    auto* page = new StartPage(recent, samples, canvas);
+    connect(page, &StartPage::commandChosen, this, &MainWindow::runCommand);
+    connect(page, &StartPage::drawingChosen, this, &MainWindow::drawingChosen);
+    connect(&loop, &CommandLoop::commandStarted, page, &QWidget::hide);
+    connect(&documents, &DocumentManager::currentChanged, page, &QWidget::hide);
+    page->show();
+}
+
 void MainWindow::apply(const Settings& settings) {
     canvas->apply(settings);
     consolePanel->apply(settings);
     toolBar->setVisible(settings.showToolBar);
     statusBar()->setVisible(settings.showStatusBar);
+    findChild<QAction*>(QStringLiteral("ShowToolBar"))->setChecked(settings.showToolBar);
+    findChild<QAction*>(QStringLiteral("ShowStatusBar"))->setChecked(settings.showStatusBar);
     showIcons();
 }
 
@@ -113,6 +125,15 @@ void MainWindow::showDrawing() {
     tabs->showDrawings();
     drawingLabel->setText(name.isEmpty() ? tr("No drawing") : name);
     setWindowTitle(name.isEmpty() ? tr("Workbench") : tr("%1 - Workbench").arg(name));
+    showWhatCanBeUndone();
+}
+
+void MainWindow::showWhatCanBeUndone() {
+    Document* current = documents.currentOne();
+    if (auto* undo = findChild<QAction*>(QStringLiteral("undoAction")))
+        undo->setEnabled(current && current->database()->hasUndo());
+    if (auto* redo = findChild<QAction*>(QStringLiteral("redoAction")))
+        redo->setEnabled(current && current->database()->hasRedo());
 }
 
 // What a menu starts takes the place of a command that is waiting for an answer.
@@ -139,6 +160,16 @@ void MainWindow::showCursorPlace(const QPointF& point) {
 
 void MainWindow::checkTheme() { themeGroup->actions().at(styles.themeNumber())->setChecked(true); }
 
+// The wish holds for the command that runs now: who answers its questions with Cancel stays.
+void MainWindow::closeAfterCommand() {
+    auto* wish = new QObject(this);
+    connect(&loop, &CommandLoop::commandEnded, wish, [this, wish] {
+        wish->deleteLater();
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+    });
+    io.escape();
+}
+
 // A prompt that is open is cancelled first; the window then closes when its command has ended.
 void MainWindow::closeEvent(QCloseEvent* event) {
     saveWindowPlace(*this);
@@ -150,9 +181,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (!loop.isRunning())
         return runCommand(QStringLiteral("QUIT")); // asks what is to become of them
-    connect(&loop, &CommandLoop::commandEnded, this, &QWidget::close,
-            Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
-    io.escape();
+    closeAfterCommand();
 }
 
 } // namespace workbench

@@ -37,9 +37,13 @@ public:
     void addEntry(const MenuEntry& entry) override;
     ConsolePanel* console() const { return consolePanel; }
     Canvas& drawingArea() const { return *canvas; }
+    // Until the first command. `recent` and `samples`: paths of drawings.
+    void showStartPage(const QStringList& recent, const QStringList& samples);
 
 signals:
     void themeChosen(int theme);
+    void drawingChosen(const QString& path);                 // on the start page
+    void partSwitched(const QByteArray& option, bool shown); // "ShowToolBar", "ShowStatusBar"
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -54,6 +58,9 @@ private:
     void runCommand(const QString& command);
     void showIcons();
     void showDrawing();
+    void showWhatCanBeUndone();
+    void closeAfterCommand();
+    void buildPartEntries();
     // A prompt that is open is cancelled first.
     void switchTo(standin::Document* document);
     QWidget* buildDrawingArea();

@@ -7,6 +7,7 @@
 #include "workbench/window/drawing_tabs.h"
 
 #include <QActionGroup>
+#include <QDockWidget>
 #include <QMenuBar>
 #include <QToolBar>
 
@@ -67,10 +68,29 @@ void MainWindow::buildThemeEntries() {
         action->setCheckable(true);
         menus[Menu::View]->addAction(action);
     }
+    buildPartEntries();
     menus[Menu::View]->menuAction()->setVisible(true);
     connect(themeGroup, &QActionGroup::triggered, this,
             [this](QAction* chosen) { emit themeChosen(themeGroup->actions().indexOf(chosen)); });
     checkTheme();
+}
+
+// The bars follow the options of their names, which their entries change.
+void MainWindow::buildPartEntries() {
+    QMenu* view = menus[Menu::View];
+    view->addSeparator();
+    QAction* console = findChild<QDockWidget*>(QStringLiteral("consoleDock"))->toggleViewAction();
+    console->setText(tr("&Console"));
+    console->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_9));
+    view->addAction(console);
+    for (const auto& [key, text] :
+         {std::pair{"ShowToolBar", tr("&Tool bar")}, {"ShowStatusBar", tr("Status &bar")}}) {
+        QAction* action = view->addAction(text);
+        action->setObjectName(QLatin1String(key));
+        action->setCheckable(true);
+        connect(action, &QAction::triggered, this,
+                [this, key = QByteArray(key)](bool shown) { emit partSwitched(key, shown); });
+    }
 }
 
 void MainWindow::buildToolBar() {

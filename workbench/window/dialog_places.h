@@ -1,0 +1,34 @@
+// Where dialogs come up and how large: over the middle of the main window, never larger than the screen's
+// free area, and as large as their user left them.
+#pragma once
+
+#include <QObject>
+#include <QRect>
+
+class QMainWindow;
+
+namespace workbench {
+
+// The place of a window of `size` that is to stand over the middle of `below`, moved and cut so that it and
+// its frame lie within `area`.
+QRect placeOver(const QRect& below, QSize size, const QRect& area);
+
+// Watches every dialog of the application for its lifetime. Sizes are kept in the profile, by the name of the
+// dialog; boxes with a message, progress and the system's dialogs have the size of what they show.
+class DialogPlaces : public QObject {
+    Q_OBJECT
+public:
+    explicit DialogPlaces(QMainWindow& mainWindow);
+    ~DialogPlaces() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void place(QWidget& dialog);
+    void remember(const QWidget& dialog) const;
+
+    QMainWindow& window;
+};
+
+} // namespace workbench
