@@ -17,6 +17,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QTextEdit>
 #include <QtTest>
 
@@ -83,11 +84,19 @@ void RandomUser::act() {
     giveCommand();
 }
 
+// By its own button where it has one: the dialog of groups comes back after Escape.
+void RandomUser::leave(QDialog& dialog) {
+    if (auto* const button = dialog.findChild<QPushButton*>(QStringLiteral("cancelButton")))
+        button->click();
+    else
+        dialog.reject();
+}
+
 bool RandomUser::comeToRest() {
     if (QWidget* menu = QApplication::activePopupWidget())
         menu->close();
     else if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
-        dialog->reject();
+        leave(*dialog);
     else if (bench.commands().isRunning())
         bench.console().escape();
     return isAtRest();

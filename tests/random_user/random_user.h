@@ -2,6 +2,7 @@
 // the dialogs that open, clicks on the drawing. The same seed does the same on the same program.
 #pragma once
 
+#include <QDialog>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
@@ -32,6 +33,7 @@ private:
     void actOnMenu(QWidget& menu);
     void actOnDialog(QWidget& dialog);
     void actOnControl(QWidget& control);
+    void leave(QDialog& dialog);
     void answerPrompt();
     void giveCommand();
     void useMouse();
