@@ -20,6 +20,13 @@ enum class DialogHabit {
     UnitOfFileShown,
     // Attaching: several files are placed one after the other on screen, or beside each other at one point.
     FilesPlacedApart,
+    // Every dialog: buttons, labels and tabs have letters with Alt, unique within the window.
+    Mnemonics,
+    // Object groups: five rows and whole names in sight, tables in reach of the keys, a chosen row after
+    // every new fill, the reason of a refused name, and a filter for many groups.
+    GuidedGroups,
+    // Drawing properties: all tabs and columns in sight, keys for tabs and for the rows of the tables.
+    PropertiesByKeyboard,
 };
 
 class IDialogHabits : public IKWUnknown {

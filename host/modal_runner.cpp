@@ -2,6 +2,7 @@
 #include "host/modal_runner.h"
 
 #include "host/loop_exceptions.h"
+#include "host/mnemonics.h"
 
 #include <QDialog>
 #include <QEvent>
@@ -57,6 +58,7 @@ int runModal(QDialog& dialog) {
     const ModalAttribute modal(dialog);
     std::exception_ptr thrown;
     dialog.setResult(0);
+    giveMnemonics(dialog);
     try {
         runUntilHidden(dialog);
     } catch (...) {

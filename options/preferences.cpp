@@ -112,6 +112,7 @@ void Preferences::buildProfileRow() {
     profileButton->setIcon(treeIcon(kIconProfile));
     profileButton->setToolTip(tr("Profiles"));
     profileLabel = named(new QLabel(tr("Current profile:"), this), "profileLabel");
+    profileLabel->setBuddy(profileCombo);
 }
 
 void Preferences::buildSearch() {

@@ -78,12 +78,15 @@ void RasterDialog::layOut() {
 
 QLayout* RasterDialog::layOutEdits() {
     auto* grid = new QGridLayout;
-    grid->addWidget(new QLabel(tr("Name:"), this), 0, 0);
-    grid->addWidget(nameEdit, 0, 1);
-    grid->addWidget(new QLabel(tr("Description:"), this), 1, 0);
-    grid->addWidget(descriptionEdit, 1, 1);
-    grid->addWidget(new QLabel(tr("Extension:"), this), 2, 0);
-    grid->addWidget(extensionEdit, 2, 1);
+    const std::pair<QString, QLineEdit*> labelled[] = {
+        {tr("Name:"), nameEdit}, {tr("Description:"), descriptionEdit}, {tr("Extension:"), extensionEdit}};
+    int row = 0;
+    for (const auto& [text, edit] : labelled) {
+        auto* const label = new QLabel(text, this);
+        label->setBuddy(edit);
+        grid->addWidget(label, row, 0);
+        grid->addWidget(edit, row++, 1);
+    }
     return grid;
 }
 

@@ -10,7 +10,8 @@ class TestHabits {
 public:
     explicit TestHabits(std::set<DialogHabit> wanted) : before(theOnlyIApp) {
         hub->add(Ref<Service>::share(new Service(std::move(wanted))));
-        hub->add(Ref<IKWUnknown>::share(before));
+        if (before)
+            hub->add(Ref<IKWUnknown>::share(before));
         theOnlyIApp = hub.get();
     }
     ~TestHabits() { theOnlyIApp = before; }

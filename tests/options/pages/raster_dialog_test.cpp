@@ -1,8 +1,11 @@
 // The dialog for one raster format.
 #include "options/pages/raster_dialog.h"
 
+#include "host/mnemonics.h"
 #include "host/typed_reads.h"
 #include "tests/options/pages/raster_fixture.h"
+#include "tests/support/letters.h"
+#include "tests/support/test_habits.h"
 
 #include <QLabel>
 #include <QLayout>
@@ -56,6 +59,16 @@ TEST_F(RasterDialogs, LabelsAndButtonsReadAsTheyShould) {
     EXPECT_EQ(dialog.okButton->text(), "OK");
     EXPECT_EQ(dialog.cancelButton->text(), "Cancel");
     EXPECT_EQ(dialog.optionsButton->text(), "Options...");
+}
+
+TEST_F(RasterDialogs, EachEditHasALetterInAHostThatWantsThem) {
+    const TestHabits habits{{DialogHabit::Mnemonics}};
+    RasterFormat format = make();
+    RasterDialog dialog(nullptr, &format, true);
+    giveMnemonics(dialog);
+    dialog.show();
+    EXPECT_EQ(textsWithLetters(dialog).size(), 6);
+    expectLetters(dialog);
 }
 
 TEST_F(RasterDialogs, EachEditStandsBehindItsLabelAndTheButtonsStandInAColumnBehindTheEdits) {
