@@ -2,6 +2,7 @@
 
 #include "groups/dialog_parts.h"
 #include "groups/highlight.h"
+#include "host/dialog_habits.h"
 #include "host/help.h"
 #include "host/selection.h"
 #include "host/text.h"
@@ -14,7 +15,8 @@
 #include <QTableWidget>
 
 CGroupDlg::CGroupDlg(QWidget* parent, OdDbObjectId groupDictionaryId, GroupData& groupData)
-    : QDialog(parent), dictionaryId(groupDictionaryId), data(&groupData) {
+    : QDialog(parent), dictionaryId(groupDictionaryId), data(&groupData),
+      guided(hasHabit(DialogHabit::GuidedGroups)) {
     group_dialogs::setUpWindow(*this, "CGroupDlg", QDialog::tr("Object Grouping"), 380, 420);
     build();
     layOut();
@@ -22,6 +24,8 @@ CGroupDlg::CGroupDlg(QWidget* parent, OdDbObjectId groupDictionaryId, GroupData&
     nameEdit->selectAll();
     fillTable();
     connectControls();
+    if (guided)
+        fitWindow();
 }
 
 // The table goes after the dialog's own part: its last signals must not come here.
@@ -29,7 +33,8 @@ CGroupDlg::~CGroupDlg() { groupTable->disconnect(this); }
 
 void CGroupDlg::closeEvent(QCloseEvent*) { done(kCancelled); }
 
-// Nothing shows these: a rejected name is told by the focus alone, and that is meant.
+// Only hosts that want it have these shown: otherwise a rejected name is told by the focus alone, and that is
+// meant.
 QString CGroupDlg::errorMessage(int code) {
     switch (code) {
     case kGroupNameInvalid:

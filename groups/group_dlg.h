@@ -64,6 +64,12 @@ private:
     void connectWork();
 
     void fillTable();
+    void buildFilter();
+    void filter();
+    void makeRoomForReasons();
+    void fitWindow();
+    void showFill(int chosenRow); // no row when it is negative
+    void chooseRow(int row);
     std::vector<Row> rowsOf(const OdDbDictionaryPtr& dictionary, Order order, bool strict);
     void noteRow(const OdString& name, bool anonymous, int row, bool strict);
     void showRows(const std::vector<Row>& rows, bool withIds);
@@ -82,6 +88,7 @@ private:
     void endForWork(Result result);
     void endForNew();
     int checkNewName(const QString& name);
+    void tellRefusal(int error);
     bool isListed(const QString& name) const;
     int countNamedRows() const;
     void explode();
@@ -95,6 +102,9 @@ private:
     GroupData* data;
     OdDbObjectIdArray rowIds; // index = table row
     int namedRows = 0;        // of the last fill
+
+    const bool guided;               // whether the host wants the dialog to lead its user
+    QLineEdit* filterEdit = nullptr; // null without that
 
     QTableWidget* groupTable;
     QLineEdit* nameEdit;

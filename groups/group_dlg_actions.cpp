@@ -47,9 +47,17 @@ int CGroupDlg::checkNewName(const QString& name) {
     if (error == 0)
         return 0;
     data->errorCode = error;
+    if (guided)
+        tellRefusal(error);
     nameEdit->setFocus();
     nameEdit->selectAll();
     return error;
+}
+
+void CGroupDlg::tellRefusal(int error) {
+    const QString allowed = QDialog::tr("Up to 31 letters, digits, $, - and _.");
+    messageLabel->setText(error == kGroupNameInvalid ? errorMessage(error) + ' ' + allowed
+                                                     : errorMessage(error));
 }
 
 bool CGroupDlg::isListed(const QString& name) const {

@@ -24,6 +24,12 @@ void packRows(QLayout& layout, int vertically) {
     layout.setSpacing(1);
 }
 
+QLabel* labelFor(QLineEdit* edit, const QString& text, QWidget* parent) {
+    auto* const label = new QLabel(text + QLatin1Char(':'), parent);
+    label->setBuddy(edit);
+    return label;
+}
+
 } // namespace
 
 void CGroupDlg::build() {
@@ -31,6 +37,10 @@ void CGroupDlg::build() {
     group_dialogs::setUpTable(*groupTable, {QDialog::tr("Group name"), QDialog::tr("Selectable")});
     buildIdentification();
     buildButtons();
+    if (guided) {
+        buildFilter();
+        makeRoomForReasons();
+    }
     flatten();
     nameEdit->setEnabled(!data->unnamed);
 }
@@ -83,12 +93,14 @@ void CGroupDlg::flatten() {
 void CGroupDlg::layOut() {
     auto* const column = new QVBoxLayout(this);
     packRows(*column, 2);
+    if (filterEdit)
+        column->addWidget(filterEdit);
     column->addWidget(groupTable);
     column->addWidget(identificationBox());
     column->addWidget(createBox());
     column->addWidget(changeBox());
     auto* const messages = new QHBoxLayout;
-    messages->addWidget(messageLabel);
+    messages->addWidget(messageLabel, guided ? 1 : 0);
     messages->addStretch();
     column->addLayout(messages);
     column->addLayout(group_dialogs::centredRow({okButton, cancelButton, helpButton}));
@@ -98,9 +110,9 @@ QGroupBox* CGroupDlg::identificationBox() {
     auto* const box = new QGroupBox(QDialog::tr("Group Identification"), this);
     auto* const grid = new QGridLayout(box);
     packRows(*grid, 0);
-    grid->addWidget(new QLabel(QDialog::tr("Group name") + QLatin1Char(':'), box), 0, 0);
+    grid->addWidget(labelFor(nameEdit, QDialog::tr("Group name"), box), 0, 0);
     grid->addWidget(nameEdit, 0, 1, 1, 2);
-    grid->addWidget(new QLabel(QDialog::tr("Description") + QLatin1Char(':'), box), 1, 0);
+    grid->addWidget(labelFor(descriptionEdit, QDialog::tr("Description"), box), 1, 0);
     grid->addWidget(descriptionEdit, 1, 1, 1, 2);
     grid->addWidget(findNameButton, 2, 0);
     auto* const checks = new QHBoxLayout;

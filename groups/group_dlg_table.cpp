@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QPushButton>
 #include <QTableWidget>
+#include <algorithm>
 
 namespace {
 
@@ -16,6 +17,11 @@ namespace {
 OdDbGroupPtr groupOf(const OdDbDictionaryIteratorPtr& entry, bool strict) {
     const OdDbObjectPtr object = entry->getObject();
     return strict ? odrxCast<OdDbGroup>(object) : odrxQuery<OdDbGroup>(object.get());
+}
+
+int rowOf(const OdDbObjectIdArray& ids, OdDbObjectId id) {
+    const auto found = std::find(ids.begin(), ids.end(), id);
+    return id.isNull() || found == ids.end() ? -1 : static_cast<int>(found - ids.begin());
 }
 
 } // namespace
@@ -36,20 +42,28 @@ void CGroupDlg::refillTable() {
     if (dropHighlight(*data))
         HostUpdateDisplay();
     clearTable();
+    if (guided)
+        data->currentRow = -1;
     showRows(rowsOf(odrxCast<OdDbDictionary>(dictionaryId.openObject()), kSorted, false), false);
     const bool isRow = data->currentRow >= 0 && data->currentRow < groupTable->rowCount();
     if (isRow)
         group_dialogs::scrollToRow(*groupTable, data->currentRow);
     enableGroupButtons(isRow);
     findNameButton->setEnabled(namedRows > 0);
+    if (guided)
+        showFill(data->currentRow);
 }
 
 void CGroupDlg::fillForIncludeUnnamed() {
     data->includeUnnamed = includeUnnamedCheck->isChecked();
     const int currentRow = data->currentRow;
+    const int chosen = group_dialogs::firstSelectedRow(*groupTable);
+    const OdDbObjectId chosenId = chosen < 0 ? OdDbObjectId() : rowIds.at(static_cast<std::size_t>(chosen));
     clearTable();
     showRows(rowsOf(odrxCast<OdDbDictionary>(dictionaryId.openObject()), kCollated, false), true);
     data->currentRow = currentRow;
+    if (guided)
+        showFill(rowOf(rowIds, chosenId));
 }
 
 // The group that was chosen does not come back by this: only a choice of the user fills the controls.

@@ -1,6 +1,7 @@
 #include "groups/group_reorder_dlg.h"
 
 #include "groups/dialog_parts.h"
+#include "host/mnemonics.h"
 #include "host/text.h"
 #include "sdk/db/dictionary.h"
 
@@ -90,6 +91,7 @@ void CGroupReorderDlg::showGroup(const OdDbGroupPtr& group) {
                                          newPositionEdit, countEdit, reorderButton, reverseButton})
         control->setEnabled(count > 1);
     highlightButton->setEnabled(count >= 1);
+    giveMnemonics(*this);
 }
 
 #include "moc_group_reorder_dlg.cpp"

@@ -1,6 +1,7 @@
 // The controls of the dialog "Order Group" and their places.
 #include "groups/dialog_parts.h"
 #include "groups/group_reorder_dlg.h"
+#include "host/dialog_habits.h"
 #include "host/help.h"
 
 #include <QGroupBox>
@@ -15,7 +16,8 @@ using group_dialogs::named;
 void CGroupReorderDlg::build() {
     groupTable = named(new QTableWidget(this), "groupTable");
     group_dialogs::setUpTable(*groupTable, {QDialog::tr("Group name")});
-    groupTable->setFocusPolicy(Qt::NoFocus);
+    groupTable->setFocusPolicy(hasHabit(DialogHabit::GuidedGroups) ? Qt::StrongFocus : Qt::NoFocus);
+    groupTable->setTabKeyNavigation(false);
     descriptionLabel = named(new QLabel(QDialog::tr("None"), this), "descriptionLabel");
     descriptionLabel->setTextFormat(Qt::PlainText);
     buildEdits();
@@ -82,6 +84,7 @@ QGroupBox* CGroupReorderDlg::editsBox() {
 
 QHBoxLayout* CGroupReorderDlg::editRow(QLabel* label, QLineEdit* edit) {
     auto* const row = new QHBoxLayout;
+    label->setBuddy(edit);
     label->setWordWrap(true); // the longest text is wider than the window has room for
     row->addWidget(label, 1);
     row->addStretch();
