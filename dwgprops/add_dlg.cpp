@@ -30,10 +30,14 @@ void AddDlg::build() {
 
 void AddDlg::layOut() {
     auto* const column = new QVBoxLayout(this);
-    column->addWidget(new QLabel(tr("Custom property name:"), this));
-    column->addWidget(nameEdit);
-    column->addWidget(new QLabel(tr("Value:"), this));
-    column->addWidget(valueEdit);
+    const std::pair<QString, QLineEdit*> labelled[] = {{tr("Custom property name:"), nameEdit},
+                                                       {tr("Value:"), valueEdit}};
+    for (const auto& [text, edit] : labelled) {
+        auto* const label = new QLabel(text, this);
+        label->setBuddy(edit);
+        column->addWidget(label);
+        column->addWidget(edit);
+    }
     column->addLayout(buttonRow());
 }
 

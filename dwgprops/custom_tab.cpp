@@ -2,8 +2,10 @@
 #include "dwgprops/custom_tab.h"
 
 #include "dwgprops/custom_delegate.h"
+#include "dwgprops/custom_keys.h"
 #include "dwgprops/custom_table.h"
 #include "dwgprops/db_text.h"
+#include "host/dialog_habits.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -19,6 +21,8 @@ CustomTab::CustomTab(const QFileInfo&, const OdDbDatabaseSummaryInfoPtr& summary
     layOut();
     connectSignals();
     qApp->installEventFilter(this);
+    if (hasHabit(DialogHabit::PropertiesByKeyboard))
+        new CustomKeys(*this);
 }
 
 void CustomTab::build(const OdDbDatabaseSummaryInfo& info) {
@@ -66,7 +70,9 @@ void CustomTab::layOut() {
     row->addWidget(table);
     row->addLayout(buttons);
     auto* const column = new QVBoxLayout(this);
-    column->addWidget(new QLabel(tr("Custom properties:"), this));
+    auto* const label = new QLabel(tr("Custom properties:"), this);
+    label->setBuddy(table);
+    column->addWidget(label);
     column->addLayout(row);
 }
 

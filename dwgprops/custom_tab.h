@@ -22,6 +22,9 @@ public:
     bool nameInUse(const QString& text) const; // in a named row, exactly this text
     bool isBlankName(const QString& text) const;
     bool hasForbiddenChar(const QString& text) const;
+    void startEdit(QTableWidgetItem* item);
+    void closeEditor();
+    void onDelete();
     int minimumRows(int n) const; // the table never shows fewer than minRows
 
     CustomTableWidget* table;
@@ -38,14 +41,11 @@ private:
     void layOut();
     void connectSignals();
     void setRow(int row, const QString& name, const QString& value);
-    void closeEditor();
-    void startEdit(QTableWidgetItem* item);
     void normaliseCell(int row, int column);
     void editNextRow();
     void updateDeleteButton();
     void onAdd();
     void checkName(AddDlg& dialog);
-    void onDelete();
     void removeRows(const std::set<int>& rows);
 
     CustomDelegate* delegate = nullptr;

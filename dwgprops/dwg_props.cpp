@@ -7,12 +7,15 @@
 #include "dwgprops/db_text.h"
 #include "dwgprops/general_tab.h"
 #include "dwgprops/history_tab.h"
+#include "dwgprops/property_habits.h"
 #include "dwgprops/property_tabs.h"
 #include "dwgprops/start_line_edit.h"
 #include "dwgprops/statistic_tab.h"
 #include "dwgprops/summary_tab.h"
 #include "dwgprops/tab_text_edit.h"
+#include "host/dialog_habits.h"
 #include "host/help.h"
+#include "host/mnemonics.h"
 #include "host/text.h"
 
 #include <QFileInfo>
@@ -50,6 +53,8 @@ dwgProps::dwgProps(QWidget* parent) : QDialog(parent, Qt::WindowFlags()) {
     buildButtons();
     layOut();
     connectSignals();
+    if (hasHabit(DialogHabit::PropertiesByKeyboard))
+        bringIntoReach();
     tabs->setCurrentIndex(0);
     okButton->setFocus(Qt::OtherFocusReason);
 }
@@ -109,6 +114,14 @@ void dwgProps::connectSignals() {
     connect(okButton, &QPushButton::clicked, this, &dwgProps::onOK);
     connect(cancelButton, &QPushButton::clicked, this, &dwgProps::onCancel);
     connect(helpButton, &QPushButton::clicked, this, [] { showHelp("IDH_DWGProps"); });
+}
+
+void dwgProps::bringIntoReach() {
+    giveMnemonics(*this); // before the tabs are measured
+    showAllTabs(*this, *tabs);
+    fitFirstColumn(*customTab->table);
+    fitFirstColumn(*historyTab->table);
+    letKeysInto(*historyTab->table);
 }
 
 int dwgProps::insertTab(int index, QWidget* page, const QString& label) {

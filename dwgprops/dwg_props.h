@@ -35,6 +35,7 @@ private:
     void layOut();
     QHBoxLayout* buttonRow() const;
     void connectSignals();
+    void bringIntoReach();
     void writeSummary();
     void writeCustomProperties();
 

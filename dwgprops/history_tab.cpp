@@ -67,7 +67,9 @@ void HistoryTab::build(int maxRows) {
 
 void HistoryTab::layOut() {
     auto* const column = new QVBoxLayout(this);
-    column->addWidget(new QLabel(tr("File versions:"), this));
+    auto* const label = new QLabel(tr("File versions:"), this);
+    label->setBuddy(table);
+    column->addWidget(label);
     column->addWidget(table);
 }
 

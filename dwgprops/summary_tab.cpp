@@ -48,7 +48,9 @@ void SummaryTab::layOut() {
 }
 
 void SummaryTab::addRow(QGridLayout& grid, int row, const QString& label, QWidget* edit) {
-    grid.addWidget(new QLabel(label, this), row, 1);
+    auto* const edited = new QLabel(label, this);
+    edited->setBuddy(edit);
+    grid.addWidget(edited, row, 1);
     grid.addWidget(edit, row, 2);
 }
 

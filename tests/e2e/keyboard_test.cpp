@@ -2,7 +2,10 @@
 // focus.
 #include "sdk/db/block_reference.h"
 #include "sdk/db/block_table.h"
+#include "sdk/db/dictionary.h"
+#include "sdk/db/summary_info.h"
 #include "tests/e2e/workbench_fixture.h"
+#include "tests/support/letters.h"
 
 #include <QLineEdit>
 #include <QSpinBox>
@@ -40,7 +43,13 @@ struct KeyboardTest : WorkbenchFixture {
     static void tabTo(const char* name) {
         for (int steps = 0; focusName() != QLatin1String(name) && steps < 60; ++steps)
             press(Qt::Key_Tab);
-        ASSERT_EQ(focusName(), name) << "Tab does not get there";
+        ASSERT_EQ(focusName().toStdString(), name)
+            << "Tab does not get there but to " << focused()->metaObject()->className();
+    }
+    static void chooseFile(const QString& path) {
+        tabTo("fileNameEdit");
+        QTest::keyClicks(focused(), path);
+        press(Qt::Key_Return);
     }
 };
 
@@ -49,13 +58,9 @@ TEST_F(KeyboardTest, AReferenceIsChosenTurnedAndPlaced) {
     const QString part = drawings.filePath("part.dxf");
     QFile::copy(SHIPPED_DATA_DIR "/samples/part.dxf", part);
     QString unit;
-    play({[this] { submit("XATTACH"); },
-          [&part] {
-              tabTo("fileNameEdit");
-              QTest::keyClicks(focused(), part);
-              press(Qt::Key_Return);
-          },
+    play({[this] { submit("XATTACH"); }, [&part] { chooseFile(part); },
           [this, &unit] {
+              expectLetters(*window());
               tabTo("angleEdit");
               typeAnew("90");
               unit = window()->findChild<QLineEdit*>("unitEdit")->text();
@@ -76,6 +81,7 @@ TEST_F(KeyboardTest, AReferenceIsChosenTurnedAndPlaced) {
 TEST_F(KeyboardTest, AnOptionIsSoughtChangedAndKept) {
     play({[this] { submit("QPREF"); },
           [] {
+              expectLetters(*window());
               tabTo("searchEdit");
               QTest::keyClicks(focused(), "*ConsoleFontSize*");
               auto* const tree = window()->findChild<QTreeWidget*>("tree");
@@ -95,6 +101,82 @@ TEST_F(KeyboardTest, AnOptionIsSoughtChangedAndKept) {
               press(Qt::Key_Space);
           }});
     EXPECT_EQ(part<QWidget>("transcriptView")->font().pointSize(), 19);
+}
+
+TEST_F(KeyboardTest, APropertyIsAddedChangedAndKept) {
+    play({[this] { submit("DWGPROPS"); },
+          [this] {
+              for (int tab = 0; tab < 5; ++tab) {
+                  expectLetters(*window());
+                  press(Qt::Key_Tab, Qt::ControlModifier);
+              }
+              press(Qt::Key_PageDown, Qt::ControlModifier);
+              tabTo("titleEdit");
+              typeAnew("Plan");
+              press(Qt::Key_PageDown, Qt::ControlModifier);
+              press(Qt::Key_PageDown, Qt::ControlModifier);
+              tabTo("addButton");
+              pressLater(Qt::Key_Space);
+          },
+          [] {
+              expectLetters(*window());
+              QTest::keyClicks(focused(), "Project");
+              press(Qt::Key_Tab);
+              QTest::keyClicks(focused(), "old");
+              press(Qt::Key_Return);
+          },
+          [] {
+              tabTo("table");
+              press(Qt::Key_F2);
+              typeAnew("new");
+              press(Qt::Key_Return);
+              tabTo("okButton");
+              press(Qt::Key_Space);
+          }});
+    const OdDbDatabaseSummaryInfoPtr info =
+        oddbGetSummaryInfo(HostDocManager()->currentDocument()->database().get());
+    OdString name, text;
+    ASSERT_EQ(info->numCustomInfo(), 1);
+    info->getCustomSummaryInfo(0, name, text);
+    EXPECT_EQ(info->getTitle(), OdString(L"Plan"));
+    EXPECT_EQ(name, OdString(L"Project"));
+    EXPECT_EQ(text, OdString(L"new"));
+}
+
+TEST_F(KeyboardTest, AGroupIsMadeOrderedAndRenamed) {
+    play({[this] { submit("OPEN"); }, [] { chooseFile(SHIPPED_DATA_DIR "/samples/part.dxf"); },
+          [this] { submit("GROUP"); },
+          [this] {
+              expectLetters(*window());
+              ASSERT_EQ(focusName(), "nameEdit");
+              typeAnew("all");
+              tabTo("newButton");
+              pressLater(Qt::Key_Space);
+          },
+          [this] { submit("All"); }, [this] { submit(""); },
+          [this] {
+              tabTo("nameEdit");
+              EXPECT_EQ(window()->findChild<QLineEdit*>("nameEdit")->text(), "ALL");
+              typeAnew("whole");
+              tabTo("renameButton");
+              press(Qt::Key_Space);
+              tabTo("reorderButton");
+              pressLater(Qt::Key_Space);
+          },
+          [this] {
+              expectLetters(*window());
+              tabTo("reverseButton");
+              press(Qt::Key_Space);
+              tabTo("okButton");
+              pressLater(Qt::Key_Space);
+          },
+          [this] {
+              tabTo("okButton");
+              pressLater(Qt::Key_Space);
+          }});
+    const OdDbDatabasePtr drawing = HostDocManager()->currentDocument()->database();
+    const auto groups = odrxCast<OdDbDictionary>(drawing->getGroupDictionaryId(true).safeOpenObject());
+    EXPECT_TRUE(groups->has(L"WHOLE"));
 }
 
 } // namespace

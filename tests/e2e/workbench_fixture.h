@@ -54,7 +54,10 @@ protected:
         QObject::connect(&timer, &QTimer::timeout, bench.get(), [&] {
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             const bool isProgress = qobject_cast<QProgressDialog*>(dialog) != nullptr; // goes by itself
-            if (isProgress || (!dialog && !bench->commands().isReady()))
+            const bool isComing = dialog && QApplication::activeWindow() != dialog;
+            if (isComing)
+                QApplication::setActiveWindow(dialog); // which is the window manager's to do
+            if (isProgress || isComing || (!dialog && !bench->commands().isReady()))
                 return;
             if (next < steps.size())
                 steps[next++]();
