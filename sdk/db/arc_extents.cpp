@@ -22,7 +22,8 @@ void odDbAddArcExtents(OdGeExtents3d& extents, const OdGeMatrix3d& toWorld, cons
         extents.addPoint(toWorld * OdGePoint3d(center.x + radius * std::cos(angle),
                                                center.y + radius * std::sin(angle), center.z));
     };
-    const bool whole = std::fabs(end - start) >= kTurn - 1e-12;
+    // Angles that are the same are those of a whole circle.
+    const bool whole = start == end || std::fabs(end - start) >= kTurn - 1e-12;
     const double sweep = whole ? kTurn : withinTurn(end - start);
     add(start);
     add(start + sweep);

@@ -18,6 +18,12 @@ bool isTableHead(const OdDbDatabaseImpl& impl, const OdDbStub& stub) {
     return impl.typeName(stub).compare(0, 6, "TABLE:") == 0;
 }
 
+void setCount(DxfTagList& tableHead, std::ptrdiff_t count) {
+    const std::size_t place = tableHead.find(70);
+    if (place != DxfTagList::npos)
+        tableHead.replace(place, dxfText(static_cast<std::int64_t>(count)));
+}
+
 bool isTableRecord(const OdDbDatabaseImpl& impl, const OdDbStub& stub) {
     return stub.owner && isTableHead(impl, *stub.owner);
 }
@@ -283,9 +289,7 @@ void OdDbDrawingWriter::emitTableHead(OdDbStub& stub) {
     const OdDbTableContent& table = headed->second;
     const auto alive = std::count_if(table.entries.begin(), table.entries.end(),
                                      [](const OdDbStub* entry) { return !entry->has(OdDbStub::kErased); });
-    const std::size_t count = tags.find(70);
-    if (count != DxfTagList::npos)
-        tags.replace(count, dxfText(static_cast<std::int64_t>(alive)));
+    setCount(tags, alive);
     emitOwned(tags.bytes());
 }
 
@@ -320,7 +324,9 @@ void OdDbDrawingWriter::emitMissingTables() {
     for (const auto& [name, records] : missing) {
         if (name.compare(0, 6, "TABLE:") != 0)
             continue;
-        emitObject(*records.front()->owner);
+        DxfTagList head = handles.tagsOf(*records.front()->owner);
+        setCount(head, static_cast<std::ptrdiff_t>(records.size()));
+        emitOwned(head.bytes());
         for (OdDbStub* stub : records)
             emitObject(*stub);
         emitTag(0, "ENDTAB");
