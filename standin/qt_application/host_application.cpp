@@ -5,6 +5,7 @@
 #include "standin/sysvars/read_variable.h"
 
 #include <QThread>
+#include <QWidget>
 #include <cstdio>
 
 namespace standin {

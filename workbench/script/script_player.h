@@ -24,6 +24,8 @@ public:
     void start();
     // How long a line waits until the console or a window is ready for it.
     void setPatience(int milliseconds) { patience = milliseconds; }
+    // How long it rests between two looks at what the program waits for.
+    void setPace(int milliseconds) { timer.setInterval(milliseconds); }
     bool isAtEnd() const { return position == lines.size(); } // every line was taken
 
 signals:

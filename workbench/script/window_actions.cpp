@@ -1,7 +1,6 @@
 // One function for each word that a line with @ may begin with.
 #include "workbench/script/window_actions.h"
 
-#include "workbench/canvas/canvas.h"
 #include "workbench/script/widget_finder.h"
 
 #include <QAbstractButton>
@@ -108,8 +107,8 @@ Action key(const QString& argument) {
 
 Action screenshot(const QString& argument) {
     return [window = QPointer<QWidget>(activeWindowForScript()), file = argument + QStringLiteral(".png")] {
-        for (Canvas* canvas : window ? window->findChildren<Canvas*>() : QList<Canvas*>())
-            canvas->finishPicture();
+        for (QWidget* canvas : window ? window->findChildren<QWidget*>("canvas") : QList<QWidget*>())
+            QMetaObject::invokeMethod(canvas, "finishPicture");
         if (window && !window->grab().save(file))
             throw ScriptFault{tr("%1 can't be written").arg(file)};
     };
