@@ -19,6 +19,8 @@ const int shownSide = 1024;    // to which a larger one is scaled while it is re
 
 // What a file claims about its picture costs nothing until it is believed.
 QImage readPicture(const std::string& png) {
+    if (png.empty())
+        return {};
     QByteArray bytes = QByteArray::fromRawData(png.data(), static_cast<int>(png.size()));
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer, "PNG");
