@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPointer>
@@ -19,12 +20,13 @@ namespace {
 using Act = std::function<void()>;
 
 struct Dialog {
-    const char* command;
     const char* className;
-    bool asksForFile;
+    // Lines of a script that open it, the first one names the command. "OTHER" stands for a drawing that is
+    // not open.
+    std::vector<const char*> way;
 };
 
-std::ostream& operator<<(std::ostream& stream, const Dialog& dialog) { return stream << dialog.command; }
+std::ostream& operator<<(std::ostream& stream, const Dialog& dialog) { return stream << dialog.className; }
 
 [[noreturn]] void fail() { throw std::runtime_error("a slot that fails"); }
 
@@ -48,14 +50,20 @@ Act armed(QWidget* control) {
     if (auto* edit = qobject_cast<QLineEdit*>(control))
         return armed(edit, &QLineEdit::textChanged, [edit] { edit->setText(edit->text() + "1"); });
     if (auto* bar = qobject_cast<QTabBar*>(control))
-        return bar->count() > 1 ? armed(bar, &QTabBar::currentChanged, [bar] { bar->setCurrentIndex(1); })
-                                : nullptr;
+        return bar->count() > 1
+                   ? armed(bar, &QTabBar::currentChanged,
+                           [bar] { bar->setCurrentIndex((bar->currentIndex() + 1) % bar->count()); })
+                   : nullptr;
     if (auto* view = qobject_cast<QAbstractItemView*>(control))
         return armed(view, &QAbstractItemView::clicked, [view] { emit view->clicked({}); });
     return nullptr;
 }
 
 struct ThrowingSlots : DrawingFixture, testing::WithParamInterface<Dialog> {
+    ThrowingSlots() {
+        QFile::copy(path, other);
+        enter({"FILEDIA", "1", "-GROUP", "Create", "OTHER", "", "0,40", ""});
+    }
     static QWidget* dialog() {
         QWidget* const open = QApplication::activeModalWidget();
         return open && QString(open->metaObject()->className()).endsWith(GetParam().className) ? open
@@ -84,23 +92,33 @@ struct ThrowingSlots : DrawingFixture, testing::WithParamInterface<Dialog> {
                qobject_cast<const QAbstractItemView*>(control);
     }
     void open(const Act& whenOpen) {
-        if (GetParam().asksForFile)
-            play({[this] { submit("FILEDIA"); }, [this] { submit("1"); }});
-        std::vector<Act> steps{[this] { submit(GetParam().command); }};
-        if (GetParam().asksForFile)
-            steps.emplace_back([this] {
-                auto& box = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
-                box.findChild<QLineEdit*>("fileNameEdit")->setText(SHIPPED_DATA_DIR "/samples/house.dxf");
-                QMetaObject::invokeMethod(&box, "accept", Qt::QueuedConnection);
-            });
+        std::vector<Act> steps;
+        for (const char* line : GetParam().way)
+            steps.emplace_back([this, text = QString(line).replace("OTHER", other)] { give(text); });
         steps.push_back(whenOpen);
+        for (std::size_t i = 0; i < GetParam().way.size(); ++i) // what else is open
+            steps.emplace_back([] { workbench::cancelTopmost(); });
         play(std::move(steps));
+    }
+    // What is done to a window comes from its own loop, so that a dialog that opens then has a loop within
+    // it.
+    void give(const QString& line) {
+        if (auto* const files = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+            files->findChild<QLineEdit*>("fileNameEdit")->setText(line);
+            QMetaObject::invokeMethod(files, "accept", Qt::QueuedConnection);
+            return;
+        }
+        if (!line.startsWith('@'))
+            return submit(line);
+        const Act act = workbench::windowAction(line);
+        ASSERT_TRUE(act) << line.toStdString() << ": " << shown();
+        QTimer::singleShot(0, bench.get(), act);
     }
     // The slot is left while events of several kinds wait for the same loop.
     void throwFrom(int number) {
         delivered = 0;
         open([this, number] {
-            ASSERT_TRUE(dialog());
+            ASSERT_TRUE(dialog()) << shown();
             const QPointer<QWidget> control = controls().value(number);
             ASSERT_TRUE(control);
             name = QString("%1 %2").arg(control->metaObject()->className(), control->objectName());
@@ -113,6 +131,11 @@ struct ThrowingSlots : DrawingFixture, testing::WithParamInterface<Dialog> {
             act();
         });
     }
+    static std::string shown() {
+        const QWidget* const open = QApplication::activeModalWidget();
+        return open ? open->metaObject()->className() + std::string(" is open") : "no dialog is open";
+    }
+    const QString other = root.filePath("other.dxf");
     QString name;
     int delivered = 0;
 };
@@ -120,15 +143,15 @@ struct ThrowingSlots : DrawingFixture, testing::WithParamInterface<Dialog> {
 TEST_P(ThrowingSlots, EndTheDialogWithTheCommandsMessageAndNothingElse) {
     int count = 0;
     open([&] {
-        ASSERT_TRUE(dialog());
+        ASSERT_TRUE(dialog()) << shown();
         count = controls().size();
         workbench::cancelTopmost(); // the dialog of groups comes again after any other way out
     });
-    EXPECT_GT(count, 3);
+    EXPECT_GE(count, 2);
     for (int i = 0; i < count; ++i) {
         const int before = transcript().filter("a slot that fails").size();
         throwFrom(i);
-        EXPECT_EQ(transcript().filter(QString("%1: a slot that fails").arg(GetParam().command)).size(),
+        EXPECT_EQ(transcript().filter(QString("%1: a slot that fails").arg(GetParam().way.front())).size(),
                   before + 1)
             << name.toStdString() << '\n'
             << transcript().mid(transcript().size() - 4).join('\n').toStdString();
@@ -139,11 +162,22 @@ TEST_P(ThrowingSlots, EndTheDialogWithTheCommandsMessageAndNothingElse) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, ThrowingSlots,
-                         testing::Values(Dialog{"QPREF", "Preferences", false},
-                                         Dialog{"DWGPROPS", "dwgProps", false},
-                                         Dialog{"GROUP", "CGroupDlg", false},
-                                         Dialog{"XATTACH", "hostInsertExternalReferenceDialog", true}),
-                         [](const auto& tested) { return std::string(tested.param.command); });
+INSTANTIATE_TEST_SUITE_P(
+    Dialogs, ThrowingSlots,
+    testing::Values(
+        Dialog{"Preferences", {"QPREF"}}, Dialog{"dwgProps", {"DWGPROPS"}}, Dialog{"CGroupDlg", {"GROUP"}},
+        Dialog{"QFileDialog", {"XATTACH"}}, Dialog{"hostInsertExternalReferenceDialog", {"XATTACH", "OTHER"}},
+        Dialog{"CGroupReorderDlg", {"GROUP", "@click reorderButton"}},
+        Dialog{"CObjHighlightDlg", {"GROUP", "@click reorderButton", "@click highlightButton"}},
+        Dialog{"CGroupMemberDlg", {"GROUP", "@click findNameButton", "50,0"}},
+        Dialog{"AddDlg", {"DWGPROPS", "@click Custom", "@click addButton"}},
+        Dialog{"DirsDialog", {"QPREF", "@select Support files", "@click addButton"}},
+        Dialog{"QDialog", {"QPREF", "@select JPEG picture", "@click addButton"}},
+        Dialog{"ColorDialog",
+               {"QPREF", "@expand Display", "@expand Colours", "@click ColorCanvas", "@click ColorCanvas"}},
+        Dialog{"PaperDialog", {"QPREF", "@select A6 (105.00 x 148.00 mm)", "@click addButton"}},
+        Dialog{"QMessageBox", {"QPREF", "@select A6 (105.00 x 148.00 mm)", "@click deleteButton"}},
+        Dialog{"VersionsDialog", {"VERSIONS"}}),
+    [](const auto& tested) { return std::string(tested.param.className); });
 
 } // namespace
