@@ -24,6 +24,7 @@ TEST(UnitsLength, TextThatIsNoLengthIsRefused) {
 
 TEST(UnitsLength, FractionsAreRead) {
     EXPECT_EQ(lengthFromText("3/4", kDecimal), 0.75);
+    EXPECT_EQ(lengthFromText("3/1", kDecimal), 3);
     EXPECT_EQ(lengthFromText("1-3/4", kFractional), 1.75);
     EXPECT_EQ(lengthFromText("-1 1/2", kFractional), -1.5);
 }

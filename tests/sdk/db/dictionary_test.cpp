@@ -1,6 +1,8 @@
 // Dictionaries: names, order, erased entries.
 #include "tests/sdk/db/drawing_fixture.h"
 
+#include <functional>
+
 class Dictionaries : public DrawingTest {
 protected:
     std::vector<std::wstring> names(int order) {
@@ -79,4 +81,75 @@ TEST_F(Dictionaries, ManyEntriesStayQuick) {
     }
     EXPECT_EQ(groups->numEntries(), 5000u);
     EXPECT_TRUE(groups->has(L"g4999"));
+}
+
+// After each change the dictionary says what one says that is made anew of the same tags.
+class ChangedDictionary : public Dictionaries {
+protected:
+    void expectAsReadAnew(const char* after) {
+        const OdDbDatabasePtr again = OdDbDatabase::readBytes(database->writeBytes());
+        const auto read = groupsOf(*again), present = groupsOf(*database);
+        EXPECT_EQ(present->numEntries(), read->numEntries()) << after;
+        for (auto it = read->newIterator(); !it->done(); it->next()) {
+            const OdDbObjectId id = present->getAt(it->name());
+            EXPECT_EQ(id.getHandle(), it->objectId().getHandle()) << after;
+            EXPECT_EQ(present->nameAt(id), it->name()) << after;
+        }
+    }
+    void step(const char* what, const std::function<void(OdDbDictionary&)>& change) {
+        database->startUndoRecord();
+        change(*groupsOf(*database, OdDb::kForWrite));
+        expectAsReadAnew(what);
+        database->undo();
+        expectAsReadAnew((std::string("undone: ") + what).c_str());
+        database->redo();
+        expectAsReadAnew((std::string("done again: ") + what).c_str());
+    }
+};
+
+TEST_F(ChangedDictionary, KnowsItsEntriesThereAndBack) {
+    for (const wchar_t* name : {L"a", L"b", L"c", L"d"})
+        addGroup(*database, name, {});
+    expectAsReadAnew("added");
+    const auto add = [](const wchar_t* name) {
+        return [name](OdDbDictionary& groups) {
+            OdDbGroupPtr group(new OdDbGroup);
+            groups.setAt(name, group.get());
+        };
+    };
+    step("one at the end", add(L"e"));
+    step("two at the end", [&](OdDbDictionary& groups) {
+        add(L"f")(groups);
+        add(L"g")(groups);
+    });
+    step("renamed", [](OdDbDictionary& groups) { groups.setName(L"b", L"B2"); });
+    step("renamed in another case", [](OdDbDictionary& groups) { groups.setName(L"c", L"C"); });
+    step("the last one gone", [](OdDbDictionary& groups) { groups.remove(L"g"); });
+    step("the first one gone", [](OdDbDictionary& groups) { groups.remove(L"a"); });
+    step("one in the middle gone", [](OdDbDictionary& groups) { groups.remove(L"d"); });
+    step("gone and another one at the end", [&](OdDbDictionary& groups) {
+        groups.remove(L"f");
+        add(L"h")(groups);
+        groups.setName(L"h", L"i");
+    });
+    EXPECT_EQ(names(0), (Names{L"B2", L"C", L"e", L"i"}));
+}
+
+TEST_F(ChangedDictionary, OfAFileThatNamesAnObjectTwiceKnowsBothNames) {
+    const OdDbObjectId first = addGroup(*database, L"a", {});
+    addGroup(*database, L"b", {});
+    std::string text = database->writeBytes();
+    const std::string entry = "350\n" + first.getHandle().ascii().toUtf8() + "\n";
+    text.insert(text.find(entry) + entry.size(), "  3\ntwin\n" + entry);
+    const OdDbDatabasePtr read = OdDbDatabase::readBytes(text);
+    const auto groups = groupsOf(*read, OdDb::kForWrite);
+    EXPECT_EQ(groups->numEntries(), 3u);
+    groups->setName(L"twin", L"other");
+    EXPECT_TRUE(groups->has(L"other"));
+    EXPECT_TRUE(groups->has(L"a"));
+    EXPECT_EQ(groups->nameAt(groups->getAt(L"a")), OdString(L"a")) << "the first name is its name";
+    groups->remove(L"a");
+    EXPECT_FALSE(groups->has(L"a"));
+    EXPECT_TRUE(groups->has(L"other"));
+    EXPECT_EQ(groups->nameAt(groups->getAt(L"other")), OdString(L"other"));
 }

@@ -4,6 +4,7 @@
 #include "sdk/db/polyline.h"
 #include "sdk/db/text.h"
 
+#include <algorithm>
 #include <cmath>
 
 TEST(Geometry, AnglesAboutAReferenceGoOnceAround) {
@@ -74,6 +75,13 @@ TEST_F(Boxes, ParagraphsAreReadWithoutTheirCodes) {
     EXPECT_EQ(text->plainText(), OdString(L"One\nTwo three \\ 1/2{x}"));
     text->setContents(OdString(std::wstring(1000, L'y')));
     EXPECT_EQ(text->contents().getLength(), 1000);
+    for (const int length : {249, 250, 251, 500, 501}) {
+        text->setContents(OdString(std::wstring(static_cast<std::size_t>(length), L'y')));
+        EXPECT_EQ(text->contents().getLength(), length);
+        const auto pieces = std::count_if(text->tags().begin(), text->tags().end(),
+                                          [](const DxfTag& tag) { return tag.code == 3; });
+        EXPECT_EQ(pieces, (length - 1) / 250) << length << " letters: 250 stand in each tag";
+    }
     text->setContents(L"short\nagain");
     EXPECT_EQ(text->contents(), OdString(L"short\\Pagain"));
 }

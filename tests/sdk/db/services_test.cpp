@@ -223,6 +223,35 @@ TEST_F(Variables, CoordinateSystemOfTheDrawing) {
     EXPECT_EQ(get_UCSORG(read.get()), OdGePoint3d(10, 20, 0));
 }
 
+TEST(VariablesOfOldFiles, HaveTheUsualCoordinateSystem) {
+    const OdDbDatabasePtr old = OdDbDatabase::readBytes("0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n");
+    EXPECT_EQ(get_UCSORG(old.get()), OdGePoint3d(0, 0, 0));
+    EXPECT_EQ(get_UCSXDIR(old.get()), OdGeVector3d(1, 0, 0));
+    EXPECT_EQ(get_UCSYDIR(old.get()), OdGeVector3d(0, 1, 0));
+    EXPECT_EQ(old->getINSUNITS(), OdDb::kUnitsUndefined);
+    old->setINSUNITS(OdDb::kUnitsMeters);
+    EXPECT_TRUE(old->isModified());
+    EXPECT_EQ(OdDbDatabase::readBytes(old->writeBytes())->getINSUNITS(), OdDb::kUnitsMeters);
+}
+
+TEST_F(Variables, AreSetInTheTypeThatTheyHave) {
+    const auto set = [this](const wchar_t* name, auto change) {
+        const OdResBufPtr value = database->getSysVar(name)->clone();
+        change(*value);
+        database->setSysVar(name, value.get());
+    };
+    set(L"LTSCALE", [](OdResBuf& value) { value.setDouble(2.5); });
+    set(L"ClAyEr", [](OdResBuf& value) { value.setString(L"Walls"); });
+    set(L"LUPREC", [](OdResBuf& value) { value.setInt16(6); });
+    EXPECT_TRUE(database->isModified());
+    const OdDbDatabasePtr read = OdDbDatabase::readBytes(database->writeBytes());
+    EXPECT_EQ(read->getSysVar(L"LTSCALE")->getDouble(), 2.5);
+    EXPECT_EQ(read->getSysVar(L"CLAYER")->getString(), OdString(L"Walls"));
+    EXPECT_EQ(read->getSysVar(L"LUPREC")->getInt16(), 6);
+    read->setSysVar(L"LTSCALE", database->getSysVar(L"LTSCALE").get());
+    EXPECT_FALSE(read->isModified()) << "the value that it has is no change";
+}
+
 TEST_F(Variables, EditingTimeCounts) {
     const double before = database->getTDINDWG().asJulianFraction();
     const auto start = std::chrono::steady_clock::now();

@@ -1,6 +1,9 @@
 // Texts in code pages and their escapes.
 #include "sdk/dxf/codec.h"
 
+#include "sdk/dxf/iconv_codec.h"
+
+#include <QTextCodec>
 #include <gtest/gtest.h>
 
 TEST(Codec, CodePagesOfOldFiles) {
@@ -69,6 +72,29 @@ TEST(Codec, APageOfTheCLibraryEscapesWhatItLacks) {
               L"b");
     const std::wstring much(1000, L'\ud55c');
     EXPECT_EQ(johab.decode(johab.encode(much)), OdString(much));
+}
+
+TEST(Codec, APageOfTheCLibraryCountsWhatItCannotConvert) {
+    QTextCodec* const johab = dxfIconvCodec("JOHAB");
+    ASSERT_NE(johab, nullptr);
+    EXPECT_EQ(dxfIconvCodec("JOHAB"), johab) << "it is made once";
+    EXPECT_EQ(dxfIconvCodec("no such page"), nullptr);
+    const auto faults = [johab](const QByteArray& bytes) {
+        QTextCodec::ConverterState state;
+        johab->toUnicode(bytes.constData(), bytes.size(), &state);
+        return state.invalidChars;
+    };
+    EXPECT_EQ(faults("abc"), 0);
+    EXPECT_EQ(faults("a\xFF"
+                     "b\xFF"),
+              2);
+    const auto lacked = [johab](const QString& text) {
+        QTextCodec::ConverterState state;
+        johab->fromUnicode(text.constData(), text.size(), &state);
+        return state.invalidChars;
+    };
+    EXPECT_EQ(lacked(QString::fromUtf8("\ud55c")), 0);
+    EXPECT_EQ(lacked(QString::fromUtf8("\u0e01\ud55c\u0e02")), 2);
 }
 
 TEST(Codec, UnknownPageIsReadAsWestern) {

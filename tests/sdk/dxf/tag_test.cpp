@@ -84,6 +84,60 @@ TEST(Tags, AFreeValueOfTheEmbeddedCodeEndsNothing) {
     EXPECT_EQ(tags.embedded().begin, tags.embedded().end);
 }
 
+TEST(Tags, ExtendedDataBeginWithTheCode1000) {
+    const DxfTagList tags = parse("  0\nX\n 70\n1\n999\nnote\n1000\ntext\n 70\n2\n");
+    EXPECT_EQ(tags.own().end, 3u);
+    EXPECT_EQ(tags.endOf("A"), 3u);
+    EXPECT_EQ(tags.subclass("A").end, 3u);
+    const DxfTagList embedded =
+        parse("  0\nX\n100\nA\n 70\n1\n101\nEmbedded Object\n 71\n3\n1000\ntext\n 71\n4\n");
+    EXPECT_EQ(embedded.own().end, 3u);
+    EXPECT_EQ(embedded.embedded().begin, 4u);
+    EXPECT_EQ(embedded.embedded().end, 5u);
+    EXPECT_EQ(embedded.subclass("A").end, 3u);
+}
+
+TEST(Tags, PointsAreReadAsFarAsTheyAreThere) {
+    const DxfTagList tags = parse("  0\nX\n 20\n9\n 30\n9\n 10\n1\n 10\n2\n 20\n3\n 10\n4\n 20\n5\n 30\n6\n");
+    const std::vector<OdGePoint3d> points = tags.points(tags.own(), 10);
+    EXPECT_EQ(points, (std::vector<OdGePoint3d>{{1, 0, 0}, {2, 3, 0}, {4, 5, 6}}));
+    EXPECT_EQ(tags.points({4, 6}, 10), (std::vector<OdGePoint3d>{{2, 3, 0}})) << "a part of the tags";
+    EXPECT_TRUE(tags.points(tags.own(), 11).empty());
+}
+
+TEST(Tags, BracesEndWhereTheyAreClosed) {
+    const DxfTagList tags = parse(
+        "  0\nX\n100\nA\n102\n{ONE\n 70\n1\n102\n}\n 70\n2\n102\n{TWO\n 71\n1\n102\n}\n100\nB\n 71\n3\n");
+    EXPECT_EQ(tags.integer("A", 70), 2);
+    EXPECT_EQ(tags.integer("A", 71), 3) << "of another part, since the own one has it in braces alone";
+    EXPECT_EQ(tags.find(102), 2u);
+    EXPECT_EQ(tags.find("A", 102), 4u) << "the opening ones are within their own braces";
+}
+
+TEST(Tags, ChangesOfAPartLeaveTheOthers) {
+    DxfTagList tags = parse("  0\nX\n100\nA\n 70\n1\n100\nB\n 70\n2\n");
+    tags.remove("B", 70);
+    EXPECT_EQ(tags.bytes(), "  0\nX\n100\nA\n 70\n1\n100\nB\n");
+    tags.remove("B", 99);
+    EXPECT_EQ(tags.size(), 4u);
+    tags.restyle(true);
+    EXPECT_EQ(tags.bytes(), "  0\r\nX\r\n100\r\nA\r\n 70\r\n1\r\n100\r\nB\r\n");
+    DxfTagList other = tags.part({0, 0});
+    other.append(8, "new");
+    other.append(9, "newer");
+    tags.exchange(1, 1, other);
+    ASSERT_EQ(tags.size(), 5u);
+    EXPECT_EQ(tags[1].value(), "new");
+    EXPECT_EQ(tags[2].value(), "newer");
+    EXPECT_EQ(tags[3].value(), "1");
+    ASSERT_EQ(other.size(), 1u);
+    EXPECT_EQ(other[0].value(), "A");
+    tags.exchange(1, 2, other);
+    ASSERT_EQ(tags.size(), 4u);
+    EXPECT_EQ(tags[1].value(), "A");
+    EXPECT_EQ(tags[2].value(), "1");
+}
+
 TEST(Tags, GroupsInBracesAreNotLookedInto) {
     const DxfTagList tags = parse("  0\nX\n102\n{REACTORS\n330\nAA\n102\n}\n330\nBB\n");
     EXPECT_EQ(tags[tags.find(330)].value(), "BB");
