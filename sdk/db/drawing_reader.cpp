@@ -262,9 +262,7 @@ void OdDbDrawingReader::leaveSection(OdDbStub& stub) {
         fail(record.start, L"a table without an end");
     if (openBlock)
         fail(record.start, L"a block without an end");
-    OdDbSection& section = impl.sections[sectionName];
-    if (!section.end)
-        section.end = &stub;
+    impl.sections[sectionName].end = &stub; // of a second one, where what is added comes last
     if (place == Place::Entities)
         noteOpenEnd(stub);
     place = Place::Outside;
