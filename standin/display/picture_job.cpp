@@ -158,8 +158,7 @@ std::vector<const Item*> PictureJob::itemsOf(const Band& band) const {
 
 void PictureJob::prepare(QPainter& painter, const Band& band) const {
     const QRect part(0, band.top, wanted.view.size().width(), band.bottom - band.top);
-    if (bands.size() > 1)
-        painter.setClipRect(part);
+    painter.setClipRect(part); // of one band, too: only a picture with a clip gets its lines quickly
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillRect(part, wanted.ground());
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
