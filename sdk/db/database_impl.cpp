@@ -4,6 +4,7 @@
 #include "sdk/db/class_registry.h"
 #include "sdk/db/handle_text.h"
 #include "sdk/db/symbol_table.h"
+#include "sdk/dxf/unfilled_tags.h"
 
 #include <QString>
 #include <algorithm>
@@ -58,6 +59,12 @@ private:
 };
 
 namespace {
+
+// Of a file: its tags come next.
+OdDbObjectPtr unfilled(const OdRxClass& itsClass) {
+    const DxfUnfilledTags tags;
+    return OdDbObjectPtr(static_cast<OdDbObject*>(itsClass.create().detach()), kOdRxObjAttach);
+}
 
 class EraseChange : public OdDbChange {
 public:
@@ -137,7 +144,7 @@ OdRxClass* OdDbDatabaseImpl::classOf(const OdDbStub& stub) const {
 
 OdDbObjectPtr OdDbDatabaseImpl::load(OdDbStub& stub) {
     if (!stub.object) {
-        OdDbObjectPtr made(static_cast<OdDbObject*>(classOf(stub)->create().detach()), kOdRxObjAttach);
+        OdDbObjectPtr made = unfilled(*classOf(stub));
         made->content = DxfTagList::parse(stub.bytes(), source, carriageReturns);
         made->ownStub = &stub;
         stub.object = made.get();

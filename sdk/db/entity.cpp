@@ -41,8 +41,9 @@ void OdDbEntity::startEntity(std::string_view name, std::string_view marker) {
 
 std::size_t OdDbEntity::commonTag(int code) const {
     const std::size_t found = content.find(kMarker, code);
-    const bool elsewhere = found != DxfTagList::npos && found >= content.endOf(kMarker);
-    return elsewhere && isOwnUse(content[0].value(), code) ? DxfTagList::npos : found;
+    if (found == DxfTagList::npos || !isOwnUse(content[0].value(), code))
+        return found;
+    return found >= content.endOf(kMarker) ? DxfTagList::npos : found;
 }
 
 std::int64_t OdDbEntity::commonInteger(int code, std::int64_t otherwise) const {

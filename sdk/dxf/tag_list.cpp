@@ -2,10 +2,14 @@
 #include "sdk/dxf/tag_list.h"
 
 #include "sdk/dxf/scanner.h"
+#include "sdk/dxf/unfilled_tags.h"
 
 #include <algorithm>
 
 namespace {
+
+thread_local bool staysUnfilled = false;
+
 constexpr int kSubclassMarker = 100;
 constexpr int kGroupBrace = 102;
 constexpr int kEmbeddedObject = 101;
@@ -17,6 +21,9 @@ bool isEmbeddedStart(const DxfTag& tag) {
 
 bool opensBraces(const DxfTag& tag) { return !tag.value().empty() && tag.value().front() == '{'; }
 } // namespace
+
+DxfUnfilledTags::DxfUnfilledTags() { staysUnfilled = true; }
+DxfUnfilledTags::~DxfUnfilledTags() { staysUnfilled = false; }
 
 DxfTagList DxfTagList::parse(std::string_view bytes, std::shared_ptr<const std::string> source,
                              bool carriageReturns) {
@@ -91,20 +98,27 @@ std::size_t DxfTagList::find(int code, Range range) const {
     return npos;
 }
 
+// In the part of the subclass, or else the first one anywhere in the own part; in one walk, since all that is
+// shown of an entity is found here.
 std::size_t DxfTagList::find(std::string_view subclassName, int code) const {
-    bool within = false, inBraces = false;
+    enum { Before, Within, Behind } place = Before;
+    bool inBraces = false;
+    std::size_t elsewhere = npos;
     for (std::size_t i = 0; i < tags.size(); ++i) {
         const DxfTag& tag = tags[i];
-        if (tag.code >= kExtendedData || isEmbeddedStart(tag) || (within && tag.code == kSubclassMarker))
+        if (tag.code >= kExtendedData || isEmbeddedStart(tag) || (place == Behind && elsewhere != npos))
             break;
-        if (tag.code == kSubclassMarker)
-            within = dxfTrimmed(tag.value()) == subclassName;
+        if (tag.code == kSubclassMarker && place != Behind)
+            place = place == Within ? Behind : dxfTrimmed(tag.value()) == subclassName ? Within : Before;
         if (tag.code == kGroupBrace)
             inBraces = opensBraces(tag);
-        if (within && !inBraces && tag.code == code)
+        if (tag.code != code || (inBraces && code != kGroupBrace))
+            continue;
+        if (place == Within && !inBraces)
             return i;
+        elsewhere = std::min(elsewhere, i);
     }
-    return find(code, own());
+    return elsewhere;
 }
 
 // From a tag that was found for the subclass to the end of the part that it lies in.
@@ -115,6 +129,8 @@ DxfTagList::Range DxfTagList::restOf(std::string_view subclassName, std::size_t 
 }
 
 void DxfTagList::insert(std::size_t position, int code, std::string_view value) {
+    if (staysUnfilled)
+        return;
     const DxfTag tag = makeTag(code, value);
     tags.insert(tags.begin() + static_cast<std::ptrdiff_t>(position), tag);
 }
