@@ -9,6 +9,7 @@
 #include "options/pages/pref_widget.h"
 #include "options/pages/raster_page.h"
 #include "options/pages/std_dirs_page.h"
+#include "options/profile_choice.h"
 #include "sdk/rx/color.h"
 
 #include <QComboBox>
@@ -140,6 +141,8 @@ void Preferences::applyChanges() {
         applyChildren(item);
     }
     saveExpandedSections();
+    if (profileChoice)
+        profileChoice->noteApplied();
 }
 
 void Preferences::applyChildren(TreeItem* item) {

@@ -9,6 +9,7 @@
 #include "options/option_keys.h"
 #include "options/pages/collapse_widget.h"
 #include "options/pages/searching_line_edit.h"
+#include "options/profile_choice.h"
 
 #include <QComboBox>
 #include <QHeaderView>
@@ -37,6 +38,8 @@ Preferences::Preferences(QWidget* parent, Qt::WindowFlags flags) : Preferences(U
     okButton->setDefault(true);
     focusAtStart();
     connectAll();
+    if (const Ref<IProfiles> profiles = appService<IProfiles>())
+        profileChoice = new ProfileChoice(*this, profiles);
 }
 
 // What acts on the tree goes before it, or the search box would reset a tree that is gone when the dialog,
@@ -107,7 +110,8 @@ void Preferences::buildProfileRow() {
     configurationValue->setStyleSheet(QStringLiteral("font-weight: bold;"));
     configurationValue->setText(configuration.isEmpty() ? tr("Default") : configuration);
 
-    // The list and the button show the profiles and no more: neither has a connection, and that is meant.
+    // Unless the host has profiles, the list and the button show them and no more: neither has a connection,
+    // and that is meant.
     profileButton = named(new QToolButton(this), "profileButton");
     profileButton->setIcon(treeIcon(kIconProfile));
     profileButton->setToolTip(tr("Profiles"));

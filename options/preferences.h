@@ -15,6 +15,7 @@
 class CollapseWidget;
 class IParam;
 class OptionKeys;
+class ProfileChoice;
 class QButtonGroup;
 class QComboBox;
 class QLabel;
@@ -149,7 +150,8 @@ private:
     void movePaperRow(TreeItem* item, int step);
     void moveRow(TreeItem* item, int step, QWidget* editor);
     void applyChildren(TreeItem* item);
-    OptionKeys* keys = nullptr; // null unless the host wants the focus to stay where it is
+    ProfileChoice* profileChoice = nullptr; // null unless the host has profiles
+    OptionKeys* keys = nullptr;             // null unless the host wants the focus to stay where it is
     QToolBar* toolBar = nullptr;
     QLabel* configurationLabel = nullptr;
     QLabel* configurationValue = nullptr;

@@ -1,4 +1,4 @@
-// The list of profiles beside the tree. It shows them and no more.
+// The list of profiles beside the tree, in a host whose profiles can only be shown.
 #include "options/preferences.h"
 
 #include "host/app.h"

@@ -4,6 +4,7 @@
 #include "host/text.h"
 #include "sdk/db/xref_man.h"
 #include "standin/documents/property_names.h"
+#include "standin/params/profiles.h"
 #include "standin/params/std_dirs.h"
 #include "standin/params/yaml_tree.h"
 #include "standin/references/attach_services.h"
@@ -86,8 +87,10 @@ Application::Application(const ApplicationSetup& setup)
     hub->add(config);
     hub->add(ioParams);
     hub->add(papers);
-    if (profile)
+    if (profile) {
         hub->add(profile);
+        hub->add(made(new Profiles(profile, setup.remembered)));
+    }
     hub->add(made(new AttachServices));
     hub->add(made(new GroupSelectionStep));
     hub->add(made(new GroupServices));

@@ -103,6 +103,28 @@ TEST_F(KeyboardTest, AnOptionIsSoughtChangedAndKept) {
     EXPECT_EQ(part<QWidget>("transcriptView")->font().pointSize(), 19);
 }
 
+TEST_F(KeyboardTest, AProfileIsChosenAndLeftAgain) {
+    const auto toolBarIsShown = [] {
+        int shown = 1;
+        readValue(openChild(appService<IProfile>().get(), "Workbench").get(), "ShowToolBar", &shown);
+        return shown != 0;
+    };
+    const auto chooseProfile = [](int key) {
+        tabTo("profileCombo");
+        press(key);
+        tabTo("cancelButton");
+        press(Qt::Key_Space);
+    };
+    play({[this] { submit("QPREF"); }, [&] { chooseProfile(Qt::Key_End); }});
+    part<QAction>("ShowToolBar")->trigger();
+    EXPECT_FALSE(toolBarIsShown());
+    play({[this] { submit("QPREF"); }, [&] { chooseProfile(Qt::Key_Home); }});
+    EXPECT_TRUE(toolBarIsShown());
+    EXPECT_TRUE(part<QWidget>("toolBar")->isVisible()) << "the window follows the profile";
+    play({[this] { submit("QPREF"); }, [&] { chooseProfile(Qt::Key_End); }});
+    EXPECT_FALSE(part<QWidget>("toolBar")->isVisible());
+}
+
 TEST_F(KeyboardTest, APropertyIsAddedChangedAndKept) {
     play({[this] { submit("DWGPROPS"); },
           [this] {
