@@ -78,7 +78,7 @@ void DirsDialog::onOkClicked() {
 bool DirsDialog::confirmMissing(const QString& text) {
     // Meant: "does not exists", as it stands.
     const QString question =
-        QStringLiteral("Path \"%1\" does not exists.\nAre you sure you want to use this value?").arg(text);
+        tr("Path \"%1\" does not exists.\nAre you sure you want to use this value?").arg(text);
     return QHostMessageBox::question(windowTitle(), question, EV_MB_YES | EV_MB_NO) == EV_MB_YES;
 }
 

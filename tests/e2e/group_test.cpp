@@ -265,3 +265,9 @@ TEST_F(GroupWorkbench, MenuOfARightClickOffersUngroupOnlyForOneWholeGroup) {
     EXPECT_FALSE(isOffered({id(desk)}));
     EXPECT_FALSE(isOffered({}));
 }
+
+TEST_F(GroupWorkbench, ACancelledListOfGroupsIsToldInWordsOfTheUser) {
+    play({[this] { submit("-GROUP"); }, [this] { submit("?"); }, [this] { bench->console().escape(); }});
+    EXPECT_TRUE(transcript().contains("No groups are listed: the question was cancelled."))
+        << transcript().join('\n').toStdString();
+}

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QTemporaryDir>
 #include <QTranslator>
+#include <array>
 #include <gtest/gtest.h>
 
 using standin::Catalogues;
@@ -74,6 +75,23 @@ TEST(Translation, ShippedEnglishCatalogueServesEveryLanguageAndGoesWithTheHost) 
         EXPECT_EQ(fileFilter(), "Drawings (*.dxf);;All files (*)") << qPrintable(language);
     }
     EXPECT_EQ(fileFilter(), "Drawing (*.dwg;)");
+}
+
+TEST(Translation, ShippedCatalogueWordsTheTextsOfTheJobsWell) {
+    const std::array<const char*, 3> wordings[] = {
+        {"CustomTab", "The name,%1, is already in use.\nYou will need to enter a different name.",
+         "There is a property with the name \"%1\" already.\nChoose another name."},
+        {"CustomTab", "This name must be at least one char long.",
+         "The name needs at least one character that is no blank."},
+        {"DirsDialog", "Path \"%1\" does not exists.\nAre you sure you want to use this value?",
+         "The folder \"%1\" does not exist.\nUse it all the same?"},
+        {"QObject", "Pick a member of a group.", "Pick a member of a group"},
+        {"QObject", "[HelpGroupName] getInputText() returned false or canceled.",
+         "No groups are listed: the question was cancelled."}};
+    Catalogues catalogues;
+    catalogues.load(SHIPPED_CATALOGUES, "C");
+    for (const auto& [context, source, wording] : wordings)
+        EXPECT_EQ(QCoreApplication::translate(context, source), QString(wording)) << source;
 }
 
 TEST(Translation, HostFunctionIsFreeAgainAfterwards) {
