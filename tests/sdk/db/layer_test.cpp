@@ -75,3 +75,14 @@ TEST_F(Layers, OwnNameInAnotherSpellingIsTaken) {
     rename(layer, L"WALLS");
     EXPECT_EQ(layerOf(line), OdString(L"WALLS"));
 }
+
+TEST_F(Layers, RenamingOpensNothingForGood) {
+    const OdDbObjectId layer = addLayer(L"Walls");
+    const auto closed = odrxCast<OdDbEntity>(addLineOn(L"Walls").safeOpenObject());
+    const auto open = odrxCast<OdDbEntity>(addLineOn(L"Walls").safeOpenObject(OdDb::kForWrite));
+    closed->downgradeOpen();
+    rename(layer, L"Doors");
+    EXPECT_EQ(closed->layer(), OdString(L"Doors"));
+    EXPECT_FALSE(closed->isWriteEnabled());
+    EXPECT_TRUE(open->isWriteEnabled());
+}

@@ -93,6 +93,29 @@ TEST(Dates, LocalAndUniversalTimeAreEachOthersReverse) {
     EXPECT_EQ(date, OdTimeStamp(2460377, 61200000));
 }
 
+TEST(Dates, OfNowAreThoseOfTheirClock) {
+    const TimeZone east("EAST-9");
+    const double universal = OdTimeStamp(OdTimeStamp::kInitUniversalTime).asJulianFraction();
+    const double local = OdTimeStamp(OdTimeStamp::kInitLocalTime).asJulianFraction();
+    EXPECT_NEAR(local - universal, 9 / 24.0, 1e-3);
+    OdTimeStamp converted(OdTimeStamp::kInitUniversalTime);
+    converted.universalToLocal();
+    EXPECT_NEAR(converted.asJulianFraction(), local, 1e-3);
+}
+
+TEST(Dates, OfANewDrawingAreThoseOfItsMaking) {
+    const TimeZone east("EAST-9");
+    const OdDbDatabasePtr made = OdDbDatabase::createEmpty();
+    const double universal = OdTimeStamp(OdTimeStamp::kInitUniversalTime).asJulianFraction();
+    for (const auto& [name, hours] :
+         {std::pair(L"TDCREATE", 9), {L"TDUPDATE", 9}, {L"TDUCREATE", 0}, {L"TDUUPDATE", 0}})
+        EXPECT_NEAR(made->getSysVar(name)->getDouble(), universal + hours / 24.0, 1e-3) << hours;
+    EXPECT_NEAR(made->getTDCREATE().asJulianFraction(), universal + 9 / 24.0, 1e-3);
+    EXPECT_NEAR(made->getTDUPDATE().asJulianFraction(), universal + 9 / 24.0, 1e-3);
+    EXPECT_NEAR(made->getTDINDWG().asJulianFraction(), 0, 1e-3);
+    EXPECT_FALSE(made->isModified());
+}
+
 TEST(NamePatterns, WildcardsIgnoreCase) {
     EXPECT_TRUE(odutWcMatchNoCase(L"Walls", L"*"));
     EXPECT_TRUE(odutWcMatchNoCase(L"", L"*"));

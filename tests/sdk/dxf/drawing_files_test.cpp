@@ -190,6 +190,20 @@ TEST(DrawingFiles, ChangeByAnotherProgramIsTold) {
     EXPECT_TRUE(theirs->isFileChangedByOthers());
 }
 
+TEST(DrawingFiles, AnotherNameIsAnotherFile) {
+    QTemporaryDir folder;
+    OdDbDatabase::createEmpty()->writeFile(pathIn(folder));
+    const OdDbDatabasePtr mine = OdDbDatabase::readFile(pathIn(folder));
+    const OdDbDatabasePtr theirs = OdDbDatabase::readFile(pathIn(folder));
+    addLineTo(*theirs);
+    theirs->writeFile(pathIn(folder));
+    mine->setFilename(pathIn(folder));
+    EXPECT_TRUE(mine->isFileChangedByOthers()) << "the name is the same";
+    mine->setFilename(OdString(L"elsewhere.dxf"));
+    mine->setFilename(pathIn(folder));
+    EXPECT_FALSE(mine->isFileChangedByOthers()) << "what lay under the former name is forgotten";
+}
+
 TEST(DrawingFiles, FileThatIsGoneOrWasNeverThereIsNoChange) {
     QTemporaryDir folder;
     const OdDbDatabasePtr database = OdDbDatabase::createEmpty();

@@ -1,5 +1,7 @@
 // What other readers read is read here, too, with a notice that names the line.
 #include "tests/sdk/dxf/drawing_texts.h"
+
+#include "sdk/dxf/line_ends.h"
 #include "tests/sdk/dxf/reading_contract.h"
 
 #include "sdk/dxf/number_check.h"
@@ -69,6 +71,15 @@ TEST(LenientReading, LinesMayEndWithACarriageReturnAlone) {
         }
         EXPECT_EQ(database->writeBytes(), withLineEnds(usual->writeBytes(), "\r"));
     }
+}
+
+TEST(LenientReading, ACarriageReturnAloneAtTheFirstLineIsKnown) {
+    EXPECT_FALSE(dxfHasLoneReturns(""));
+    EXPECT_FALSE(dxfHasLoneReturns("a\nb\r\nc"));
+    EXPECT_TRUE(dxfHasLoneReturns("\ra"));
+    EXPECT_TRUE(dxfHasLoneReturns("a\rb"));
+    EXPECT_TRUE(dxfHasLoneReturns("a\r"));
+    EXPECT_TRUE(dxfHasLoneReturns(std::string_view("a\r\n", 2))) << "nothing behind the end is looked at";
 }
 
 TEST(LenientReading, OtherLineEndsAmongCarriageReturnsStay) {
