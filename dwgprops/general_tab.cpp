@@ -22,6 +22,12 @@ QGridLayout& newGrid(QVBoxLayout& column) {
     return *grid;
 }
 
+// From one provider, which keeps its icons: each new one would leave its pixels among those that Qt keeps.
+QIcon fileIcon(const QFileInfo& fileInfo) {
+    static const QFileIconProvider provider;
+    return provider.icon(fileInfo);
+}
+
 } // namespace
 
 GeneralTab::GeneralTab(const QFileInfo& fileInfo) {
@@ -55,7 +61,7 @@ void GeneralTab::addName(QGridLayout& grid, const QFileInfo& fileInfo) {
     if (fileInfo.fileName().isEmpty())
         picture.fill(Qt::transparent);
     else
-        picture = QFileIconProvider().icon(fileInfo).pixmap(32, 32);
+        picture = fileIcon(fileInfo).pixmap(32, 32);
     auto* const iconLabel = new QLabel(this);
     iconLabel->setObjectName(QStringLiteral("iconLabel"));
     iconLabel->setPixmap(picture);

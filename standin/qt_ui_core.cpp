@@ -35,6 +35,12 @@ QPixmap faded(const QPixmap& source) {
     return result;
 }
 
+QIcon withFaded(QIcon icon) {
+    for (const QSize& size : icon.availableSizes())
+        icon.addPixmap(faded(icon.pixmap(size)), QIcon::Disabled);
+    return icon;
+}
+
 } // namespace
 
 namespace host_qt_ui_core {
@@ -71,13 +77,13 @@ void QHostComboBox::wheelEvent(QWheelEvent* event) {
         QComboBox::wheelEvent(event);
 }
 
+// Once for each path: the pixels that Qt keeps of an icon stay when the icon is gone.
 QIcon createHostDisableIcon(const QString& path) {
+    static QHash<QString, QIcon> made;
     if (!QFile::exists(path))
         return {};
-    QIcon icon(path);
-    for (const QSize& size : icon.availableSizes())
-        icon.addPixmap(faded(icon.pixmap(size)), QIcon::Disabled);
-    return icon;
+    const auto found = made.constFind(path);
+    return found != made.constEnd() ? *found : *made.insert(path, withFaded(QIcon(path)));
 }
 
 } // namespace host_qt_ui_core
