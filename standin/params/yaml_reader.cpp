@@ -227,7 +227,7 @@ bool TreeBuilder::takeScalarAsNameOrItem(const YAML::Mark& mark, const std::stri
     else if (frame.name)
         return false;
     else if (!valueIsDropped())
-        frame.name = QString::fromStdString(text).toLocal8Bit().toStdString();
+        frame.name = localFromUtf8(text);
     return true;
 }
 

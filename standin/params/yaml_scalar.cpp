@@ -62,15 +62,22 @@ CKWVariant integerVariant(std::int64_t value) {
     return variant;
 }
 
+// Qt leaves out a byte order mark at the beginning, which belongs to a name or a text as any other character.
+QString wholeTextOf(const std::string& utf8) { return QString::fromStdString(' ' + utf8).mid(1); }
+QString wholeTextOfWide(const wchar_t* text) {
+    return QString::fromStdWString(L' ' + std::wstring(text)).mid(1);
+}
+QString wholeTextOfLocal(const char* bytes) {
+    return QString::fromLocal8Bit((' ' + std::string(bytes)).c_str()).mid(1);
+}
+
 template <class T> CKWVariant made(const T& value) {
     CKWVariant variant;
     variant = value;
     return variant;
 }
 
-CKWVariant textVariant(const std::string& utf8) {
-    return made(QString::fromStdString(utf8).toLocal8Bit().constData());
-}
+CKWVariant textVariant(const std::string& utf8) { return made(localFromUtf8(utf8).c_str()); }
 
 std::string numberText(double value) {
     if (std::isnan(value))
@@ -108,7 +115,7 @@ std::string quoted(const std::string& utf8) {
 
 // Bytes that are no text of the local code page keep their values in hexadecimal digits.
 std::string localTextToYaml(const char* bytes) {
-    const QString text = QString::fromLocal8Bit(bytes);
+    const QString text = wholeTextOfLocal(bytes);
     if (text.toLocal8Bit() == bytes)
         return quoted(text.toStdString());
     return std::string(bytesTag) + " \"" + QByteArray(bytes).toHex().toStdString() + '"';
@@ -120,9 +127,11 @@ std::string pairToYaml(const char* tag, const std::string& first, const std::str
 
 } // namespace
 
+std::string localFromUtf8(const std::string& utf8) { return wholeTextOf(utf8).toLocal8Bit().toStdString(); }
+
 std::optional<CKWVariant> scalarFromYaml(const std::string& tag, const std::string& text) {
     if (tag == wideTag)
-        return made(QString::fromStdString(text).toStdWString().c_str());
+        return made(wholeTextOf(text).toStdWString().c_str());
     if (tag == bytesTag)
         return made(QByteArray::fromHex(QByteArray::fromStdString(text)).constData());
     if (tag == "!")
@@ -162,7 +171,7 @@ std::optional<std::string> valueToYaml(const CKWVariant& value) {
     case kVtString:
         return localTextToYaml(value.text);
     case kVtWideString:
-        return std::string(wideTag) + ' ' + quoted(QString::fromWCharArray(value.wideText).toStdString());
+        return std::string(wideTag) + ' ' + quoted(wholeTextOfWide(value.wideText).toStdString());
     case kVtSize:
         return pairToYaml(sizeTag, std::to_string(value.size.cx), std::to_string(value.size.cy));
     case kVtRSize:
@@ -181,7 +190,7 @@ std::string nameToYaml(const std::string& name) {
     const bool plain = !name.empty() && !(name[0] >= '0' && name[0] <= '9') &&
                        std::all_of(name.begin(), name.end(), isWordCharacter) && name.size() < 100;
     const bool isNull = name == "null" || name == "Null" || name == "NULL";
-    return plain && !isNull ? name : quoted(QString::fromLocal8Bit(name.c_str()).toStdString());
+    return plain && !isNull ? name : quoted(wholeTextOfLocal(name.c_str()).toStdString());
 }
 
 } // namespace standin

@@ -17,6 +17,8 @@ bool isListTag(const std::string& tag);
 
 // Nothing for a variant that has no file form.
 std::optional<std::string> valueToYaml(const CKWVariant& value);
+// A name or text of a file in the local code page.
+std::string localFromUtf8(const std::string& utf8);
 // A name, in quotes unless it is a plain word.
 std::string nameToYaml(const std::string& name);
 

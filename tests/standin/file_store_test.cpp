@@ -1,5 +1,6 @@
 // Stores in files: what reaches the disk, and what happens when the disk or the file is not as it should be.
 #include "tests/standin/file_store_fixture.h"
+#include "tests/support/memory_bound.h"
 #include "tests/support/poll.h"
 
 #include <csignal>
@@ -177,6 +178,7 @@ TEST_F(FileStoreTest, WhatIsNoRegularFileIsToldAndNeverWaitedFor) {
 TEST_F(FileStoreTest, AFileOfGigabytesIsToldAndNotRead) {
     writeUser("A: 7\n");
     ASSERT_TRUE(QFile::resize(files.user, qint64(1) << 33));
+    const MemoryBound bound(100);
     EXPECT_EQ(start()->value("A"), 1);
     ASSERT_EQ(problems.size(), 1);
     EXPECT_TRUE(problems[0].endsWith("cannot be read: it is larger than 16 MB")) << problems[0].toStdString();

@@ -1,5 +1,6 @@
 // External references: definitions, loading, nesting, cycles and the graph.
 #include "tests/sdk/db/drawing_fixture.h"
+#include "tests/support/memory_bound.h"
 
 #include "sdk/db/block_reference.h"
 #include "sdk/db/file_dependency.h"
@@ -242,6 +243,7 @@ TEST_F(References, ADrawingThatManyReferToIsReadOnce) {
                                                    false);
         drawing->writeFile(pathOf((std::to_string(i) + ".dxf").c_str()));
     }
+    const MemoryBound bound(200);
     const OdDbDatabasePtr host = OdDbDatabase::readFile(pathOf("0.dxf"));
     EXPECT_TRUE(OdDbXRefMan::loadAll(host.get()).empty());
     const auto loadedAs = [](const OdDbDatabase& drawing, const wchar_t* name) {
