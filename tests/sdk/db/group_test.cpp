@@ -190,6 +190,41 @@ TEST_F(Groups, ErasedMembersCountAsAbsentUntilTheyComeBack) {
     EXPECT_EQ(openGroup(id)->numEntities(), 5u);
 }
 
+TEST_F(Groups, OfAFileThatSaysLittleTakeWhatIsSet) {
+    std::string text = database->writeBytes();
+    const std::string said = "300\n\n 70\n0\n 71\n1\n";
+    text.replace(text.find(said), said.size(), "");
+    const std::string last = "340\n" + lines[4].getHandle().ascii().toUtf8() + "\n";
+    text.insert(text.find(last) + last.size(), "1001\nACAD\n1070\n1\n");
+    const OdDbDatabasePtr read = OdDbDatabase::readBytes(text);
+    const auto group = odrxCast<OdDbGroup>(groupsOf(*read)->getAt(L"Walls", OdDb::kForWrite));
+    EXPECT_EQ(group->description(), OdString());
+    EXPECT_TRUE(group->isSelectable());
+    group->setDescription(L"North");
+    group->setSelectable(false);
+    EXPECT_EQ(group->description(), OdString(L"North"));
+    EXPECT_FALSE(group->isSelectable());
+    EXPECT_EQ(group->numEntities(), 5u);
+    const std::string tags = group->tags().bytes();
+    EXPECT_NE(tags.find(last + "300\nNorth\n 71\n0\n1001\nACAD\n1070\n1\n"), std::string::npos) << tags;
+}
+
+TEST_F(Groups, RemoveTheirMembersBeforeAnythingElseWasAsked) {
+    const OdDbDatabasePtr read = OdDbDatabase::readBytes(database->writeBytes());
+    const auto group = odrxCast<OdDbGroup>(groupsOf(*read)->getAt(L"Walls", OdDb::kForWrite));
+    group->remove(read->getOdDbObjectId(lines[0].getHandle()));
+    EXPECT_EQ(group->numEntities(), 4u);
+    const OdDbDatabasePtr again = OdDbDatabase::readBytes(database->writeBytes());
+    const auto other = odrxCast<OdDbGroup>(groupsOf(*again)->getAt(L"Walls", OdDb::kForWrite));
+    other->remove(OdDbObjectIdArray{again->getOdDbObjectId(lines[4].getHandle())});
+    EXPECT_EQ(other->numEntities(), 4u);
+    const OdDbDatabasePtr third = OdDbDatabase::readBytes(database->writeBytes());
+    const auto cleared = odrxCast<OdDbGroup>(groupsOf(*third)->getAt(L"Walls", OdDb::kForWrite));
+    cleared->clear();
+    EXPECT_EQ(cleared->numEntities(), 0u);
+    EXPECT_EQ(cleared->tags().bytes().find("340\n"), std::string::npos);
+}
+
 TEST_F(Groups, ErasedMembersAreNotWritten) {
     lines[1].safeOpenObject(OdDb::kForWrite)->erase(true);
     const OdDbDatabasePtr again = OdDbDatabase::readBytes(database->writeBytes());
