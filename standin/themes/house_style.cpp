@@ -62,6 +62,15 @@ void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     }
 }
 
+QIcon HouseStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
+                               const QWidget* widget) const {
+    const auto direction = option ? option->direction : QGuiApplication::layoutDirection();
+    QIcon& icon = icons[{picture, direction}];
+    if (icon.isNull())
+        icon = QProxyStyle::standardIcon(picture, option, widget);
+    return icon;
+}
+
 } // namespace standin
 
 #include "moc_house_style.cpp"

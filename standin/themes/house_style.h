@@ -1,7 +1,9 @@
 // The style of both themes of the house: the plain one of the toolkit, with outlines that can be seen.
 #pragma once
 
+#include <QIcon>
 #include <QProxyStyle>
+#include <map>
 
 namespace standin {
 
@@ -15,6 +17,12 @@ public:
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+    // The same icon each time: Qt keeps the pixels of each one in a store when the icon is gone.
+    QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
+                       const QWidget* widget) const override;
+
+private:
+    mutable std::map<std::pair<StandardPixmap, Qt::LayoutDirection>, QIcon> icons;
 };
 
 } // namespace standin

@@ -180,6 +180,21 @@ bool hasColorLike(const QImage& image, const QColor& wanted) {
     return false;
 }
 
+TEST_F(ThemesTest, ThePicturesOfTheStyleAreMadeOnceForEachDirectionOfReading) {
+    const HouseStyle house;
+    const std::unique_ptr<QStyle> plain(QStyleFactory::create(QStringLiteral("Fusion")));
+    QStyleOption right;
+    right.direction = Qt::RightToLeft;
+    const auto picture = [](const QStyle& style, const QStyleOption* option) {
+        return style.standardIcon(QStyle::SP_ArrowBack, option).pixmap(16).toImage();
+    };
+    EXPECT_EQ(picture(house, nullptr), picture(*plain, nullptr));
+    EXPECT_EQ(picture(house, &right), picture(*plain, &right));
+    EXPECT_NE(picture(house, nullptr), picture(house, &right));
+    EXPECT_EQ(house.standardIcon(QStyle::SP_ArrowBack, nullptr, nullptr).cacheKey(),
+              house.standardIcon(QStyle::SP_ArrowBack, nullptr, nullptr).cacheKey());
+}
+
 TEST_F(ThemesTest, FieldsHaveAnOutlineThatStandsOutAndTheRestIsAsPlain) {
     manager.setTheme(kThemeDark);
     HouseStyle house;
