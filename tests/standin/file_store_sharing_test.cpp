@@ -149,6 +149,24 @@ TEST_F(FileStoreSharing, OfManyValuesThatBothChangedTheFirstAreToldAndTheOthersC
         << problems[0].toStdString();
 }
 
+TEST_F(FileStoreSharing, OfTenValuesThatBothChangedAllAreTold) {
+    for (const int count : {10, 11}) {
+        const std::string section = "S" + std::to_string(count);
+        const auto first = start(), second = start();
+        for (int i = 0; i < count; ++i) {
+            first->setIn(section.c_str(), std::to_string(i).c_str(), 1);
+            second->setIn(section.c_str(), std::to_string(i).c_str(), 2);
+        }
+        ASSERT_TRUE(first->store.flush());
+        problems.clear();
+        ASSERT_TRUE(second->store.flush());
+        ASSERT_EQ(problems.size(), 1);
+        const QString end = QString::fromStdString("\n" + section + "/9: 1") +
+                            (count == 10 ? QString() : QStringLiteral("\n... and 1 more"));
+        EXPECT_TRUE(problems[0].endsWith(end)) << problems[0].toStdString();
+    }
+}
+
 TEST_F(FileStoreSharing, WhatProgramsRememberByThemselvesGivesWayUntold) {
     files.remembered = {"Window", "Place/Main"};
     const auto first = start(), second = start();
