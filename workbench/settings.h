@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QString>
+#include <tuple>
 
 namespace workbench {
 
@@ -14,6 +15,7 @@ struct CursorSettings {
     QColor color = Qt::white;
     int lineWidth = 1;
     int sizePercent = 5; // of the drawing area
+    auto values() const { return std::tie(colouring, color, lineWidth, sizePercent); }
 };
 
 struct Settings {
@@ -29,6 +31,14 @@ struct Settings {
     bool showToolBar = true, showStatusBar = true;
     bool restoreWindow = true;
     CursorSettings cursor;
+
+    auto values() const {
+        return std::tuple_cat(std::tie(theme, consoleFont, consoleFontSize, consoleText, consoleBack,
+                                       consoleLines, completeCommands, historyLines, canvasBack, rubberBand,
+                                       showToolBar, showStatusBar, restoreWindow),
+                              cursor.values());
+    }
+    bool operator==(const Settings& other) const { return values() == other.values(); }
 };
 
 // Sections "Workbench" and "Cursor"; what is missing or unusable has its default. A null profile is empty.

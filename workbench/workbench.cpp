@@ -14,7 +14,9 @@
 #include "standin/qt_application/host_application.h"
 #include "standin/references/reference_files.h"
 #include "standin/registry.h"
+#include "workbench/canvas/canvas.h"
 #include "workbench/canvas/preview_writer.h"
+#include "workbench/commands/canvas_menu.h"
 #include "workbench/commands/commands.h"
 #include "workbench/commands/drawing_commands.h"
 #include "workbench/commands/group_commands.h"
@@ -45,7 +47,7 @@ namespace workbench {
 
 namespace {
 
-const int themeCheckInterval = 50; // milliseconds
+const int settingsCheckInterval = 50; // milliseconds
 
 SysVarTable readVariables(const QString& dataDir, Console& console) {
     QStringList problems;
@@ -167,6 +169,7 @@ void Workbench::addCommands() {
     addXrefCommands(scope, *module);
     application->add(attachFilesFor(scope));
     addGroupCommands(scope, *module);
+    addCanvasMenu(scope, *module);
     addPlugInEntries(*mainWindow);
     addProgramCommands(scope);
     addHelpCommands(scope, *help, launch.guideFile);
@@ -174,11 +177,11 @@ void Workbench::addCommands() {
     addVariableCommands(scope);
     loop.refusal = [this] { return documents->currentOne() ? QString() : tr("No drawing is open."); };
     connect(&loop, &CommandLoop::commandEnded, this, &Workbench::applySettings);
-    // A dialog that applies a theme shows it at once; everything else waits for the end of the command.
-    connect(&loop, &CommandLoop::commandStarted, &themeCheck,
-            [this] { themeCheck.start(themeCheckInterval); });
-    connect(&loop, &CommandLoop::commandEnded, &themeCheck, &QTimer::stop);
-    connect(&themeCheck, &QTimer::timeout, this, &Workbench::applyTheme);
+    // What a dialog applies shows while it is still open.
+    connect(&loop, &CommandLoop::commandStarted, &settingsCheck,
+            [this] { settingsCheck.start(settingsCheckInterval); });
+    connect(&loop, &CommandLoop::commandEnded, &settingsCheck, &QTimer::stop);
+    connect(&settingsCheck, &QTimer::timeout, this, &Workbench::applyChangedSettings);
     connect(mainWindow.get(), &MainWindow::themeChosen, this, &Workbench::chooseTheme);
     connect(mainWindow.get(), &MainWindow::drawingChosen, this, &Workbench::openChosen);
     connect(mainWindow.get(), &MainWindow::partSwitched, this, [this](const QByteArray& option, bool shown) {
@@ -197,6 +200,7 @@ void Workbench::showOnScreen() {
     connect(documents.get(), &DocumentManager::documentRenamed, this, remember);
     progressDialog = std::make_unique<ProgressDialog>();
     dialogPlaces = std::make_unique<DialogPlaces>(*mainWindow);
+    dialogPlaces->shown = [this] { return mainWindow->drawingArea().placeOfMarks(); };
     const QRect area = mainWindow->screen()->availableGeometry();
     mainWindow->setGeometry(placeOver(area, mainWindow->size(), area));
 }
@@ -245,7 +249,13 @@ void Workbench::applyTheme() {
 
 void Workbench::applySettings() {
     applyTheme();
-    mainWindow->apply(readSettings(appService<IProfile>().get()));
+    appliedSettings = readSettings(appService<IProfile>().get());
+    mainWindow->apply(appliedSettings);
+}
+
+void Workbench::applyChangedSettings() {
+    if (!(readSettings(appService<IProfile>().get()) == appliedSettings))
+        applySettings();
 }
 
 void Workbench::start() {

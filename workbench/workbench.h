@@ -11,6 +11,7 @@
 #include "workbench/commands/file_questions.h"
 #include "workbench/settings.h"
 #include "workbench/window/problem_box.h"
+#include "workbench/window/wheel_guard.h"
 
 #include <QTimer>
 #include <memory>
@@ -64,6 +65,7 @@ private:
     void play();
     void endScript(const QString& problem);
     void applySettings();
+    void applyChangedSettings();
     void applyTheme();
     void chooseTheme(int theme);
     void printTranscript();
@@ -86,8 +88,10 @@ private:
     std::unique_ptr<PreviewWriter> previews;
     std::unique_ptr<ProgressDialog> progressDialog; // null when headless
     std::unique_ptr<DialogPlaces> dialogPlaces;     // likewise
+    WheelGuard wheelGuard;
     std::unique_ptr<ScriptPlayer> player;
-    QTimer themeCheck;     // runs while a command does
+    QTimer settingsCheck; // runs while a command does
+    Settings appliedSettings;
     int appliedTheme = -1; // the one that the profile held last
     bool scriptPlays = false;
     bool scriptFailed = false;

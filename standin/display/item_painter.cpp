@@ -20,6 +20,7 @@ const int mostWaiting = 4096;
 const double kNameBorder = 5;    // pixels around the name of a missing reference
 const double finestHatching = 3; // pixels between the lines of a pattern; below it they are a shade
 const int shadeAlpha = 70;
+const std::vector<double> ownDashes{8, -7}; // pixels, before the round ends of each dash
 const double mostCrossings = 3e6; // of borders with rows of pixels; filling takes longer with each of them
 
 bool isFlat(const QLineF& line) { return std::fabs(line.dx()) > std::fabs(line.dy()); }
@@ -46,6 +47,8 @@ ItemPainter::~ItemPainter() { flush(); }
 void ItemPainter::setPen(const QPen& pen) {
     flush();
     ownPen = pen;
+    ownPen.setStyle(Qt::SolidLine);
+    isDashed = pen.style() == Qt::DashLine;
     hasOwnPen = true;
 }
 
@@ -183,7 +186,9 @@ void ItemPainter::drawDot(const Shape& dot) {
 
 void ItemPainter::drawRun(const std::vector<QPointF>& points, const Dashes& dashes) {
     std::optional<Dasher> dasher;
-    if (dashes && !hasOwnPen)
+    if (isDashed)
+        dasher.emplace(ownDashes, 1);
+    else if (dashes && !hasOwnPen)
         dasher.emplace(*dashes, shownView.scale());
     QPointF last = shownView.toPixel(points.front());
     for (std::size_t i = 1; i < points.size(); ++i) {

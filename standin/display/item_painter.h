@@ -19,7 +19,8 @@ public:
     ItemPainter(const ItemPainter&) = delete;
     ItemPainter& operator=(const ItemPainter&) = delete;
 
-    // All shapes in one pen from now on, as for what is selected.
+    // All shapes in one pen from now on, as for what is selected. With Qt::DashLine the dashes run on along
+    // the pieces of a curve.
     void setPen(const QPen& pen);
     void draw(const Item& item);
     // Leaves out what lies outside of this part of the drawing.
@@ -57,7 +58,7 @@ private:
     Box inSight; // in the drawing
     PictureEnd end;
     QPen ownPen;
-    bool hasOwnPen = false;
+    bool hasOwnPen = false, isDashed = false;
     Ink current = kForeground;
     const std::atomic<bool>* isStopped = nullptr;
     int weight = 0;

@@ -1,5 +1,5 @@
-// What a tracker shows while its prompt is open: a picture of its objects that is painted once and then
-// moved, turned and stretched with the cursor.
+// What a tracker shows while its prompt is open: its objects, moved, turned and stretched with the cursor.
+// Few shapes are painted anew for each place and stay sharp; of many a picture is painted once and moved.
 #pragma once
 
 #include "host/tracker.h"
@@ -26,6 +26,8 @@ public:
     const OpenPrompt* prompt() const { return &shownPrompt; }
     void setCursor(const QPointF& point); // in the drawing
     void paint(QPainter& painter, const View& view, const QColor& foreground);
+    // What the objects cover when they stand where they were made; empty without any.
+    Box box() const;
 
     void addDrawable(OdRxObject* drawable, int, int, int, int) override;
     void removeDrawable(OdRxObject* drawable, int, int, int, int) override;
@@ -35,16 +37,18 @@ private:
         OdRxObject* object;
         QPointF anchor; // what follows the cursor
         Item item;
+        QPixmap picture; // of many shapes
+        View pictured;   // what it shows
+        double paintedScale = 0;
     };
     QTransform movement(const QPointF& anchor) const;
-    void paintPictures(const View& view, const QColor& foreground);
+    static void paintPicture(Drawable& drawable, const View& view, const QColor& foreground);
+    static void drawPicture(QPainter& painter, Drawable& drawable, const QTransform& moved, const View& view,
+                            const QColor& foreground);
 
     const OpenPrompt& shownPrompt;
     OdDbDatabasePtr drawing;
     std::vector<Drawable> drawables;
-    std::vector<QPixmap> pictures; // one for each drawable
-    std::vector<View> pictured;    // what they show
-    double paintedScale = 0;
     QPointF cursor;
 };
 

@@ -36,6 +36,7 @@ public:
     // The point under `pixel` stays where it is.
     void zoomAt(const QPointF& pixel, double factor);
     void setScale(double scale); // about the middle
+    void lookAt(const QPointF& point) { middle = point; }
     // Shows the box with a margin; a box without size is only put into the middle.
     void fit(const Box& box);
 

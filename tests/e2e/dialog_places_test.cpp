@@ -3,8 +3,13 @@
 
 #include "workbench/window/dialog_places.h"
 
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QSpinBox>
+#include <QVBoxLayout>
+#include <QWheelEvent>
 
 namespace {
 
@@ -29,6 +34,20 @@ TEST(PlaceOfADialog, IsCutToTheScreen) {
     const QRect place = placeOver({0, 0, 1366, 768}, {2000, 400}, screen);
     EXPECT_EQ(place, QRect(8, 184, 1350, 400));
     EXPECT_EQ(placeOver({0, 0, 1366, 768}, {400, 2000}, screen).height(), 768 - 40);
+}
+
+TEST(PlaceOfADialog, LeavesInSightWhatIsHighlighted) {
+    const QRect screen(0, 0, 1366, 768), place(500, 300, 300, 200);
+    EXPECT_EQ(workbench::placeBeside(QRect(), place, screen), place);
+    EXPECT_EQ(workbench::placeBeside({0, 0, 100, 100}, place, screen), place) << "nothing of it is covered";
+    for (const QRect& shown : {QRect(400, 200, 400, 400), QRect(800, 300, 560, 300),
+                               QRect(10, 350, 1340, 400), QRect(10, 10, 1340, 400)}) {
+        const QRect beside = workbench::placeBeside(shown, place, screen);
+        EXPECT_FALSE(beside.intersects(shown)) << shown.left() << ' ' << shown.top();
+        EXPECT_EQ(beside.size(), place.size());
+        EXPECT_TRUE(screen.contains(beside.adjusted(-8, -32, 8, 8)));
+    }
+    EXPECT_EQ(workbench::placeBeside(screen, place, screen), place) << "no side has room";
 }
 
 struct DialogPlacesTest : WorkbenchFixture {
@@ -57,6 +76,59 @@ TEST_F(DialogPlacesTest, ADialogThatIsTooLargeIsMadeToFit) {
     dialog.setMinimumSize(5000, 100);
     dialog.show();
     EXPECT_TRUE(screen().contains(dialog.geometry()));
+}
+
+TEST_F(DialogPlacesTest, ADialogThatNeedsMoreThanTheScreenScrollsToAllOfIt) {
+    QDialog dialog(bench->window());
+    dialog.setMinimumSize(300, 3000);
+    auto* layout = new QVBoxLayout(&dialog);
+    QPushButton* last = nullptr;
+    for (int i = 0; i < 40; ++i) {
+        last = new QPushButton(QString::number(i), &dialog);
+        last->setMinimumHeight(60);
+        layout->addWidget(last);
+    }
+    dialog.show();
+    EXPECT_TRUE(screen().contains(dialog.geometry()));
+    dialog.activateWindow();
+    ASSERT_TRUE(waitUntil([&] { return dialog.isActiveWindow(); }));
+    EXPECT_TRUE(last->visibleRegion().isEmpty());
+    last->setFocus();
+    EXPECT_TRUE(waitUntil([&] { return last->visibleRegion().boundingRect().height() == last->height(); }))
+        << "what has the focus is scrolled into sight";
+}
+
+TEST_F(DialogPlacesTest, TheWheelChangesNothingThatIsOnlyScrolledPast) {
+    QDialog dialog(bench->window());
+    auto* layout = new QVBoxLayout(&dialog);
+    auto* list = new QComboBox(&dialog);
+    list->addItems({"a", "b", "c"});
+    auto* number = new QSpinBox(&dialog);
+    auto* other = new QLineEdit(&dialog);
+    for (QWidget* each :
+         {static_cast<QWidget*>(list), static_cast<QWidget*>(number), static_cast<QWidget*>(other)})
+        layout->addWidget(each);
+    dialog.show();
+    const auto turn = [](QWidget* control) {
+        QWheelEvent event(QPointF(5, 5), control->mapToGlobal(QPoint(5, 5)), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(control, &event);
+    };
+    other->setFocus();
+    turn(list);
+    turn(number);
+    turn(number->findChild<QLineEdit*>());
+    EXPECT_EQ(list->currentIndex(), 0);
+    EXPECT_EQ(number->value(), 0);
+    number->setValue(5);
+    dialog.activateWindow();
+    ASSERT_TRUE(waitUntil([&] { return dialog.isActiveWindow(); }));
+    list->setFocus();
+    turn(list);
+    number->setFocus();
+    turn(number);
+    EXPECT_EQ(list->currentIndex(), 1) << "what has the focus follows the wheel";
+    EXPECT_EQ(number->value(), 4);
 }
 
 TEST_F(DialogPlacesTest, SizesAreRememberedForEachDialogOverARestart) {

@@ -4,11 +4,13 @@
 #include "host/style.h"
 #include "standin/documents/document_manager.h"
 #include "standin/params/profile_file.h"
+#include "workbench/canvas/canvas.h"
 
 #include <QDialog>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QToolBar>
 
 namespace {
@@ -121,6 +123,20 @@ TEST_F(WindowTest, ToolBarCanBeHidden) {
     EXPECT_TRUE(part<QToolBar>("toolBar")->isVisible());
     setOption("ShowToolBar", number(0));
     EXPECT_FALSE(part<QToolBar>("toolBar")->isVisible());
+}
+
+TEST_F(WindowTest, WhatADialogAppliesShowsWhileItIsOpen) {
+    play({[this] { submit("QPREF"); },
+          [this] {
+              const Ref<IParam> section = openChild(appService<IProfile>().get(), "Workbench", 1);
+              const CKWVariant off(0, kVtInt), size(20, kVtInt), red(0x0000ff, kVtInt);
+              section->setValue("ShowStatusBar", &off);
+              section->setValue("ConsoleFontSize", &size);
+              section->setValue("CanvasBackColor", &red);
+              EXPECT_TRUE(waitUntil([this] { return !bench->window()->statusBar()->isVisible(); }));
+              EXPECT_EQ(part<QPlainTextEdit>("transcriptView")->font().pointSize(), 20);
+              EXPECT_EQ(bench->window()->drawingArea().grab().toImage().pixelColor(2, 2), QColor(Qt::red));
+          }});
 }
 
 TEST_F(WindowTest, ToolBarHasIconsOfTheModule) {

@@ -21,11 +21,6 @@ namespace {
 
 const int smallestPickBox = 3; // pixels
 
-int pickBox() {
-    const OdResBufPtr value = readVariable(L"PICKBOX");
-    return std::max(smallestPickBox, value.isNull() ? 0 : int(value->getInt16()));
-}
-
 } // namespace
 
 Canvas::Canvas(Console& console, const CommandLoop& commandLoop, DocumentManager& documentManager,
@@ -127,6 +122,11 @@ void Canvas::forgetClosed() {
         it = std::find(open.begin(), open.end(), it->first) == open.end() ? sheets.erase(it) : std::next(it);
 }
 
+int Canvas::pickBox() {
+    const OdResBufPtr value = readVariable(L"PICKBOX");
+    return std::max(smallestPickBox, value.isNull() ? 0 : int(value->getInt16()));
+}
+
 OdDbObjectIdArray Canvas::objectsAt(const Sheet& shown, const OdGePoint3d& point) const {
     const double scale = shown.view().scale();
     const OdDbObjectId found = itemAt(shown.list, flat(point), pickBox() / scale, scale);
@@ -188,9 +188,22 @@ void Canvas::promptChanged() {
         tracked.reset();
     if (prompt && prompt->tracker && !tracked) {
         tracked = std::make_unique<TrackerPicture>(*prompt, sheet->document.database());
-        tracked->setCursor(sheet->view().toDrawing(cursorAt));
+        showWholeOf(*tracked);
+        const bool isHere = rect().contains(cursorAt);
+        tracked->setCursor(sheet->view().toDrawing(isHere ? cursorAt : rect().center()));
     }
     update();
+}
+
+// In an empty drawing nobody has chosen a view yet: the first thing to be placed is shown whole, with room
+// around it.
+void Canvas::showWholeOf(const TrackerPicture& picture) {
+    const Box box = picture.box();
+    sheet->list.refresh();
+    if (picture.prompt()->base || box.isEmpty() || !sheet->list.extents().isEmpty())
+        return;
+    sheet->change().fit(box);
+    sheet->change(true).zoomAt(QPointF(width() / 2.0, height() / 2.0), 0.5);
 }
 
 void Canvas::viewChanged() {
@@ -241,6 +254,21 @@ void Canvas::zoomTo(const OdDbObjectId& id) {
     if (const Item* item = sheet->list.find(id))
         sheet->change().fit(item->box);
     viewChanged();
+}
+
+QRect Canvas::placeOfMarks() const {
+    Box box;
+    if (sheet)
+        for (const OdDbObjectId& id : sheet->list.highlighted())
+            if (const Item* item = sheet->list.find(id))
+                box.add(item->box);
+    if (box.isEmpty())
+        return {};
+    const View& view = sheet->view();
+    const QRect place = QRectF(view.toPixel({box.left, box.top}), view.toPixel({box.right, box.bottom}))
+                            .intersected(QRectF(rect()))
+                            .toAlignedRect();
+    return place.translated(mapToGlobal({0, 0}));
 }
 
 void Canvas::escape() {

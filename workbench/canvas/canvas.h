@@ -44,7 +44,8 @@ public:
     // Waits until the picture that is shown is finished; while the view moves it is a rough one.
     Q_INVOKABLE void finishPicture();
     bool isPictureFinished() const;
-    void escape(); // gives up a window that is being drawn, else the selection
+    void escape();              // gives up a window that is being drawn, else the selection
+    QRect placeOfMarks() const; // on the screen, of what is highlighted; empty without any
     // What is shown of the drawing, up to date; null when it was never the current one.
     const standin::DisplayList* listOf(const OdDbDatabase& drawing);
     const standin::View* view() const { return sheet ? &sheet->view() : nullptr; }
@@ -88,6 +89,10 @@ private:
     void paintWindow(QPainter& painter, const QPointF& first, const QPointF& second) const;
     void paintWelcome(QPainter& painter) const;
     void paintCursor(QPainter& painter) const;
+    void paintPickBox(QPainter& painter, const QColor& color) const;
+    bool picksObjects() const; // a click takes what lies there
+    static int pickBox();      // pixels from the middle of the cursor to each side
+    void showWholeOf(const standin::TrackerPicture& picture);
 
     standin::Console& io;
     const standin::CommandLoop& loop;

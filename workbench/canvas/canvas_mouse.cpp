@@ -27,6 +27,11 @@ const OpenPrompt* Canvas::pointPrompt() const {
     return prompt && prompt->wantsPoint() && io.isWaiting() ? prompt : nullptr;
 }
 
+bool Canvas::picksObjects() const {
+    const OpenPrompt* prompt = pointPrompt();
+    return prompt ? prompt->picksObjects : !loop.isRunning() && !windowCorner;
+}
+
 OdGePoint3d Canvas::drawingPoint(const QPointF& pixel) const {
     const QPointF point = sheet->view().toDrawing(pixel);
     return {point.x(), point.y(), 0};

@@ -19,8 +19,9 @@ namespace {
 
 const QColor windowColor(0x3b, 0x8e, 0xea), crossingColor(0x3f, 0xb0, 0x5a);
 const QColor markColor(0x4d, 0xa3, 0xff); // of what is selected or highlighted
-const double markWidth = 2;
-const int washOpacity = 48; // of 255
+const double markWidth = 3;
+const std::size_t mostDashedMarks = 2000; // beyond them a mark is a dot among others anyway
+const int washOpacity = 48;               // of 255
 
 } // namespace
 
@@ -76,16 +77,16 @@ PictureOrder Canvas::marksOrder() {
     OdDbObjectIdArray selected;
     if (!selection.isNull())
         selection->objectIds(selected);
-    marks.setPen(QPen(markColor, markWidth, Qt::SolidLine, Qt::RoundCap));
+    const bool areFew = selected.size() + sheet->list.highlighted().size() <= mostDashedMarks;
+    marks.setPen(QPen(markColor, markWidth, areFew ? Qt::DashLine : Qt::SolidLine, Qt::RoundCap));
     return marks.orderOf(selected, sceneOrder());
 }
 
+// The objects of a prompt are shown at its start too, when nobody has moved the mouse over the drawing yet.
 void Canvas::paintPrompt(QPainter& painter, const OpenPrompt& prompt) {
-    if (!rect().contains(cursorAt))
-        return;
     if (tracked)
         tracked->paint(painter, sheet->view(), contrastOf(background));
-    if (!prompt.base)
+    if (!prompt.base || !rect().contains(cursorAt))
         return;
     const QPointF base = sheet->view().toPixel(flat(*prompt.base));
     if (prompt.rectangle)
@@ -135,6 +136,15 @@ void Canvas::paintCursor(QPainter& painter) const {
     painter.drawLine(cursorAt - QPoint(reach, 0), cursorAt + QPoint(reach, 0));
     painter.setPen(QPen(axes ? QColor(0x50, 0xc0, 0x50) : plain, cursorLook.lineWidth));
     painter.drawLine(cursorAt - QPoint(0, reach), cursorAt + QPoint(0, reach));
+    if (picksObjects())
+        paintPickBox(painter, plain);
+}
+
+// What lies within is picked by a click.
+void Canvas::paintPickBox(QPainter& painter, const QColor& color) const {
+    const int reach = pickBox();
+    painter.setPen(QPen(color, 1));
+    painter.drawRect(cursorAt.x() - reach, cursorAt.y() - reach, 2 * reach, 2 * reach);
 }
 
 } // namespace workbench

@@ -10,7 +10,6 @@
 #include "workbench/module_loader.h"
 
 #include <QCoreApplication>
-#include <QMenu>
 
 using namespace standin;
 
@@ -66,41 +65,6 @@ void run(const CommandScope& scope, const LoadedModule& module, const GroupComma
     scope.canvas.refresh();
 }
 
-// What a right click offers. The commands look at the selection themselves, once the menu is up.
-class GroupMenu : public QMenu {
-public:
-    GroupMenu(const CommandScope& commandScope, const LoadedModule& module)
-        : QMenu(&commandScope.canvas), console(commandScope.console) {
-        setObjectName(QStringLiteral("groupMenu"));
-        setAttribute(Qt::WA_DeleteOnClose);
-        for (const GroupCommand& entry : groupCommands) {
-            if (entry.startsSection)
-                addSeparator();
-            commands.push_back({actionFor(entry), module.command(entry.className)});
-        }
-    }
-    void showAt(const QPoint& place) {
-        popup(place);
-        for (const Offered& offered : commands)
-            offered.action->setEnabled(offered.command && offered.command->enableQuery() != 0);
-    }
-
-private:
-    struct Offered {
-        QAction* action;
-        Ref<ICmdProcess> command;
-    };
-    QAction* actionFor(const GroupCommand& entry) {
-        QAction* action = addAction(tr(entry.entry));
-        const QString name = QString::fromLatin1(entry.name);
-        action->setObjectName(name.toLower() + QStringLiteral("MenuAction"));
-        connect(action, &QAction::triggered, &console, [io = &console, name] { io->enterLine(name); });
-        return action;
-    }
-    Console& console;
-    std::vector<Offered> commands;
-};
-
 } // namespace
 
 void addGroupCommands(const CommandScope& scope, const LoadedModule& module) {
@@ -115,9 +79,14 @@ void addGroupCommands(const CommandScope& scope, const LoadedModule& module) {
                               {},
                               entry.startsSection});
     }
-    QObject::connect(
-        &scope.canvas, &Canvas::menuWanted, &scope.canvas,
-        [scope, &module](const QPoint& place) { (new GroupMenu(scope, module))->showAt(place); });
+}
+
+std::vector<OfferedGroupCommand> offeredGroupCommands(const LoadedModule& module) {
+    std::vector<OfferedGroupCommand> offered;
+    for (const GroupCommand& entry : groupCommands)
+        offered.push_back({QString::fromLatin1(entry.name), tr(entry.entry), entry.startsSection,
+                           module.command(entry.className)});
+    return offered;
 }
 
 } // namespace workbench

@@ -13,6 +13,8 @@
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
 #include <QWindow>
 
 namespace workbench {
@@ -21,6 +23,25 @@ namespace {
 
 const QMargins frameRoom(8, 32, 8, 8); // what a window manager puts around a window
 const char* const sectionName = "Dialogs";
+
+// All that the dialog holds goes into an area that scrolls.
+void makeScroll(QWidget& dialog) {
+    auto* area = new QScrollArea;
+    area->setObjectName(QStringLiteral("scrollArea"));
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    auto* body = new QWidget;
+    body->setLayout(dialog.layout());
+    area->setWidget(body);
+    auto* around = new QVBoxLayout(&dialog);
+    around->setContentsMargins(0, 0, 0, 0);
+    around->setSizeConstraint(QLayout::SetNoConstraint);
+    around->addWidget(area);
+    QObject::connect(qApp, &QApplication::focusChanged, area, [area](QWidget*, QWidget* now) {
+        if (now && area->isAncestorOf(now))
+            area->ensureWidgetVisible(now);
+    });
+}
 
 bool hasSizeOfItsOwn(const QDialog* dialog) {
     return qobject_cast<const QMessageBox*>(dialog) || qobject_cast<const QProgressDialog*>(dialog) ||
@@ -53,6 +74,20 @@ QRect placeOver(const QRect& below, QSize size, const QRect& area) {
     return place;
 }
 
+QRect placeBeside(const QRect& shown, const QRect& place, const QRect& area) {
+    const QRect free = area.marginsRemoved(frameRoom), hidden = shown & area;
+    const QRect around = place.marginsAdded(frameRoom);
+    if (!around.intersects(hidden))
+        return place;
+    for (const QPoint& corner : {QPoint(hidden.right() + 1 + frameRoom.left(), place.top()),
+                                 QPoint(hidden.left() - place.width() - frameRoom.right(), place.top()),
+                                 QPoint(place.left(), hidden.bottom() + 1 + frameRoom.top()),
+                                 QPoint(place.left(), hidden.top() - place.height() - frameRoom.bottom())})
+        if (const QRect beside(corner, place.size()); free.contains(beside))
+            return beside;
+    return place;
+}
+
 DialogPlaces::DialogPlaces(QMainWindow& mainWindow) : window(mainWindow) { qApp->installEventFilter(this); }
 
 DialogPlaces::~DialogPlaces() = default;
@@ -74,11 +109,17 @@ bool DialogPlaces::eventFilter(QObject* watched, QEvent* event) {
 void DialogPlaces::place(QWidget& dialog) {
     const QRect area = window.screen()->availableGeometry();
     const QSize room = area.marginsRemoved(frameRoom).size();
+    const QSize needed = dialog.minimumSizeHint().expandedTo(dialog.minimumSize());
+    if (dialog.layout() && needed.boundedTo(room) != needed && !dialog.findChild<QScrollArea*>("scrollArea"))
+        makeScroll(dialog);
     dialog.setMinimumSize(dialog.minimumSize().boundedTo(room));
     const QSize kept = hasSizeOfItsOwn(qobject_cast<QDialog*>(&dialog)) ? QSize() : rememberedSize(dialog);
-    const QSize wanted = kept.isValid() ? kept.expandedTo(dialog.minimumSize()) : dialog.size();
+    const QSize wanted = (kept.isValid() ? kept : dialog.size()).expandedTo(needed);
+    dialog.setMaximumSize(
+        dialog.maximumSize().expandedTo(needed)); // long texts need more than a size that is fixed
     const bool isPut = dialog.testAttribute(Qt::WA_Moved);
-    dialog.setGeometry(placeOver(isPut ? dialog.geometry() : window.geometry(), wanted, area));
+    const QRect over = placeOver(isPut ? dialog.geometry() : window.geometry(), wanted, area);
+    dialog.setGeometry(shown && !isPut ? placeBeside(shown(), over, area) : over);
     dialog.setAttribute(Qt::WA_Moved, isPut);
     if (dialog.windowHandle() && !dialog.windowHandle()->transientParent())
         dialog.windowHandle()->setTransientParent(window.windowHandle());

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QRect>
+#include <functional>
 
 class QMainWindow;
 
@@ -13,13 +14,20 @@ namespace workbench {
 // its frame lie within `area`.
 QRect placeOver(const QRect& below, QSize size, const QRect& area);
 
+// The same beside `shown`, which is not to be covered; `place` itself where it covers nothing of it, or where
+// no side has room.
+QRect placeBeside(const QRect& shown, const QRect& place, const QRect& area);
+
 // Watches every dialog of the application for its lifetime. Sizes are kept in the profile, by the name of the
-// dialog; boxes with a message, progress and the system's dialogs have the size of what they show.
+// dialog; boxes with a message, progress and the system's dialogs have the size of what they show. A dialog
+// that needs more than the screen has is made to scroll.
 class DialogPlaces : public QObject {
     Q_OBJECT
 public:
     explicit DialogPlaces(QMainWindow& mainWindow);
     ~DialogPlaces() override;
+
+    std::function<QRect()> shown; // on the screen; what dialogs leave in sight when there is room
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
