@@ -72,6 +72,7 @@ void CustomTab::layOut() {
     auto* const column = new QVBoxLayout(this);
     auto* const label = new QLabel(tr("Custom properties:"), this);
     label->setBuddy(table);
+    table->setAccessibleName(label->text());
     column->addWidget(label);
     column->addLayout(row);
 }

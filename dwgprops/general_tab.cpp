@@ -68,6 +68,7 @@ void GeneralTab::addName(QGridLayout& grid, const QFileInfo& fileInfo) {
     auto* const nameEdit = new m_LineEdit(fileInfo.fileName(), this);
     nameEdit->setObjectName(QStringLiteral("nameEdit"));
     nameEdit->setReadOnly(true);
+    nameEdit->setAccessibleName(tr("File name"));
     nameEdit->setToolTip(hostqt::plainToolTip(fileInfo.fileName()));
     grid.addWidget(iconLabel, 0, 0);
     grid.addWidget(nameEdit, 0, 1);

@@ -69,6 +69,7 @@ void HistoryTab::layOut() {
     auto* const column = new QVBoxLayout(this);
     auto* const label = new QLabel(tr("File versions:"), this);
     label->setBuddy(table);
+    table->setAccessibleName(label->text());
     column->addWidget(label);
     column->addWidget(table);
 }

@@ -35,6 +35,7 @@ QLabel* labelFor(QLineEdit* edit, const QString& text, QWidget* parent) {
 void CGroupDlg::build() {
     groupTable = named(new QTableWidget(this), "groupTable");
     group_dialogs::setUpTable(*groupTable, {QDialog::tr("Group name"), QDialog::tr("Selectable")});
+    groupTable->setAccessibleName(QDialog::tr("Group name"));
     buildIdentification();
     buildButtons();
     if (guided) {

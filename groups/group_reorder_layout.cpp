@@ -17,6 +17,7 @@ void CGroupReorderDlg::build() {
     groupTable = named(new QTableWidget(this), "groupTable");
     group_dialogs::setUpTable(*groupTable, {QDialog::tr("Group name")});
     groupTable->setFocusPolicy(hasHabit(DialogHabit::GuidedGroups) ? Qt::StrongFocus : Qt::NoFocus);
+    groupTable->setAccessibleName(QDialog::tr("Group name"));
     groupTable->setTabKeyNavigation(false);
     descriptionLabel = named(new QLabel(QDialog::tr("None"), this), "descriptionLabel");
     descriptionLabel->setTextFormat(Qt::PlainText);

@@ -58,6 +58,7 @@ void Preferences::build() {
     buildTree();
     description = named(new QTextEdit(this), "description");
     description->setReadOnly(true);
+    description->setAccessibleName(tr("Description"));
     profileCombo = named(new QComboBox(this), "profileCombo");
     cursorColorItem = nullptr;
     paperRootItem = nullptr;
@@ -72,6 +73,7 @@ void Preferences::build() {
 
 void Preferences::buildTree() {
     tree = named(new QTreeWidget(this), "tree");
+    tree->setAccessibleName(tr("Options"));
     tree->setHeaderHidden(true);
     tree->setColumnCount(1);
     tree->header()->setStretchLastSection(true);
@@ -99,6 +101,7 @@ QToolButton* Preferences::addTool(const char* name, int icon, const QString& too
     tool->setEnabled(false);
     tool->setIcon(toolIcon(icon));
     tool->setToolTip(toolTip);
+    tool->setAccessibleName(toolTip);
     toolBar->addWidget(tool);
     return tool;
 }
@@ -115,6 +118,7 @@ void Preferences::buildProfileRow() {
     profileButton = named(new QToolButton(this), "profileButton");
     profileButton->setIcon(treeIcon(kIconProfile));
     profileButton->setToolTip(tr("Profiles"));
+    profileButton->setAccessibleName(tr("Profiles"));
     profileLabel = named(new QLabel(tr("Current profile:"), this), "profileLabel");
     profileLabel->setBuddy(profileCombo);
 }
@@ -123,6 +127,7 @@ void Preferences::buildSearch() {
     searchEdit = named(
         new SearchingLineEdit(tree, description, this, QStringLiteral("green"), QStringLiteral("white")),
         "searchEdit");
+    searchEdit->setAccessibleName(tr("Search"));
     searchEdit->statusLabel->setParent(this); // until the layout takes it
     searchEdit->setClearIcon(treeIcon(kIconClear));
     collapseWidget = named(new CollapseWidget(tree, searchEdit, this), "collapseWidget");

@@ -60,6 +60,7 @@ QLayout* Preferences::layOutConfiguration() {
 
     configurationLabel->setWordWrap(true); // the column is narrow for large fonts and long names
     configurationValue->setWordWrap(true);
+    profileLabel->setWordWrap(true);
     auto* box = new QVBoxLayout;
     box->addWidget(configurationLabel);
     box->addWidget(configurationValue);

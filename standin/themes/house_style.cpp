@@ -2,6 +2,7 @@
 #include "standin/themes/house_style.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
 
@@ -9,7 +10,9 @@ namespace standin {
 
 namespace {
 
-const int kTextShare = 40;   // of an outline, in percent; the rest is the colour of fields
+const int kTextShare = 40; // of an outline, in percent; the rest is the colour of fields
+const int kFocusLightened = 130;
+const int kFocusInset = 3;   // pixels within the outline of a button
 const int kDarkenedBy = 140; // the plain style darkens the window's colour by this for an outline
 
 int blended(int text, int base) { return (text * kTextShare + base * (100 - kTextShare)) / 100; }
@@ -27,6 +30,19 @@ QPalette outlining(const QPalette& own) {
     palette.setCurrentColorGroup(own.currentColorGroup());
     palette.setColor(QPalette::Window, outlineColor(palette).lighter(kDarkenedBy));
     return palette;
+}
+
+// What the keys go to, once they are used.
+bool showsFocus(const QStyleOption& option) {
+    return (option.state & QStyle::State_HasFocus) && (option.state & QStyle::State_KeyboardFocusChange);
+}
+
+void drawFocus(QPainter& painter, const QRect& place, const QStyleOption& option) {
+    painter.save();
+    painter.setPen(option.palette.color(QPalette::Highlight).lighter(kFocusLightened));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(place.adjusted(0, 0, -1, -1));
+    painter.restore();
 }
 
 } // namespace
@@ -47,7 +63,18 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         QProxyStyle::drawPrimitive(element, &outlined, painter, widget);
     } else {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (element == PE_Frame && showsFocus(*option))
+            drawFocus(*painter, option->rect, *option);
     }
+}
+
+// The button that Enter presses has the outline of a focus anyway, so that the focus needs one of its own.
+void HouseStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (element == CE_PushButton && showsFocus(*option))
+        drawFocus(*painter, option->rect.adjusted(kFocusInset, kFocusInset, -kFocusInset, -kFocusInset),
+                  *option);
 }
 
 void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

@@ -54,6 +54,7 @@ void VersionsDialog::build() {
                  "without a name; the version itself stays as it is."));
     versionsTable = new QTableWidget(0, 3, this);
     versionsTable->setObjectName(QStringLiteral("versionsTable"));
+    versionsTable->setAccessibleName(tr("Versions"));
     versionsTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
     versionsTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     versionsTable->setSelectionMode(QAbstractItemView::SingleSelection);

@@ -34,6 +34,7 @@ ConsolePanel::~ConsolePanel() = default;
 void ConsolePanel::build() {
     transcriptView = new QPlainTextEdit(this);
     transcriptView->setObjectName(QStringLiteral("transcriptView"));
+    transcriptView->setAccessibleName(tr("Transcript"));
     transcriptView->setReadOnly(true);
     transcriptView->setFocusPolicy(Qt::ClickFocus);
     transcriptView->setFrameShape(QFrame::NoFrame);
@@ -47,6 +48,7 @@ void ConsolePanel::build() {
     promptLabel->setMinimumWidth(1); // a long prompt is cut and never makes the window wider
     promptLabel->setForegroundRole(QPalette::Text);
     commandLine = new ConsoleLine(inputRow);
+    commandLine->setAccessibleName(tr("Command line"));
     commandLine->setMinimumWidth(leastTyped);
     commandLine->completions = [this](const QString& beginning) {
         return io.openPrompt() ? QStringList() : loop.completions(beginning);

@@ -1,0 +1,210 @@
+// What a user needs who reads the window by other means than its picture, or with long texts: names and
+// roles, focus that is seen, contrast, texts that are not cut.
+#include "tests/e2e/workbench_fixture.h"
+
+#include "host/style.h"
+#include "standin/documents/document_manager.h"
+#include "standin/themes/palettes.h"
+#include "standin/themes/style_manager.h"
+#include "workbench/window/main_window.h"
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QSpinBox>
+#include <QTabBar>
+#include <QToolBar>
+#include <QTranslator>
+
+namespace {
+
+// Every text a third longer, as in other languages.
+class LongTexts : public QTranslator {
+public:
+    QString translate(const char*, const char* text, const char*, int) const override {
+        const QString source = QString::fromUtf8(text);
+        const bool isWords =
+            source.size() > 1 && source.at(0).isLetter() && !source.contains('%') && !source.contains('<');
+        return isWords ? source + QString((source.size() + 2) / 3, 'm') : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+bool isControl(const QWidget* widget) {
+    return qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
+           qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractSpinBox*>(widget) ||
+           qobject_cast<const QAbstractItemView*>(widget) || qobject_cast<const QPlainTextEdit*>(widget) ||
+           qobject_cast<const QTextEdit*>(widget);
+}
+
+// The parts that a control is made of belong to it.
+bool isPart(const QWidget* widget) {
+    const QWidget* const parent = widget->parentWidget();
+    return widget->objectName().startsWith("qt_") || qobject_cast<const QComboBox*>(parent) ||
+           qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QLineEdit*>(parent) ||
+           qobject_cast<const QTabBar*>(parent) || qobject_cast<const QAbstractItemView*>(parent) ||
+           (parent && parent->inherits("QMainWindow") && widget->inherits("QToolBarExtension")) ||
+           widget->inherits("QToolBarExtension");
+}
+
+std::string described(const QWidget* widget) {
+    return std::string(widget->metaObject()->className()) + " " + widget->objectName().toStdString();
+}
+
+struct AccessibleTest : WorkbenchFixture {
+    static QList<QWidget*> controlsOf(QWidget& window) {
+        QList<QWidget*> found;
+        for (QWidget* const widget : window.findChildren<QWidget*>())
+            if (widget->isVisible() && isControl(widget) && !isPart(widget))
+                found << widget;
+        return found;
+    }
+    // Each dialog with each of its tabs in front.
+    void inEachWindow(const std::function<void(QWidget&)>& look) {
+        look(*bench->window());
+        for (const char* command : {"QPREF", "DWGPROPS", "GROUP", "VERSIONS"})
+            play({[this, command] { submit(command); },
+                  [&, command] {
+                      QWidget* dialog = QApplication::activeModalWidget();
+                      ASSERT_NE(dialog, nullptr) << command;
+                      SCOPED_TRACE(command);
+                      lookAtTabs(*dialog, look);
+                      workbenchCancel(*dialog);
+                  }});
+    }
+    static void lookAtTabs(QWidget& dialog, const std::function<void(QWidget&)>& look) {
+        auto* const tabs = dialog.findChild<QTabBar*>();
+        for (int i = 0; i < (tabs ? tabs->count() : 1); ++i) {
+            if (tabs)
+                tabs->setCurrentIndex(i);
+            QCoreApplication::processEvents();
+            look(dialog);
+        }
+    }
+    static void workbenchCancel(QWidget& dialog) {
+        auto* const cancel = dialog.findChild<QAbstractButton*>("cancelButton");
+        if (cancel)
+            cancel->click();
+        else
+            static_cast<QDialog&>(dialog).reject();
+    }
+    // In the dark and in the light theme.
+    static void inBothThemes(const std::function<void()>& look) {
+        for (const int theme : {0, 1}) {
+            static_cast<standin::StyleManager*>(hostGetQtStyleManager())->setTheme(theme);
+            SCOPED_TRACE(theme == 0 ? "dark" : "light");
+            look();
+        }
+    }
+};
+
+TEST_F(AccessibleTest, EveryControlHasANameAndARole) {
+    inEachWindow([](QWidget& window) {
+        for (QWidget* control : controlsOf(window)) {
+            QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(control);
+            ASSERT_NE(interface, nullptr) << described(control);
+            EXPECT_NE(interface->role(), QAccessible::NoRole) << described(control);
+            EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty())
+                << described(control) << " has no name";
+        }
+    });
+}
+
+// Pixels that stand out from the background by 3 to 1.
+int standingOut(const QImage& picture, const QColor& background) {
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            count += standin::contrastRatio(picture.pixelColor(x, y), background) >= 3;
+    return count;
+}
+
+TEST_F(AccessibleTest, TextsHaveTheContrastThatReadingNeeds) {
+    inBothThemes([this] {
+        inEachWindow([](QWidget& window) {
+            for (QWidget* widget : controlsOf(window)) {
+                const QPalette colors = widget->palette();
+                EXPECT_GE(standin::contrastRatio(colors.color(QPalette::Active, widget->foregroundRole()),
+                                                 colors.color(QPalette::Active, widget->backgroundRole())),
+                          4.5)
+                    << described(widget);
+                EXPECT_GE(standin::contrastRatio(colors.color(QPalette::Active, QPalette::HighlightedText),
+                                                 colors.color(QPalette::Active, QPalette::Highlight)),
+                          4.5)
+                    << described(widget) << ", selected";
+            }
+        });
+    });
+}
+
+TEST_F(AccessibleTest, IconsStandOutFromTheirButtons) {
+    inBothThemes([this] {
+        const auto* bar = part<QToolBar>("toolBar");
+        const QColor background = bar->palette().color(QPalette::Active, QPalette::Window);
+        for (QAction* action : bar->actions()) {
+            QImage picture(32, 32, QImage::Format_RGB32);
+            picture.fill(background);
+            QPainter painter(&picture);
+            action->icon().paint(&painter, picture.rect());
+            painter.end();
+            EXPECT_GE(standingOut(picture, background), 40) << action->text().toStdString();
+        }
+    });
+}
+
+TEST_F(AccessibleTest, TheFocusIsSeen) {
+    inBothThemes([this] {
+        inEachWindow([](QWidget& window) {
+            window.activateWindow();
+            ASSERT_TRUE(waitUntil([&] { return window.isActiveWindow(); }));
+            window.setAttribute(Qt::WA_KeyboardFocusChange); // as after the first Tab
+            for (QWidget* control : controlsOf(window)) {
+                if (!(control->focusPolicy() & Qt::TabFocus) || !control->isEnabled())
+                    continue;
+                control->clearFocus();
+                const QImage without = control->grab().toImage();
+                control->setFocus(Qt::TabFocusReason);
+                EXPECT_TRUE(control->grab().toImage() != without) << described(control);
+            }
+        });
+    });
+}
+
+// What a control needs for its text and does not have.
+int missingWidth(const QWidget* widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(widget))
+        return label->wordWrap() || label->text().isEmpty()
+                   ? 0
+                   : label->minimumSizeHint().width() - label->width();
+    if (qobject_cast<const QAbstractButton*>(widget))
+        return widget->minimumSizeHint().width() - widget->width();
+    return 0;
+}
+
+TEST_F(AccessibleTest, NoTextIsCutHoweverLong) {
+    LongTexts longer;
+    for (const bool isLong : {false, true}) {
+        if (isLong) {
+            QCoreApplication::installTranslator(&longer);
+            restart();
+        }
+        inBothThemes([this] {
+            inEachWindow([](QWidget& window) {
+                for (QWidget* widget : window.findChildren<QWidget*>()) {
+                    if (!widget->isVisible() || isPart(widget))
+                        continue;
+                    EXPECT_LE(missingWidth(widget), 0)
+                        << described(widget) << ": " << widget->property("text").toString().toStdString();
+                }
+            });
+        });
+    }
+    QCoreApplication::removeTranslator(&longer);
+}
+
+} // namespace
