@@ -4,6 +4,7 @@
 
 #include "sdk/rx/alloc.h"
 #include "sdk/rx/od_string.h"
+#include "sdk/rx/shared_empty.h"
 
 #include <QLocale>
 #include <QString>
@@ -20,15 +21,12 @@
 namespace {
 
 const char dirDelim = '/';
-char emptyText[1] = "";
-wchar_t emptyWideText[1] = L"";
 
 std::size_t lengthOf(const char* text) { return std::strlen(text); }
 std::size_t lengthOf(const wchar_t* text) { return std::wcslen(text); }
 
 // The empty string shares one buffer, which is never freed.
-char* sharedEmpty(char) { return emptyText; }
-wchar_t* sharedEmpty(wchar_t) { return emptyWideText; }
+template <class Char> Char* sharedEmpty(Char) { return static_cast<Char*>(odrxSharedEmptyText()); }
 
 template <class Char> Char* copyOf(const Char* text, std::size_t length) {
     if (!text || length == 0)
@@ -60,12 +58,12 @@ template <class Char> Char* joined(const Char* left, const Char* right, std::siz
 
 } // namespace
 
-CXString::CXString() : buffer(emptyText) {}
+CXString::CXString() : buffer(sharedEmpty(char())) {}
 CXString::CXString(const char* text) : buffer(copyOf(text)) {}
 CXString::CXString(const wchar_t* text)
     : buffer(copyOf(text ? QString::fromWCharArray(text).toLocal8Bit().constData() : nullptr)) {}
 CXString::CXString(const CXString& other) : buffer(copyOf(other.buffer)) {}
-CXString::CXString(CXString&& other) noexcept : buffer(std::exchange(other.buffer, emptyText)) {}
+CXString::CXString(CXString&& other) noexcept : buffer(std::exchange(other.buffer, sharedEmpty(char()))) {}
 CXString::~CXString() { destroy(buffer); }
 
 CXString& CXString::operator=(const CXString& other) { return *this = other.buffer; }
@@ -105,12 +103,13 @@ void CXString::Format(const char* pattern, ...) {
 void CXString::AddDirDelim() { ConcatCopy(&dirDelim, 1); }
 std::size_t CXString::GetSize() const { return lengthOf(buffer); }
 
-CXStringW::CXStringW() : buffer(emptyWideText) {}
+CXStringW::CXStringW() : buffer(sharedEmpty(wchar_t())) {}
 CXStringW::CXStringW(const char* text)
     : buffer(copyOf(text ? QString::fromLocal8Bit(text).toStdWString().c_str() : nullptr)) {}
 CXStringW::CXStringW(const wchar_t* text) : buffer(copyOf(text)) {}
 CXStringW::CXStringW(const CXStringW& other) : buffer(copyOf(other.buffer)) {}
-CXStringW::CXStringW(CXStringW&& other) noexcept : buffer(std::exchange(other.buffer, emptyWideText)) {}
+CXStringW::CXStringW(CXStringW&& other) noexcept
+    : buffer(std::exchange(other.buffer, sharedEmpty(wchar_t()))) {}
 CXStringW::~CXStringW() { destroy(buffer); }
 
 CXStringW& CXStringW::operator=(const CXStringW& other) { return *this = other.buffer; }

@@ -75,6 +75,15 @@ struct AttachTest : WorkbenchFixture {
     QStringList filters;
 };
 
+// Strings without a letter go from the workbench to the module, which frees them.
+TEST_F(AttachTest, ADrawingThatWasNeverSavedHasNoFolderForARelativePath) {
+    play({typing("XATTACH"), typing("~"), choosing(write("part.dxf")),
+          [] { QTest::keyClick(control<QComboBox>("pathTypeCombo"), Qt::Key_Home); }, clicking("okButton"),
+          typing("3,4")});
+    ASSERT_FALSE(block(L"part").isNull());
+    EXPECT_EQ(hostqt::qString(block(L"part")->pathName()), inFolder("part.dxf"));
+}
+
 TEST_F(AttachTest, MenuAttachesAndUndoTakesItBackInOneStep) {
     const std::string before = drawing()->writeBytes();
     play({[this] { action("External reference...")->trigger(); }, typing("~"), choosing(write("part.dxf")),
