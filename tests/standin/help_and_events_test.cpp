@@ -129,6 +129,11 @@ TEST_F(DialogParentTest, AMenuThatIsAboutToCloseIsNeverTheParentOfADialog) {
     }
     registry().dialogParent = &loose;
     EXPECT_EQ(host_qt_ui_core::parentForDialog(), &other) << "the main window";
+    QWidget page;
+    page.setAttribute(Qt::WA_DeleteOnClose);
+    registry().dialogParent = &page;
+    EXPECT_EQ(host_qt_ui_core::parentForDialog(), &other)
+        << "a page of help takes its children along when it closes";
     QDialog dialog(&window);
     registry().dialogParent = &dialog;
     EXPECT_EQ(host_qt_ui_core::parentForDialog(), &dialog);

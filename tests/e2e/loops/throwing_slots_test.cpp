@@ -9,10 +9,12 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPointer>
 #include <QSet>
 #include <QSpinBox>
 #include <QTabBar>
+#include <QToolButton>
 #include <stdexcept>
 
 namespace {
@@ -39,6 +41,8 @@ template <class Control, class Signal> Act armed(Control* control, Signal signal
 }
 
 Act armed(QWidget* control) {
+    if (auto* tool = qobject_cast<QToolButton*>(control); tool && tool->menu())
+        return armed(tool->menu(), &QMenu::aboutToShow, [menu = tool->menu()] { emit menu->aboutToShow(); });
     if (auto* button = qobject_cast<QAbstractButton*>(control))
         return armed(button, &QAbstractButton::clicked, [button] {
             button->setEnabled(true);
