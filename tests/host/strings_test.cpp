@@ -184,6 +184,9 @@ TEST(TextConversionTest, WhatIsNoCharacterIsHarmless) {
         EXPECT_TRUE(hostqt::qString(OdString(odd)).startsWith('a')) << code;
         EXPECT_TRUE(hostqt::qString(OdString(odd)).endsWith('z')) << code;
     }
+    const std::wstring beyond(1, static_cast<wchar_t>(0x110000));
+    EXPECT_EQ(hostqt::qString((L"a" + beyond + L"b").c_str()), QStringLiteral("a\uFFFDb"))
+        << "its place stays to be seen";
 }
 
 } // namespace

@@ -50,7 +50,10 @@ void Canvas::connectSignals() {
     connect(&documents, &DocumentManager::currentChanged, this, &Canvas::showCurrent);
     connect(&documents, &DocumentManager::documentClosed, this, &Canvas::forgetClosed);
     connect(&io, &Console::promptChanged, this, &Canvas::promptChanged);
-    connect(&loop, &CommandLoop::commandStarted, this, [this] { windowCorner.reset(); });
+    connect(&loop, &CommandLoop::commandStarted, this, [this] {
+        windowCorner.reset();
+        update();
+    });
     connect(&loop, &CommandLoop::commandEnded, this, &Canvas::refresh);
     for (LivePicture* picture : {&scene, static_cast<LivePicture*>(&marks)})
         connect(picture, &LivePicture::improved, this, [this] {

@@ -45,7 +45,7 @@ void Canvas::paintEvent(QPaintEvent*) {
     const OpenPrompt* prompt = pointPrompt();
     if (prompt)
         paintPrompt(painter, *prompt);
-    else if (windowCorner)
+    else if (windowCorner && rect().contains(cursorAt))
         paintWindow(painter, sheet->view().toPixel(flat(*windowCorner)), cursorAt);
     if (rect().contains(cursorAt) && !panning)
         paintCursor(painter);
