@@ -34,7 +34,8 @@ protected:
         stack->addCommand(&circle);
     }
     std::vector<OdString> names() const { return stack->globalNames(); }
-    Command line{L"DRAW", L"LINE", L"LINIE"}, circle{L"DRAW", L"CIRCLE"};
+    // The stack holds them, so they go after it.
+    Command line{L"DRAW", L"LINE", L"LINIE"}, circle{L"DRAW", L"CIRCLE"}, elsewhere{L"OTHER", L"LINE"};
     OdEdCommandStackPtr stack{new OdEdCommandStack};
 };
 
@@ -53,7 +54,7 @@ TEST_F(CommandStack, ListsTheCommandsInTheirOrder) {
 }
 
 TEST_F(CommandStack, TakesACommandOfTheSameNameOnlyInAnotherGroup) {
-    Command again(L"draw", L"Line"), elsewhere(L"OTHER", L"LINE");
+    Command again(L"draw", L"Line");
     EXPECT_EQ(codeOfAdding(*stack, again), eDuplicateKey);
     EXPECT_EQ(names().size(), 2u);
     EXPECT_EQ(codeOfAdding(*stack, elsewhere), eOk);
