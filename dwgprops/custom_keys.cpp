@@ -7,21 +7,21 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-CustomKeys::CustomKeys(CustomTab& watched) : QObject(&watched), tab(watched) {
-    tab.table->setFocusPolicy(Qt::StrongFocus);
-    tab.table->setTabKeyNavigation(false);
-    tab.table->installEventFilter(this);
+CustomKeys::CustomKeys(CustomTab& watched) : QObject(&watched), tab(watched), table(watched.table) {
+    table->setFocusPolicy(Qt::StrongFocus);
+    table->setTabKeyNavigation(false);
+    table->installEventFilter(this);
     for (QPushButton* const button : {tab.addButton, tab.deleteButton})
         button->setFocusPolicy(Qt::StrongFocus);
 }
 
 bool CustomKeys::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == tab.table && event->type() == QEvent::FocusIn && tab.table->selectedItems().isEmpty())
-        walkTo(qMax(0, tab.table->currentRow()));
+    if (watched == table && event->type() == QEvent::FocusIn && table->selectedItems().isEmpty())
+        walkTo(qMax(0, table->currentRow()));
     if (event->type() != QEvent::KeyPress)
         return false;
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if (watched == tab.table)
+    if (watched == table)
         return onTableKey(key);
     return onEditorKey(*static_cast<QLineEdit*>(watched), key);
 }
@@ -29,10 +29,10 @@ bool CustomKeys::eventFilter(QObject* watched, QEvent* event) {
 bool CustomKeys::onTableKey(int key) {
     switch (key) {
     case Qt::Key_Up:
-        walkTo(tab.table->currentRow() - 1);
+        walkTo(table->currentRow() - 1);
         return true;
     case Qt::Key_Down:
-        walkTo(tab.table->currentRow() + 1);
+        walkTo(table->currentRow() + 1);
         return true;
     case Qt::Key_Delete:
         tab.onDelete();
@@ -48,20 +48,20 @@ bool CustomKeys::onTableKey(int key) {
 }
 
 void CustomKeys::walkTo(int row) {
-    QTableWidgetItem* const item = tab.table->item(row, 0);
+    QTableWidgetItem* const item = table->item(row, 0);
     if (!item)
         return;
-    tab.table->setCurrentItem(item);
-    tab.table->scrollToItem(item);
+    table->setCurrentItem(item);
+    table->scrollToItem(item);
 }
 
 void CustomKeys::edit() {
-    QTableWidgetItem* const item = tab.table->item(tab.table->currentRow(), 0);
+    QTableWidgetItem* const item = table->item(table->currentRow(), 0);
     if (!item)
         return;
     walkTo(item->row()); // a change of the selection would close the editor at once
     tab.startEdit(item);
-    auto* const editor = qobject_cast<QLineEdit*>(tab.table->cellWidget(item->row(), 1));
+    auto* const editor = qobject_cast<QLineEdit*>(table->cellWidget(item->row(), 1));
     if (!editor)
         return;
     before = editor->text();
@@ -77,7 +77,7 @@ bool CustomKeys::onEditorKey(QLineEdit& editor, int key) {
         return false;
     if (key == Qt::Key_Escape)
         editor.setText(before);
-    tab.table->setFocus(Qt::OtherFocusReason);
+    table->setFocus(Qt::OtherFocusReason);
     tab.closeEditor();
     return true;
 }

@@ -5,6 +5,7 @@
 #include <QObject>
 
 class CustomTab;
+class CustomTableWidget;
 class QLineEdit;
 
 class CustomKeys : public QObject {
@@ -19,5 +20,6 @@ private:
     void edit();
 
     CustomTab& tab;
-    QString before; // the value that is being edited
+    CustomTableWidget* const table; // still there when the tab has become a plain widget at its end
+    QString before;                 // the value that is being edited
 };
