@@ -99,7 +99,7 @@ TEST(SearchTypingWithoutTheHabit, NothingIsFoundUntilReturnNorByAVariable) {
             EXPECT_EQ(item("Groups")->searchWords, "");
             dialog->searchEdit->setFocus();
             QTest::keyClicks(dialog->searchEdit, "nothing");
-            QTest::qWait(0);
+            QCoreApplication::processEvents();
             EXPECT_FALSE(item("Groups")->isHidden());
             QTest::keyClick(dialog->searchEdit, Qt::Key_Return);
             EXPECT_TRUE(item("Groups")->isHidden());

@@ -4,6 +4,7 @@
 #include "host/typed_reads.h"
 #include "standin/params/file_store.h"
 #include "standin/params/mem_param.h"
+#include "tests/support/text_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -29,17 +30,6 @@ protected:
 private:
     qint64 room;
 };
-
-inline void writeText(const QString& path, const QByteArray& text) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-}
-
-inline QByteArray readText(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // A store with its tree, as one process has it.
 struct Process {

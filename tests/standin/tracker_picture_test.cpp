@@ -80,6 +80,22 @@ TEST_F(TrackerPictureTest, AnAngleTurnsItAndADistanceStretchesItAboutTheBase) {
     EXPECT_TRUE(isShownAt(picture, 50, 0));
 }
 
+TEST_F(TrackerPictureTest, ItStaysSharpHoweverFarItIsStretched) {
+    prompt.base = OdGePoint3d(0, 0, 0);
+    prompt.kind = OpenPrompt::Distance;
+    TrackerPicture picture(prompt, drawing);
+    picture.setCursor({0, 40});
+    QImage image(200, 200, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    picture.paint(painter, view, Qt::white);
+    painter.end();
+    int across = 0;
+    for (int y = 0; y < image.height(); ++y)
+        across += image.pixelColor(150, y) != QColor(Qt::black);
+    EXPECT_EQ(across, 1) << "a line is one pixel wide";
+}
+
 TEST_F(TrackerPictureTest, TheTrackerHasItsSinkAsLongAsThePromptLasts) {
     {
         const TrackerPicture picture(prompt, drawing);
