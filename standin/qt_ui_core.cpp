@@ -45,8 +45,7 @@ QIcon withFaded(QIcon icon) {
 
 namespace host_qt_ui_core {
 
-// A menu is no parent: it closes, and goes, while the dialog is open.
-// Menus and pages of help go when they are closed, and what is their child with them.
+// Menus and pages of help are no parents: they go when they are closed, and what is their child with them.
 ParentWrapper parentForDialog() {
     QWidget* parent = registry().dialogParent ? registry().dialogParent : QApplication::activeWindow();
     while (parent && (parent->windowType() == Qt::Popup || parent->testAttribute(Qt::WA_DeleteOnClose)))

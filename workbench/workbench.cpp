@@ -94,8 +94,8 @@ Workbench::Workbench(const Launch& launchOptions)
     documents = std::make_unique<DocumentManager>(io, readVariables(launch.dataDir, io));
     documents->variables().keepIn(openChild(appService<IProfile>().get(), "SysVars", 1));
     provideServices();
-    appliedTheme = readSettings(appService<IProfile>().get()).theme;
-    styles.setTheme(launch.theme.value_or(appliedTheme));
+    appliedSettings = readSettings(appService<IProfile>().get());
+    styles.setTheme(launch.theme.value_or(appliedSettings.theme));
     QString problem;
     module = std::make_unique<LoadedModule>(launch.moduleFile, &problem);
     if (!problem.isEmpty())
@@ -240,16 +240,11 @@ void Workbench::chooseTheme(int theme) {
 }
 
 // A theme given on the command line stays until the user chooses one.
-void Workbench::applyTheme() {
-    const int theme = readSettings(appService<IProfile>().get()).theme;
-    if (theme != appliedTheme)
-        styles.setTheme(theme);
-    appliedTheme = theme;
-}
-
 void Workbench::applySettings() {
-    applyTheme();
-    appliedSettings = readSettings(appService<IProfile>().get());
+    const Settings settings = readSettings(appService<IProfile>().get());
+    if (settings.theme != appliedSettings.theme)
+        styles.setTheme(settings.theme);
+    appliedSettings = settings;
     mainWindow->apply(appliedSettings);
 }
 

@@ -66,7 +66,6 @@ private:
     void endScript(const QString& problem);
     void applySettings();
     void applyChangedSettings();
-    void applyTheme();
     void chooseTheme(int theme);
     void printTranscript();
 
@@ -92,7 +91,6 @@ private:
     std::unique_ptr<ScriptPlayer> player;
     QTimer settingsCheck; // runs while a command does
     Settings appliedSettings;
-    int appliedTheme = -1; // the one that the profile held last
     bool scriptPlays = false;
     bool scriptFailed = false;
 };

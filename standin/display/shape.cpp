@@ -118,11 +118,11 @@ Weight weightOf(const Shape& shape) {
         length = shape.points[3].y() * std::max(lengthOf(shape.points[1]), lengthOf(shape.points[2]));
         points = pointsOfArc;
     }
-    if (shape.area)
+    if (shape.area) {
         for (const QLineF& line : shape.area->hatching)
             length += line.length();
-    if (shape.area)
         points += 2 * static_cast<double>(shape.area->hatching.size());
+    }
     points += pointsOfLetter * shape.text.size();
     if (weightInPixels(shape.weight) > 1)
         length *= thick;

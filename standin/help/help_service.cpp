@@ -49,19 +49,17 @@ void HelpWindow::layOut() {
 }
 
 void HelpWindow::showTopic(const QString& topic) {
-    const QFileInfo page(folder + QLatin1Char('/') + pageName(topic));
+    showFileOr(folder + QLatin1Char('/') + pageName(topic), tr("There is no help page \"%1\".").arg(topic));
+}
+
+void HelpWindow::showFile(const QString& path) { showFileOr(path, tr("There is no file %1.").arg(path)); }
+
+void HelpWindow::showFileOr(const QString& path, const QString& missing) {
+    const QFileInfo page(path);
     if (page.isFile())
         pageBrowser->setSource(QUrl::fromLocalFile(page.absoluteFilePath()));
     else
-        pageBrowser->setPlainText(tr("There is no help page \"%1\".").arg(topic));
-    showTitle();
-}
-
-void HelpWindow::showFile(const QString& path) {
-    if (QFileInfo(path).isFile())
-        pageBrowser->setSource(QUrl::fromLocalFile(path));
-    else
-        pageBrowser->setPlainText(tr("There is no file %1.").arg(path));
+        pageBrowser->setPlainText(missing);
     showTitle();
 }
 

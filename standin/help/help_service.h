@@ -26,6 +26,7 @@ protected:
 private:
     void build();
     void layOut();
+    void showFileOr(const QString& path, const QString& missing);
     void showTitle();
     QString folder;
     HelpBrowser* pageBrowser = nullptr;

@@ -1,6 +1,8 @@
 // Reading and writing of single values.
 #include "standin/params/yaml_scalar.h"
 
+#include "host/text.h"
+
 #include <QByteArray>
 #include <QString>
 #include <algorithm>
@@ -64,9 +66,6 @@ CKWVariant integerVariant(std::int64_t value) {
 
 // Qt leaves out a byte order mark at the beginning, which belongs to a name or a text as any other character.
 QString wholeTextOf(const std::string& utf8) { return QString::fromStdString(' ' + utf8).mid(1); }
-QString wholeTextOfWide(const wchar_t* text) {
-    return QString::fromStdWString(L' ' + std::wstring(text)).mid(1);
-}
 QString wholeTextOfLocal(const char* bytes) {
     return QString::fromLocal8Bit((' ' + std::string(bytes)).c_str()).mid(1);
 }
@@ -171,7 +170,7 @@ std::optional<std::string> valueToYaml(const CKWVariant& value) {
     case kVtString:
         return localTextToYaml(value.text);
     case kVtWideString:
-        return std::string(wideTag) + ' ' + quoted(wholeTextOfWide(value.wideText).toStdString());
+        return std::string(wideTag) + ' ' + quoted(hostqt::qString(value.wideText).toStdString());
     case kVtSize:
         return pairToYaml(sizeTag, std::to_string(value.size.cx), std::to_string(value.size.cy));
     case kVtRSize:

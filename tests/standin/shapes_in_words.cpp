@@ -1,7 +1,8 @@
 #include "tests/standin/shapes_in_words.h"
 
+#include "tests/support/plain_number.h"
+
 #include <cmath>
-#include <cstdio>
 
 namespace shown {
 
@@ -9,15 +10,7 @@ namespace {
 
 using namespace standin;
 
-std::string number(double value) {
-    char text[64];
-    std::snprintf(text, sizeof text, "%.4f", std::fabs(value) < 5e-5 ? 0 : value);
-    std::string result = text;
-    result.erase(result.find_last_not_of('0') + 1);
-    if (result.back() == '.')
-        result.pop_back();
-    return result;
-}
+std::string number(double value) { return plainNumber(value, 4); }
 
 std::string place(const QPointF& point) { return " " + number(point.x()) + "," + number(point.y()); }
 

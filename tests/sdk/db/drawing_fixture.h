@@ -17,6 +17,18 @@ inline OdDbObjectId addLine(OdDbDatabase& database, double x) {
     return space->appendOdDbEntity(line.get());
 }
 
+// A drawing of one entity, read from its tags as a file has them; what stands before the entities are whole
+// sections.
+inline OdDbDatabasePtr drawingWith(const std::string& entity, const std::string& before = {}) {
+    return OdDbDatabase::readBytes("0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1015\n0\nENDSEC\n" + before +
+                                   "0\nSECTION\n2\nENTITIES\n" + entity + "0\nENDSEC\n0\nEOF\n");
+}
+
+template <class T> OdSmartPtr<T> onlyEntity(OdDbDatabase& database, OdDb::OpenMode mode = OdDb::kForRead) {
+    const auto space = odrxCast<OdDbBlockTableRecord>(database.getModelSpaceId().safeOpenObject());
+    return odrxCast<T>(space->entityIds().at(0).safeOpenObject(mode));
+}
+
 inline OdDbDictionaryPtr groupsOf(OdDbDatabase& database, OdDb::OpenMode mode = OdDb::kForRead) {
     return odrxCast<OdDbDictionary>(database.getGroupDictionaryId(true).safeOpenObject(mode));
 }

@@ -8,6 +8,7 @@
 #include "sdk/db/spline.h"
 #include "sdk/db/text.h"
 #include "tests/support/case_file.h"
+#include "tests/support/plain_number.h"
 
 #include <cmath>
 
@@ -15,16 +16,7 @@ namespace {
 
 const char* const kFolder = TEST_DATA_DIR "/entities";
 
-// Up to five decimals.
-std::string number(double value) {
-    char text[64];
-    std::snprintf(text, sizeof text, "%.5f", std::fabs(value) < 5e-6 ? 0 : value);
-    std::string result = text;
-    result.erase(result.find_last_not_of('0') + 1);
-    if (result.back() == '.')
-        result.pop_back();
-    return result;
-}
+std::string number(double value) { return plainNumber(value, 5); }
 
 std::string place(const OdGePoint3d& point) {
     return number(point.x) + "," + number(point.y) + "," + number(point.z);

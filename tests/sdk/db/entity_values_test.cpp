@@ -14,19 +14,8 @@ namespace {
 
 constexpr double kDegree = M_PI / 180;
 
-OdDbDatabasePtr drawingWith(const std::string& entity) {
-    return OdDbDatabase::readBytes("0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1015\n0\nENDSEC\n"
-                                   "0\nSECTION\n2\nENTITIES\n" +
-                                   entity + "0\nENDSEC\n0\nEOF\n");
-}
-
 std::string record(const std::string& name, const std::string& tags) {
     return "0\n" + name + "\n5\nA1\n100\nAcDbEntity\n8\n0\n" + tags;
-}
-
-template <class T> OdSmartPtr<T> onlyEntity(OdDbDatabase& database) {
-    const auto space = odrxCast<OdDbBlockTableRecord>(database.getModelSpaceId().safeOpenObject());
-    return odrxCast<T>(space->entityIds().at(0).safeOpenObject());
 }
 
 // The tags that a new object begins with, "code=value" each.

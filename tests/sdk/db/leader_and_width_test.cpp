@@ -11,16 +11,6 @@ const std::string kStyles =
     "00\n"
     "AcDbDimStyleTableRecord\n2\nLarge\n70\n0\n40\n10.0\n41\n2.5\n0\nENDTAB\n0\nENDSEC\n";
 
-OdDbDatabasePtr drawingWith(const std::string& entity) {
-    return OdDbDatabase::readBytes("0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1015\n0\nENDSEC\n" + kStyles +
-                                   "0\nSECTION\n2\nENTITIES\n" + entity + "0\nENDSEC\n0\nEOF\n");
-}
-
-template <class T> OdSmartPtr<T> onlyEntity(OdDbDatabase& database) {
-    const auto space = odrxCast<OdDbBlockTableRecord>(database.getModelSpaceId().safeOpenObject());
-    return odrxCast<T>(space->entityIds().at(0).safeOpenObject());
-}
-
 std::string leader(const char* style, const std::string& extended = {}) {
     return std::string("0\nLEADER\n5\nA1\n100\nAcDbEntity\n8\n0\n100\nAcDbLeader\n3\n") + style +
            "\n71\n1\n72\n0\n76\n2\n10\n1.0\n20\n2.0\n30\n3.0\n10\n9.0\n20\n8.0\n30\n3.0\n340\n0\n211\n1."
@@ -30,12 +20,12 @@ std::string leader(const char* style, const std::string& extended = {}) {
 }
 
 double sizeOfHead(const std::string& text) {
-    const OdDbDatabasePtr database = drawingWith(text);
+    const OdDbDatabasePtr database = drawingWith(text, kStyles);
     return onlyEntity<OdDbLeader>(*database)->arrowSize();
 }
 
 double widthOf(const std::string& text) {
-    const OdDbDatabasePtr database = drawingWith(text);
+    const OdDbDatabasePtr database = drawingWith(text, kStyles);
     return onlyEntity<OdDbPolylineBase>(*database)->constantWidth();
 }
 
@@ -51,7 +41,7 @@ std::string old(const std::string& widths, const std::string& second) {
 } // namespace
 
 TEST(Leaders, HaveVerticesAndExtents) {
-    const OdDbDatabasePtr database = drawingWith(leader("Large"));
+    const OdDbDatabasePtr database = drawingWith(leader("Large"), kStyles);
     const auto entity = onlyEntity<OdDbLeader>(*database);
     EXPECT_EQ(entity->vertices(), (std::vector<OdGePoint3d>{{1, 2, 3}, {9, 8, 3}}));
     EXPECT_TRUE(entity->hasArrowHead());

@@ -8,17 +8,6 @@
 
 namespace {
 
-OdDbDatabasePtr drawingWith(const std::string& entity) {
-    return OdDbDatabase::readBytes(
-        "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1015\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n" + entity +
-        "0\nENDSEC\n0\nEOF\n");
-}
-
-template <class T> OdSmartPtr<T> onlyEntity(OdDbDatabase& database) {
-    const auto space = odrxCast<OdDbBlockTableRecord>(database.getModelSpaceId().safeOpenObject());
-    return odrxCast<T>(space->entityIds().at(0).safeOpenObject());
-}
-
 // A quarter of the unit circle, which a rational spline of degree 2 follows exactly.
 const std::string kQuarter =
     "0\nSPLINE\n5\nA1\n100\nAcDbEntity\n8\n0\n100\nAcDbSpline\n70\n4\n71\n2\n72\n6\n73\n3\n"
