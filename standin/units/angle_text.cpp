@@ -2,6 +2,7 @@
 #include "standin/units/unit_text.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 #include <cmath>
 
 namespace standin {
@@ -9,6 +10,7 @@ namespace standin {
 namespace {
 
 const double pi = 3.14159265358979323846;
+const QChar degreeSign(0xb0);
 
 std::optional<double> plainNumber(const QString& text) {
     bool read = false;
@@ -65,7 +67,64 @@ std::optional<double> writtenAngle(const QString& text, int style) {
     return value ? std::optional<double>(*value * pi / 180) : std::nullopt;
 }
 
+// Up to `whole`, a full turn in the unit, and without it: what rounds up to it is 0.
+double withinTurn(double value, double whole, int places) {
+    const double parts = std::pow(10, places);
+    const double rounded = std::round(std::fmod(value, whole) * parts) / parts;
+    return std::fmod(rounded < 0 ? rounded + whole : rounded, whole);
+}
+
+QString decimal(double value, double whole, int places) {
+    const QString text = QString::number(withinTurn(value, whole, places), 'f', places);
+    return text.contains(QLatin1Char('.'))
+               ? QString(text).remove(QRegularExpression(QStringLiteral("\\.?0+$")))
+               : text;
+}
+
+QString minutesAndSeconds(double degrees, int precision) {
+    if (precision == 0)
+        return decimal(degrees, 360, 0) + degreeSign;
+    const bool withSeconds = precision > 2;
+    const int places = std::max(precision - 4, 0);
+    const double unit = withSeconds ? 3600 : 60;
+    double left = withinTurn(degrees * unit, 360 * unit, places);
+    QString text = QStringLiteral("%1%2").arg(std::floor(left / unit), 0, 'f', 0).arg(degreeSign);
+    left = std::fmod(left, unit);
+    if (!withSeconds)
+        return text + QStringLiteral("%1'").arg(left, 0, 'f', 0);
+    text += QStringLiteral("%1'").arg(std::floor(left / 60), 0, 'f', 0);
+    return text + decimal(std::fmod(left, 60), 3600, places) + QLatin1Char('"');
+}
+
+// From north or south, whichever is nearer.
+QString bearing(double radians, int precision) {
+    const double degrees = withinTurn(radians * 180 / pi, 360, 9);
+    const bool north = degrees <= 180;
+    const bool east = degrees <= 90 || degrees > 270;
+    const double turn = std::fabs((north ? 90 : 270) - degrees);
+    return (north ? QLatin1Char('N') : QLatin1Char('S')) + minutesAndSeconds(turn, precision) +
+           (east ? QLatin1Char('E') : QLatin1Char('W'));
+}
+
 } // namespace
+
+QString angleText(double radians, const AngleUnits& units) {
+    if (!std::isfinite(radians))
+        return QString::number(radians);
+    if (units.style == kSurveyor)
+        return bearing(radians, units.precision);
+    const double turn = units.clockwise ? units.base - radians : radians - units.base;
+    switch (units.style) {
+    case kDegreesMinutesSeconds:
+        return minutesAndSeconds(turn * 180 / pi, units.precision);
+    case kGradians:
+        return decimal(turn * 200 / pi, 400, units.precision) + QLatin1Char('g');
+    case kRadians:
+        return decimal(turn, 2 * pi, units.precision) + QLatin1Char('r');
+    default:
+        return decimal(turn * 180 / pi, 360, units.precision) + degreeSign;
+    }
+}
 
 std::optional<double> angleFromText(const QString& text, const AngleUnits& units) {
     const QString trimmed = text.trimmed();

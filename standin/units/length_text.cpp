@@ -64,6 +64,27 @@ QString withoutZeroTail(QString text) {
     return text;
 }
 
+// Rounded before it is split, so that twelve inches are the next foot.
+double roundedTo(double value, double parts) { return std::round(value * parts) / parts; }
+
+// The inches are written even if there are none: the hyphen behind the feet is no sign.
+QString feetText(double value, const QString& inches) {
+    return QStringLiteral("%1'-%2\"").arg(std::floor(value / inchesPerFoot), 0, 'f', 0).arg(inches);
+}
+
+QString engineeringText(double value, int precision) {
+    const double rounded = roundedTo(value, std::pow(10, precision));
+    return feetText(rounded,
+                    withoutZeroTail(QString::number(std::fmod(rounded, inchesPerFoot), 'f', precision)));
+}
+
+QString architecturalText(double value, int precision) {
+    const double rounded = roundedTo(value, std::exp2(precision));
+    const double inches = std::fmod(rounded, inchesPerFoot);
+    const QString text = fractionText(inches, precision);
+    return feetText(rounded, inches > 0 && inches < 1 ? QStringLiteral("0-") + text : text);
+}
+
 // Beyond this the digits say nothing any more, and fractions can't be counted.
 const double greatestWrittenOut = 1e15;
 
@@ -72,18 +93,10 @@ QString unsignedText(double value, const LengthUnits& units) {
     switch (isWrittenOut ? units.style : kScientific) {
     case kScientific:
         return QString::number(value, 'E', units.precision);
-    case kEngineering: {
-        const double feet = std::floor(value / inchesPerFoot);
-        return QStringLiteral("%1'-%2\"")
-            .arg(feet, 0, 'f', 0)
-            .arg(withoutZeroTail(QString::number(value - feet * inchesPerFoot, 'f', units.precision)));
-    }
-    case kArchitectural: {
-        const double feet = std::floor(value / inchesPerFoot);
-        return QStringLiteral("%1'-%2\"")
-            .arg(feet, 0, 'f', 0)
-            .arg(fractionText(value - feet * inchesPerFoot, units.precision));
-    }
+    case kEngineering:
+        return engineeringText(value, units.precision);
+    case kArchitectural:
+        return architecturalText(value, units.precision);
     case kFractional:
         return fractionText(value, units.precision);
     default:

@@ -33,6 +33,7 @@ AngleUnits currentAngleUnits() {
     units.style = static_cast<int>(drawingValue(L"AUNITS", units.style));
     units.base = drawingValue(L"ANGBASE", 0) * radiansPerDegree;
     units.clockwise = drawingValue(L"ANGDIR", 0) != 0;
+    units.precision = std::clamp(static_cast<int>(drawingValue(L"AUPREC", units.precision)), 0, 8);
     return units;
 }
 

@@ -19,6 +19,7 @@ struct AngleUnits {
     int style = kDegrees;
     double base = 0; // direction of angle 0, in radians
     bool clockwise = false;
+    int precision = 0; // decimal places; in minutes and seconds 1 and 2 are minutes, 3 and 4 seconds
 };
 
 // Numbers, fractions as 3/4 or 1-3/4, and in the engineering and architectural styles feet and inches as
@@ -31,6 +32,9 @@ QString plainNumberText(double value);
 // Radians counter-clockwise from the X axis. Read in the style given or with a mark of its own: 45d30'15",
 // 50g, 1.2r, N45dE. Null when the text is no angle.
 std::optional<double> angleFromText(const QString& text, const AngleUnits& units);
+
+// Radians counter-clockwise from the X axis, written as it is read: 45°, 45°30'15", 50g, 1.2r, N45°E.
+QString angleText(double radians, const AngleUnits& units);
 
 // The units that the current drawing's variables tell.
 LengthUnits currentLengthUnits();

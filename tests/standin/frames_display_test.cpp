@@ -196,6 +196,22 @@ TEST(MultipleLines, HaveRoundCapsOutwardsAndJointsWhereTheirStyleSaysSo) {
     EXPECT_EQ(pathsOf(closed).size(), 6u) << "the lines, and a joint at each corner";
 }
 
+TEST(MultipleLines, AreFilledUnderTheirLinesInTheColourOfTheirStyle) {
+    std::string style = kMlineStyle;
+    style.replace(style.find("272"), 3, "1025"); // filled, and round at the end
+    style.replace(style.find("62\n256"), 6, "62\n3");
+    const Drawing drawing(mline("1", "41\n1.0\n41\n0.0\n"), {}, {}, objects(style));
+    ASSERT_EQ(drawing.items.at(0)->shapes.size(), 5u) << "a piece, its cap, two elements and an arc";
+    EXPECT_EQ(drawing.shape(0).kind, Shape::Fill);
+    EXPECT_EQ(drawing.shape(0).ink, 0xff00ff00u);
+    EXPECT_EQ(drawing.shape(0).points, (Points{{0, -1}, {10, -1}, {10, 1}, {0, 1}}));
+    EXPECT_EQ(drawing.shape(1).kind, Shape::Fill);
+    EXPECT_NEAR(drawing.shape(1).points[8].x(), 11, 1e-9) << "outwards";
+    EXPECT_EQ(drawing.shape(2).ink, 0xffff0000u) << "the elements keep their own colour";
+    style.replace(style.find("62\n3"), 4, "420\n255");
+    EXPECT_EQ(Drawing(mline("1", "41\n1.0\n41\n0.0\n"), {}, {}, objects(style)).shape(0).ink, 0xff0000ffu);
+}
+
 TEST(MultipleLines, HaveTheGapsThatWereCutIntoThem) {
     const Drawing drawing(mline("1", "41\n1.0\n41\n0.0\n41\n3.0\n41\n7.0\n"));
     EXPECT_EQ(pathsOf(drawing),

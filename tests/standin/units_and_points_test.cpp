@@ -47,10 +47,15 @@ TEST(Lengths, AreWrittenAtTheLimitsOfTheirStyles) {
         int style, precision;
         const char* text;
     };
-    for (const Form& each : {Form{11.99, kEngineering, 1, "0'-12\""},
+    for (const Form& each : {Form{11.99, kEngineering, 1, "1'-0\""},
+                             {11.94, kEngineering, 1, "0'-11.9\""},
                              {12, kEngineering, 1, "1'-0\""},
                              {11.75, kArchitectural, 2, "0'-11-3/4\""},
-                             {12.5, kArchitectural, 1, "1'-1/2\""},
+                             {12.5, kArchitectural, 1, "1'-0-1/2\""},
+                             {23232.8125, kArchitectural, 4, "1936'-0-13/16\""},
+                             {23.999, kArchitectural, 4, "2'-0\""},
+                             {0.25, kArchitectural, 2, "0'-0-1/4\""},
+                             {1, kArchitectural, 2, "0'-1\""},
                              {0.5, kFractional, 1, "1/2"},
                              {1.5, kFractional, 1, "1-1/2"},
                              {0.0625, kFractional, 4, "1/16"},
@@ -64,6 +69,58 @@ TEST(Lengths, AreWrittenAtTheLimitsOfTheirStyles) {
                              {0.125, kDecimal, 3, "0.125"}})
         EXPECT_EQ(lengthText(each.value, {each.style, each.precision}), each.text)
             << each.value << " in style " << each.style;
+}
+
+TEST(Angles, AreWrittenInTheFormAndWithThePrecisionOfTheDrawing) {
+    struct Form {
+        double degrees;
+        AngleUnits units;
+        const char* text;
+    };
+    const double east = 0, north = M_PI / 2;
+    for (const Form& each : {Form{45, {kDegrees, east, false, 0}, "45°"},
+                             {22.5, {kDegrees, east, false, 0}, "23°"},
+                             {22.5, {kDegrees, east, false, 4}, "22.5°"},
+                             {100, {kDegrees, east, false, 2}, "100°"},
+                             {-90, {kDegrees, east, false, 0}, "270°"},
+                             {359.7, {kDegrees, east, false, 0}, "0°"},
+                             {765, {kDegrees, east, false, 0}, "45°"},
+                             {30, {kDegrees, north, false, 0}, "300°"},
+                             {30, {kDegrees, north, true, 0}, "60°"},
+                             {45.51, {kDegreesMinutesSeconds, east, false, 0}, "46°"},
+                             {45.51, {kDegreesMinutesSeconds, east, false, 2}, "45°31'"},
+                             {45.51, {kDegreesMinutesSeconds, east, false, 3}, "45°30'36\""},
+                             {45.51, {kDegreesMinutesSeconds, east, false, 4}, "45°30'36\""},
+                             {45.5101, {kDegreesMinutesSeconds, east, false, 6}, "45°30'36.36\""},
+                             {59.9999, {kDegreesMinutesSeconds, east, false, 2}, "60°0'"},
+                             {59.9999, {kDegreesMinutesSeconds, east, false, 3}, "60°0'0\""},
+                             {359.9999, {kDegreesMinutesSeconds, east, false, 4}, "0°0'0\""},
+                             {90, {kGradians, east, false, 0}, "100g"},
+                             {45.45, {kGradians, east, false, 1}, "50.5g"},
+                             {90, {kRadians, east, false, 4}, "1.5708r"},
+                             {0, {kRadians, east, false, 4}, "0r"},
+                             {59.5, {kSurveyor, east, false, 2}, "N30°30'E"},
+                             {59.5, {kSurveyor, north, true, 2}, "N30°30'E"},
+                             {135, {kSurveyor, east, false, 0}, "N45°W"},
+                             {225, {kSurveyor, east, false, 0}, "S45°W"},
+                             {300, {kSurveyor, east, false, 0}, "S30°E"},
+                             {0, {kSurveyor, east, false, 0}, "N90°E"},
+                             {90, {kSurveyor, east, false, 0}, "N0°E"},
+                             {180, {kSurveyor, east, false, 0}, "N90°W"},
+                             {270, {kSurveyor, east, false, 0}, "S0°W"}})
+        EXPECT_EQ(angleText(each.degrees * M_PI / 180, each.units), QString::fromUtf8(each.text))
+            << each.degrees << " in style " << each.units.style;
+}
+
+TEST(Angles, ReadAsTheyAreWritten) {
+    for (int style = kDegrees; style <= kSurveyor; ++style)
+        for (int degrees = 0; degrees < 360; degrees += 7) {
+            const AngleUnits units{style, 0.5, true, 8};
+            const QString text = angleText(degrees * M_PI / 180, units);
+            const auto read = angleFromText(text, units);
+            ASSERT_TRUE(read) << text.toStdString();
+            EXPECT_NEAR(std::cos(*read - degrees * M_PI / 180), 1, 1e-9) << text.toStdString();
+        }
 }
 
 TEST(Angles, AreReadInEveryForm) {

@@ -12,7 +12,6 @@
 #include "standin/units/unit_text.h"
 
 #include <QCoreApplication>
-#include <cmath>
 
 using hostqt::qString;
 using standin::pointText;
@@ -25,7 +24,7 @@ QString tr(const char* text) { return QCoreApplication::translate("ListCommand",
 
 QString length(double value) { return standin::lengthText(value, standin::currentLengthUnits()); }
 QString number(double value) { return QString::number(value, 'g', 10); } // without a unit
-QString degrees(double radians) { return number(radians * 180 / M_PI); }
+QString angle(double radians) { return standin::angleText(radians, standin::currentAngleUnits()); }
 
 QString colorText(const OdDbEntity& entity) {
     if (entity.hasTrueColor())
@@ -47,9 +46,8 @@ QString circleText(const OdDbCircle& circle) {
 }
 
 QString arcText(const OdDbArc& arc) {
-    return tr("centre %1, radius %2, from %3 to %4 degrees")
-        .arg(pointText(arc.center()), length(arc.radius()), degrees(arc.startAngle()),
-             degrees(arc.endAngle()));
+    return tr("centre %1, radius %2, from %3 to %4")
+        .arg(pointText(arc.center()), length(arc.radius()), angle(arc.startAngle()), angle(arc.endAngle()));
 }
 
 QString polylineText(const OdDbPolylineBase& polyline) {
@@ -59,9 +57,9 @@ QString polylineText(const OdDbPolylineBase& polyline) {
 
 QString referenceText(const OdDbBlockReference& reference) {
     const OdGeScale3d scale = reference.scaleFactors();
-    return tr("block \"%1\" at %2, scale %3, %4, %5, rotation %6 degrees")
+    return tr("block \"%1\" at %2, scale %3, %4, %5, rotation %6")
         .arg(qString(reference.blockName()), pointText(reference.position()), number(scale.sx),
-             number(scale.sy), number(scale.sz), degrees(reference.rotation()));
+             number(scale.sy), number(scale.sz), angle(reference.rotation()));
 }
 
 QString singleLineText(const OdDbText& text) {

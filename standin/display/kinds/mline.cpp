@@ -13,7 +13,8 @@ enum Code { kVertex = 11, kDirection = 12, kMitre = 13, kParameterCount = 74, kP
 constexpr int kClosed = 2;     // in the flags of the object
 constexpr int kNoStartCap = 4; // in them, too
 constexpr int kNoEndCap = 8;   // in them, too
-constexpr int kJoints = 2;     // in the flags of the style, like those below
+constexpr int kFilled = 1;     // in the flags of the style, like those below
+constexpr int kJoints = 2;
 constexpr int kSquareStartCap = 16;
 constexpr int kRoundStartCap = 64;
 constexpr int kSquareEndCap = 256;
@@ -58,6 +59,7 @@ std::vector<Vertex> verticesOf(const DxfTagList& tags, DxfTagList::Range part) {
 
 struct Style {
     std::int64_t flags = 0;
+    std::optional<Ink> fill;
     std::vector<std::optional<Ink>> inks; // of the elements; none: that of the object
 };
 
@@ -76,13 +78,12 @@ Style styleOf(const OdDbEntity& mline) {
     for (const DxfTag& tag : tags) {
         if (tag.code == 49)
             style.inks.emplace_back();
-        if (style.inks.empty())
-            continue;
+        std::optional<Ink>& ink = style.inks.empty() ? style.fill : style.inks.back();
         const std::int64_t number = dxfInteger(tag.value());
         if (tag.code == 62 && number > 0 && number < OdDbEntity::kByLayer)
-            style.inks.back() = inkOfIndex(static_cast<int>(number));
+            ink = inkOfIndex(static_cast<int>(number));
         else if (tag.code == 420)
-            style.inks.back() = static_cast<Ink>(number) | 0xff000000u;
+            ink = static_cast<Ink>(number) | 0xff000000u;
     }
     return style;
 }
@@ -104,34 +105,81 @@ void drawSegment(const Vertex& from, const Vertex& to, std::size_t element, cons
     }
 }
 
-// A line across, and half a circle that lies outwards.
-void drawCap(const Vertex& vertex, bool square, const OdGeVector3d& outwards, const Pencil& pencil) {
-    const std::size_t count = vertex.elements.size();
-    const auto first = vertex.start(0), last = vertex.start(count > 0 ? count - 1 : 0);
-    if (!first || !last || count < 2)
-        return;
-    if (square)
-        pencil.path({*first, *last}, pencil.world());
-    if (outwards.length() == 0)
-        return;
-    const OdGeVector3d half = (*last - *first) * 0.5, out = outwards.normal() * half.length();
+// Where the last element is; a single one has nothing across.
+std::optional<OdGePoint3d> lastOf(const Vertex& vertex) {
+    return vertex.elements.size() < 2 ? std::nullopt : vertex.start(vertex.elements.size() - 1);
+}
+
+// Half a circle from one point to the other.
+std::vector<OdGePoint3d> halfCircle(const OdGePoint3d& first, const OdGePoint3d& last,
+                                    const OdGeVector3d& outwards) {
+    const OdGeVector3d half = (last - first) * 0.5, out = outwards.normal() * half.length();
     std::vector<OdGePoint3d> arc;
     for (int i = 0; i <= kPiecesOfCap; ++i) {
         const double turn = M_PI * i / kPiecesOfCap;
-        arc.push_back(*first + half * (1 - std::cos(turn)) + out * std::sin(turn));
+        arc.push_back(first + half * (1 - std::cos(turn)) + out * std::sin(turn));
     }
-    pencil.path(arc, pencil.world());
+    return arc;
 }
 
-void drawCaps(const std::vector<Vertex>& list, std::int64_t flags, const Style& style, const Pencil& pencil) {
+// What ends the line at a vertex.
+struct Cap {
+    const Vertex& vertex;
+    bool isSquare = false;   // a line across
+    OdGeVector3d outwards{}; // where half a circle lies; without a length: none
+
+    std::vector<OdGePoint3d> line() const {
+        const auto first = vertex.start(0), last = lastOf(vertex);
+        return isSquare && first && last ? std::vector<OdGePoint3d>{*first, *last}
+                                         : std::vector<OdGePoint3d>{};
+    }
+    std::vector<OdGePoint3d> arc() const {
+        const auto first = vertex.start(0), last = lastOf(vertex);
+        return outwards.length() > 0 && first && last ? halfCircle(*first, *last, outwards)
+                                                      : std::vector<OdGePoint3d>{};
+    }
+};
+
+std::vector<Cap> capsOf(const std::vector<Vertex>& list, std::int64_t flags, const Style& style) {
     const auto has = [&style](int flag) { return (style.flags & flag) != 0; };
-    const OdGeVector3d none(0, 0, 0);
-    if ((flags & kNoStartCap) == 0)
-        drawCap(list.front(), has(kSquareStartCap), has(kRoundStartCap) ? list.front().direction * -1 : none,
-                pencil);
-    const OdGeVector3d end = list[list.size() > 1 ? list.size() - 2 : 0].direction;
-    if ((flags & kNoEndCap) == 0)
-        drawCap(list.back(), has(kSquareEndCap), has(kRoundEndCap) ? end : none, pencil);
+    const OdGeVector3d none(0, 0, 0), end = list[list.size() > 1 ? list.size() - 2 : 0].direction;
+    const bool isClosed = (flags & kClosed) != 0;
+    std::vector<Cap> caps;
+    if (!isClosed && (flags & kNoStartCap) == 0)
+        caps.push_back(
+            {list.front(), has(kSquareStartCap), has(kRoundStartCap) ? list.front().direction * -1 : none});
+    if (!isClosed && (flags & kNoEndCap) == 0)
+        caps.push_back({list.back(), has(kSquareEndCap), has(kRoundEndCap) ? end : none});
+    for (std::size_t i = 1; has(kJoints) && i + (isClosed ? 0 : 1) < list.size(); ++i)
+        caps.push_back({list[i], true, none});
+    return caps;
+}
+
+void drawPath(const std::vector<OdGePoint3d>& points, const Pencil& pencil) {
+    if (points.size() > 1)
+        pencil.path(points, pencil.world());
+}
+
+// From the first element to the last, in pieces from vertex to vertex, with the caps.
+void drawFill(const std::vector<Vertex>& list, const std::vector<Cap>& caps, const Pencil& pencil) {
+    for (std::size_t i = 0; i + 1 < list.size(); ++i) {
+        const auto from = list[i].start(0), to = list[i + 1].start(0);
+        const auto fromLast = lastOf(list[i]), toLast = lastOf(list[i + 1]);
+        if (from && to && fromLast && toLast)
+            pencil.fill({*from, *to, *toLast, *fromLast}, pencil.world());
+    }
+    for (const Cap& cap : caps)
+        if (const std::vector<OdGePoint3d> arc = cap.arc(); !arc.empty())
+            pencil.fill(arc, pencil.world());
+}
+
+void drawElements(const std::vector<Vertex>& list, const Style& style, const Pencil& pencil) {
+    for (std::size_t element = 0; element < list.front().elements.size(); ++element) {
+        const bool hasInk = element < style.inks.size() && style.inks[element];
+        const Pencil own = hasInk ? pencil.inked(*style.inks[element]) : pencil;
+        for (std::size_t i = 0; i + 1 < list.size(); ++i)
+            drawSegment(list[i], list[i + 1], element, own);
+    }
 }
 
 } // namespace
@@ -144,19 +192,16 @@ void draw::mline(const OdDbEntity& entity, const Pencil& pencil) {
     const std::int64_t flags = tags.integer(part, 71);
     if (list.empty())
         return;
-    const bool isClosed = (flags & kClosed) != 0;
-    if (isClosed)
+    if ((flags & kClosed) != 0)
         list.push_back(list.front());
-    for (std::size_t element = 0; element < list.front().elements.size(); ++element) {
-        const bool hasInk = element < style.inks.size() && style.inks[element];
-        const Pencil own = hasInk ? pencil.inked(*style.inks[element]) : pencil;
-        for (std::size_t i = 0; i + 1 < list.size(); ++i)
-            drawSegment(list[i], list[i + 1], element, own);
+    const std::vector<Cap> caps = capsOf(list, flags, style);
+    if ((style.flags & kFilled) != 0)
+        drawFill(list, caps, style.fill ? pencil.inked(*style.fill) : pencil);
+    drawElements(list, style, pencil);
+    for (const Cap& cap : caps) {
+        drawPath(cap.line(), pencil);
+        drawPath(cap.arc(), pencil);
     }
-    if (!isClosed)
-        drawCaps(list, flags, style, pencil);
-    for (std::size_t i = 1; i + (isClosed ? 0 : 1) < list.size() && (style.flags & kJoints) != 0; ++i)
-        drawCap(list[i], true, {0, 0, 0}, pencil);
 }
 
 } // namespace standin
