@@ -13,6 +13,7 @@ CGroupMemberDlg::CGroupMemberDlg(QWidget* parent, const QStringList& listedTexts
       okButton(named(new QPushButton(QDialog::tr("OK"), this), "okButton")) {
     group_dialogs::setUpWindow(*this, "CGroupMemberDlg", QDialog::tr("Group Member List"), 245, 135);
     memberList->setSelectionMode(QAbstractItemView::NoSelection);
+    memberList->setAccessibleName(windowTitle());
     memberList->addItems(texts);
     auto* const column = new QVBoxLayout(this);
     column->addWidget(memberList);

@@ -5,6 +5,7 @@
 #include "sdk/rx/alloc.h"
 #include "sdk/rx/od_string.h"
 #include "sdk/rx/shared_empty.h"
+#include "sdk/rx/wide_text.h"
 
 #include <QLocale>
 #include <QString>
@@ -61,7 +62,7 @@ template <class Char> Char* joined(const Char* left, const Char* right, std::siz
 CXString::CXString() : buffer(sharedEmpty(char())) {}
 CXString::CXString(const char* text) : buffer(copyOf(text)) {}
 CXString::CXString(const wchar_t* text)
-    : buffer(copyOf(text ? QString::fromWCharArray(text).toLocal8Bit().constData() : nullptr)) {}
+    : buffer(copyOf(text ? odQString(text).toLocal8Bit().constData() : nullptr)) {}
 CXString::CXString(const CXString& other) : buffer(copyOf(other.buffer)) {}
 CXString::CXString(CXString&& other) noexcept : buffer(std::exchange(other.buffer, sharedEmpty(char()))) {}
 CXString::~CXString() { destroy(buffer); }

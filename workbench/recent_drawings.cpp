@@ -40,11 +40,8 @@ void addRecentDrawing(IParam* profile, const QString& path) {
     paths.removeAll(path);
     paths.prepend(path);
     const Ref<IParam> section = openChild(profile, sectionName, 1);
-    for (int i = 0; section && i < most && i < paths.size(); ++i) {
-        CKWVariant value;
-        value = paths[i].toStdWString().c_str();
-        section->setValue(keyOf(i).constData(), &value);
-    }
+    for (int i = 0; section && i < most && i < paths.size(); ++i)
+        writeValue(section.get(), keyOf(i).constData(), paths[i].toStdWString().c_str());
 }
 
 const char* recentDrawingsPath() { return sectionName; }

@@ -79,12 +79,8 @@ Settings readSettings(IParam* profile) {
 }
 
 void writeSetting(IParam* profile, const char* key, int number) {
-    const Ref<IParam> section = openChild(profile, "Workbench", 1);
-    if (!section)
-        return;
-    CKWVariant value;
-    value = number;
-    section->setValue(key, &value);
+    if (const Ref<IParam> section = openChild(profile, "Workbench", 1))
+        writeValue(section.get(), key, number);
 }
 
 } // namespace workbench

@@ -25,6 +25,7 @@ void DirsDialog::build() {
     lineEdit = new QLineEdit(startPath, this);
     lineEdit->setObjectName(QStringLiteral("lineEdit"));
     lineEdit->setCursorPosition(0);
+    lineEdit->setAccessibleName(tr("Folder"));
     okButton = new QPushButton(tr("OK"), this);
     okButton->setObjectName(QStringLiteral("okButton"));
     cancelButton = new QPushButton(tr("Cancel"), this);

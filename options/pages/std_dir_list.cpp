@@ -7,8 +7,6 @@ void appendTo(const Ref<StdDirList>& list, const Ref<IStdDirInfo>& info) {
 }
 
 void removeFrom(const Ref<StdDirList>& list, IStdDirInfo* info) {
-    if (!list || list->isClosed())
-        return;
-    if (auto* node = list->find(info))
+    if (auto* node = list ? list->find(info) : nullptr) // a closed one has none
         list->unlink(node);
 }

@@ -5,6 +5,7 @@
 #include "sdk/db/handle_text.h"
 #include "sdk/db/symbol_table.h"
 #include "sdk/dxf/unfilled_tags.h"
+#include "sdk/rx/wide_text.h"
 
 #include <QString>
 #include <algorithm>
@@ -14,7 +15,7 @@ std::wstring odDbFoldedName(const OdString& name) {
     std::wstring folded = name.wide();
     for (wchar_t& c : folded) {
         if (c >= 0x80)
-            return QString::fromStdWString(folded).toCaseFolded().toStdWString();
+            return odQString(folded).toCaseFolded().toStdWString();
         if (c >= L'A' && c <= L'Z')
             c += L'a' - L'A';
     }

@@ -3,13 +3,14 @@
 
 #include "sdk/db/database_impl.h"
 #include "sdk/db/xref_opening.h"
+#include "sdk/rx/wide_text.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 namespace {
 
-QString qt(const OdString& text) { return QString::fromStdWString(text.wide()); }
+QString qt(const OdString& text) { return odQString(text.wide()); }
 OdString od(const QString& text) { return text.toStdWString(); }
 
 void noteDependency(OdDbDatabase& database, const OdString& savedPath, const QFileInfo& found) {

@@ -2,6 +2,7 @@
 #include "sdk/db/xref_opening.h"
 
 #include "sdk/db/database_impl.h"
+#include "sdk/rx/wide_text.h"
 
 #include <QFileInfo>
 #include <algorithm>
@@ -50,8 +51,7 @@ OdDbXrefOpening::OdDbXrefOpening(OdDbDatabase& host) : isOutermost(!state()) {
         return;
     state() = std::make_unique<State>();
     state()->host = &host;
-    state()->way.push_back(
-        {QFileInfo(QString::fromStdWString(host.getFilename().wide())).canonicalFilePath()});
+    state()->way.push_back({QFileInfo(odQString(host.getFilename().wide())).canonicalFilePath()});
 }
 
 OdDbXrefOpening::~OdDbXrefOpening() {

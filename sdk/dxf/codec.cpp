@@ -2,6 +2,7 @@
 #include "sdk/dxf/codec.h"
 
 #include "sdk/dxf/code_pages.h"
+#include "sdk/rx/wide_text.h"
 
 #include <QTextCodec>
 
@@ -95,7 +96,7 @@ OdString DxfCodec::decode(std::string_view bytes) const {
 }
 
 std::string DxfCodec::encode(const OdString& text) const {
-    const QString oneLine = withEscapes(QString::fromStdWString(text.wide()));
+    const QString oneLine = withEscapes(odQString(text.wide()));
     const bool unicode = codec->name() == "UTF-8";
     if (unicode || codec->canEncode(oneLine))
         return codec->fromUnicode(oneLine).toStdString();

@@ -1,6 +1,7 @@
 // All reading and writing of files goes through here, so that no other code can leave half a file behind.
 #include "sdk/rx/file_bytes.h"
 
+#include "sdk/rx/wide_text.h"
 #include "sdk/rx/write_all.h"
 
 #include <QFile>
@@ -16,7 +17,7 @@ OdString messageFor(const OdString& path, const QString& reason) {
 
 // Opening a pipe would wait for its other end.
 void refuseToRead(const OdString& path) {
-    const QFileInfo present(QString::fromStdWString(path.wide()));
+    const QFileInfo present(odQString(path.wide()));
     if (present.isDir())
         throw OdError(eCantOpenFile, messageFor(path, "is a directory"));
     if (present.exists() && !present.isFile())
@@ -25,7 +26,7 @@ void refuseToRead(const OdString& path) {
 
 // A device or a pipe must never be replaced by a file.
 void refuseSpecialFile(const OdString& path) {
-    const QFileInfo present(QString::fromStdWString(path.wide()));
+    const QFileInfo present(odQString(path.wide()));
     if (present.exists() && !present.isFile())
         throw OdError(eFileWriteError, messageFor(path, "is not a regular file"));
 }
@@ -34,7 +35,7 @@ void refuseSpecialFile(const OdString& path) {
 
 OdFileStamp odFileStamp(const OdString& path) {
     struct stat found {};
-    if (stat(QFile::encodeName(QString::fromStdWString(path.wide())).constData(), &found) != 0)
+    if (stat(QFile::encodeName(odQString(path.wide())).constData(), &found) != 0)
         return {};
     constexpr std::uint64_t second = 1000000000;
     return {static_cast<std::uint64_t>(found.st_size),
@@ -45,7 +46,7 @@ OdFileStamp odFileStamp(const OdString& path) {
 
 std::string odReadFile(const OdString& path) {
     refuseToRead(path);
-    QFile file(QString::fromStdWString(path.wide()));
+    QFile file(odQString(path.wide()));
     if (!file.open(QIODevice::ReadOnly))
         throw OdError(eCantOpenFile, messageFor(path, file.errorString()));
     std::string bytes(static_cast<std::size_t>(file.size()), '\0');
@@ -64,7 +65,7 @@ std::string odReadFile(const OdString& path) {
 
 void odWriteFile(const OdString& path, const std::vector<std::string_view>& pieces) {
     refuseSpecialFile(path);
-    QSaveFile file(QString::fromStdWString(path.wide()));
+    QSaveFile file(odQString(path.wide()));
     bool good = file.open(QIODevice::WriteOnly);
     for (const std::string_view piece : pieces)
         good = good && odWriteAll(file, piece);

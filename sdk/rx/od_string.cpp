@@ -1,6 +1,8 @@
 // Wide texts and their conversions from and to bytes.
 #include "sdk/rx/od_string.h"
 
+#include "sdk/rx/wide_text.h"
+
 #include <QString>
 #include <clocale>
 #include <cwchar>
@@ -56,15 +58,12 @@ private:
 
 OdString::OdString(const char* text, OdCodePageId codePage) : value(decode(text, codePage)) {}
 
-std::string OdString::toLocal8Bit() const {
-    return QString::fromStdWString(value).toLocal8Bit().toStdString();
-}
+std::string OdString::toLocal8Bit() const { return odQString(value).toLocal8Bit().toStdString(); }
 
-std::string OdString::toUtf8() const { return QString::fromStdWString(value).toStdString(); }
+std::string OdString::toUtf8() const { return odQString(value).toStdString(); }
 
 int OdString::iCompare(const OdString& other) const {
-    return QString::compare(QString::fromStdWString(value), QString::fromStdWString(other.value),
-                            Qt::CaseInsensitive);
+    return QString::compare(odQString(value), odQString(other.value), Qt::CaseInsensitive);
 }
 
 int OdString::find(wchar_t character, int start) const {
@@ -86,7 +85,7 @@ OdString& OdString::trimRight() {
     return *this;
 }
 
-OdString OdString::makeUpper() const { return QString::fromStdWString(value).toUpper().toStdWString(); }
+OdString OdString::makeUpper() const { return odQString(value).toUpper().toStdWString(); }
 
 OdString& OdString::format(const wchar_t* pattern, ...) {
     std::va_list arguments;

@@ -1,6 +1,7 @@
 #include "standin/display/line_text.h"
 
 #include "sdk/db/mtext_codes.h"
+#include "sdk/rx/wide_text.h"
 #include "standin/display/flat.h"
 #include "standin/display/letters.h"
 
@@ -24,7 +25,7 @@ std::vector<Part> partsOf(const std::wstring& content) {
     std::vector<Part> parts{{}};
     for (std::size_t at = 0; at < content.size();) {
         if (const wchar_t sign = odDbPercentSign(content, at)) {
-            parts.back().text += QString::fromWCharArray(&sign, 1);
+            parts.back().text += odQString({&sign, 1});
             continue;
         }
         const bool isCode = content.compare(at, 2, L"%%") == 0 && at + 2 < content.size();
@@ -40,7 +41,7 @@ std::vector<Part> partsOf(const std::wstring& content) {
             parts.push_back(next);
             at += 3;
         } else {
-            parts.back().text += QString::fromWCharArray(&content[at++], 1);
+            parts.back().text += odQString({&content[at++], 1});
         }
     }
     return parts;

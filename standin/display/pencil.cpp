@@ -1,5 +1,6 @@
 #include "standin/display/pencil.h"
 
+#include "sdk/rx/wide_text.h"
 #include "standin/display/flat.h"
 #include "standin/display/item_builder.h"
 
@@ -86,7 +87,7 @@ bool Pencil::block(OdDbObjectId block, const OdGeMatrix3d& toWorld, const Repeat
 }
 
 void Pencil::missing(const OdGePoint3d& at, const OdString& name) const {
-    draw({Shape::Missing, {}, {flat(at)}, QString::fromStdWString(name.wide()).left(longestName)});
+    draw({Shape::Missing, {}, {flat(at)}, odQString(name.wide()).left(longestName)});
 }
 
 void Pencil::part(const OdDbEntity& entity) const { maker.add(entity, where); }

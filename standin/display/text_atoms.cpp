@@ -1,5 +1,6 @@
 #include "standin/display/text_atoms.h"
 
+#include "sdk/rx/wide_text.h"
 #include "standin/display/letters.h"
 
 #include <algorithm>
@@ -19,12 +20,9 @@ double endOf(const TextAtom& atom, double x, const TextLine& line) {
 }
 
 TextAtom stackOf(const OdDbTextPiece& piece) {
-    TextAtom atom{TextAtom::Stack,
-                  QString::fromStdWString(piece.text).trimmed(),
-                  QString::fromStdWString(piece.lower).trimmed(),
-                  piece.bar,
-                  0,
-                  piece.format};
+    TextAtom atom{
+        TextAtom::Stack, odQString(piece.text).trimmed(), odQString(piece.lower).trimmed(), piece.bar, 0,
+        piece.format};
     const double upper = widthOf(atom.text, piece.format) * kStackPart;
     const double lower = widthOf(atom.lower, piece.format) * kStackPart;
     atom.width =
@@ -65,7 +63,7 @@ private:
     }
 
     void addWords(const OdDbTextPiece& piece) {
-        const QString text = QString::fromStdWString(piece.text);
+        const QString text = odQString(piece.text);
         for (int at = 0; at < text.size();) {
             const bool isBlank = text[at] == QLatin1Char(' ');
             int end = at;

@@ -1,5 +1,6 @@
 #include "standin/display/unshown.h"
 
+#include "sdk/rx/wide_text.h"
 #include "standin/display/kinds.h"
 
 #include <QCoreApplication>
@@ -16,7 +17,7 @@ QString tr(const char* text) { return QCoreApplication::translate("Unshown", tex
 QString nameOf(const OdDbObjectId& id) {
     const auto entity = odrxQuery<OdDbEntity>(id.openObject(OdDb::kForRead, true).get());
     const QString kind = entity.isNull() ? QString() : QString::fromStdString(std::string(kindName(*entity)));
-    return kind + QLatin1Char(' ') + QString::fromStdWString(id.getHandle().ascii().wide());
+    return kind + QLatin1Char(' ') + odQString(id.getHandle().ascii().wide());
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "host/text.h"
 #include "sdk/db/database.h"
+#include "sdk/rx/wide_text.h"
 #include "standin/console/console.h"
 #include "standin/selection/editor_selection.h"
 
@@ -39,9 +40,9 @@ HostCommandIO* Document::commandIO() { return &io; }
 
 HostEditorSelection* Document::selection() { return editorSelection.get(); }
 
-QString Document::path() const { return QString::fromStdWString(filePath); }
+QString Document::path() const { return odQString(filePath); }
 
-QString Document::displayName() const { return QString::fromStdWString(name); }
+QString Document::displayName() const { return odQString(name); }
 
 void Document::setPath(const QString& path) {
     filePath = hostqt::stdWString(path);

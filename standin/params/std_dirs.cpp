@@ -71,7 +71,7 @@ Origin takeOrigin(std::vector<Origin>& left, IStdDirInfo& element) {
 
 Ref<IParam> newEntry(IStdDirInfo& element, const Origin& origin, const PathWords& words) {
     auto entry = Ref<IParam>::take(new_MemParam());
-    const QString path = words.contracted(QString::fromWCharArray(element.GetPath()));
+    const QString path = words.contracted(hostqt::qString(element.GetPath()));
     writeValue(entry.get(), pathValue, hostqt::cxStringW(path));
     writeValue(entry.get(), keyValue, origin.key.c_str());
     writeValue(entry.get(), editableValue, origin.editable);
@@ -87,7 +87,7 @@ std::vector<Ref<IParam>> takeEntries(const std::vector<Ref<IStdDirInfo>>& elemen
     std::vector<Origin> left;
     for (const auto& element : elements) {
         left.push_back({element->GetKey(), element->GetEditable()});
-        entries.push_back(takeEntry(before, QString::fromWCharArray(element->GetPath())));
+        entries.push_back(takeEntry(before, hostqt::qString(element->GetPath())));
     }
     for (const Ref<IParam>& kept : entries)
         if (kept)

@@ -3,6 +3,7 @@
 
 #include "host/modal_runner.h"
 #include "host/qt_ui_core.h"
+#include "host/text.h"
 #include "host/typed_reads.h"
 #include "standin/dialogs/paper_dialog.h"
 
@@ -68,7 +69,7 @@ bool StdPapers::AddPaper(QWidget* parent) {
 }
 
 bool StdPapers::ModifyPaper(const wchar_t* rowText, QWidget* parent) {
-    const QString text = QString::fromWCharArray(rowText ? rowText : L"");
+    const QString text = hostqt::qString(rowText);
     const auto found = findPaper(*this, text);
     if (!found) {
         host_qt_ui_core::QHostMessageBox::critical(

@@ -23,6 +23,11 @@ std::string ownOrParents(IParam* node, IParam* parent, const char* name) {
     return own.empty() ? textOf(parent, name) : own;
 }
 
+bool isVariable(IParam* node) {
+    int variable = 0;
+    return readValue(node, "sysvar", &variable) != 0 && variable != 0;
+}
+
 std::string pathOf(std::string section, const std::string& key) {
     std::replace(section.begin(), section.end(), '\\', '/');
     return section + '/' + key;
@@ -40,8 +45,8 @@ std::optional<ValueRange> limitsOf(IParam* node) {
 
 void collect(IParam* node, IParam* parent, ValueRanges& ranges) {
     const auto limits = limitsOf(node);
-    const std::string key = textOf(node, "Key");
-    if (limits && !key.empty() && ownOrParents(node, parent, "IFace") == "IProfile")
+    const std::string key = ownOrParents(node, parent, "Key");
+    if (limits && !key.empty() && !isVariable(node) && ownOrParents(node, parent, "IFace") == "IProfile")
         ranges[pathOf(ownOrParents(node, parent, "Section"), key)] = *limits;
     for (const std::string& name : childNames(node))
         collect(openChild(node, name.c_str()).get(), node, ranges);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/reference_files.h"
+#include "host/text.h"
 
 #include <QString>
 
@@ -12,7 +13,7 @@ namespace standin {
 class ReferenceFiles : public CKWUnknownImpl<IReferenceFiles> {
 public:
     CXStringW startFolder(OdDbDatabase* drawing) override;
-    void chosenIn(const wchar_t* folder) override { last = QString::fromWCharArray(folder); }
+    void chosenIn(const wchar_t* folder) override { last = hostqt::qString(folder); }
 
 private:
     QString last;

@@ -20,10 +20,9 @@ QString reasonOf(const OdError& error) {
 }
 
 HostCommandIO* console() {
-    HostDocumentManager* const documents = HostDocManager();
-    HostDocument* const document = documents ? documents->currentDocument() : nullptr;
-    if (document)
+    if (HostDocument* const document = currentDocument())
         return document->commandIO();
+    HostDocumentManager* const documents = HostDocManager();
     return documents ? documents->fallbackIO() : nullptr;
 }
 

@@ -22,7 +22,7 @@ const wchar_t* interned(std::wstring text) {
 const wchar_t* translateHostData(const wchar_t* text) {
     if (!text || !*text)
         return text;
-    const QByteArray source = QString::fromWCharArray(text).toUtf8();
+    const QByteArray source = hostqt::qString(text).toUtf8();
     return interned(hostqt::stdWString(QCoreApplication::translate("HostData", source)));
 }
 

@@ -1,6 +1,6 @@
 // What a user needs who reads the window by other means than its picture, or with long texts: names and
 // roles, focus that is seen, contrast, texts that are not cut.
-#include "tests/e2e/workbench_fixture.h"
+#include "tests/e2e/dialog_ways.h"
 
 #include "host/style.h"
 #include "standin/documents/document_manager.h"
@@ -14,6 +14,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QSpinBox>
@@ -27,10 +28,12 @@ namespace {
 class LongTexts : public QTranslator {
 public:
     QString translate(const char*, const char* text, const char*, int) const override {
-        const QString source = QString::fromUtf8(text);
+        return longer(QString::fromUtf8(text));
+    }
+    static QString longer(const QString& source) {
         const bool isWords =
             source.size() > 1 && source.at(0).isLetter() && !source.contains('%') && !source.contains('<');
-        return isWords ? source + QString((source.size() + 2) / 3, 'm') : QString();
+        return isWords ? source + QString((source.size() - source.count('&') + 2) / 3, 'm') : QString();
     }
     bool isEmpty() const override { return false; }
 };
@@ -56,7 +59,13 @@ std::string described(const QWidget* widget) {
     return std::string(widget->metaObject()->className()) + " " + widget->objectName().toStdString();
 }
 
-struct AccessibleTest : WorkbenchFixture {
+struct AccessibleTest : DialogWays {
+    QString inShownWords(const QString& line) const override {
+        const QString words = line.section(' ', 1);
+        return line.section(' ', 0, 0) + ' ' +
+               (words.endsWith("mm)") ? QString(words).replace("mm)", LongTexts::longer("mm") + ')')
+                                      : LongTexts::longer(words));
+    }
     static QList<QWidget*> controlsOf(QWidget& window) {
         QList<QWidget*> found;
         for (QWidget* const widget : window.findChildren<QWidget*>())
@@ -67,15 +76,14 @@ struct AccessibleTest : WorkbenchFixture {
     // Each dialog with each of its tabs in front.
     void inEachWindow(const std::function<void(QWidget&)>& look) {
         look(*bench->window());
-        for (const char* command : {"QPREF", "DWGPROPS", "GROUP", "VERSIONS"})
-            play({[this, command] { submit(command); },
-                  [&, command] {
-                      QWidget* dialog = QApplication::activeModalWidget();
-                      ASSERT_NE(dialog, nullptr) << command;
-                      SCOPED_TRACE(command);
-                      lookAtTabs(*dialog, look);
-                      workbenchCancel(*dialog);
-                  }});
+        for (const DialogWay& way : dialogWays())
+            open(way, [&] {
+                SCOPED_TRACE(way.title);
+                QWidget* const shown = dialog(way);
+                ASSERT_NE(shown, nullptr);
+                lookAtTabs(*shown, look);
+                workbench::cancelTopmost();
+            });
     }
     static void lookAtTabs(QWidget& dialog, const std::function<void(QWidget&)>& look) {
         auto* const tabs = dialog.findChild<QTabBar*>();
@@ -85,13 +93,6 @@ struct AccessibleTest : WorkbenchFixture {
             QCoreApplication::processEvents();
             look(dialog);
         }
-    }
-    static void workbenchCancel(QWidget& dialog) {
-        auto* const cancel = dialog.findChild<QAbstractButton*>("cancelButton");
-        if (cancel)
-            cancel->click();
-        else
-            static_cast<QDialog&>(dialog).reject();
     }
     // In the dark and in the light theme.
     static void inBothThemes(const std::function<void()>& look) {
@@ -111,6 +112,14 @@ TEST_F(AccessibleTest, EveryControlHasANameAndARole) {
             EXPECT_NE(interface->role(), QAccessible::NoRole) << described(control);
             EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty())
                 << described(control) << " has no name";
+        }
+    });
+}
+
+TEST_F(AccessibleTest, BoxesShowNamesAsTheyStand) {
+    inEachWindow([](QWidget& window) {
+        if (const auto* const box = qobject_cast<QMessageBox*>(&window)) {
+            EXPECT_EQ(box->textFormat(), Qt::PlainText) << box->text().toStdString();
         }
     });
 }
@@ -191,7 +200,7 @@ TEST_F(AccessibleTest, NoTextIsCutHoweverLong) {
     for (const bool isLong : {false, true}) {
         if (isLong) {
             QCoreApplication::installTranslator(&longer);
-            restart();
+            restartWithDrawing();
         }
         inBothThemes([this] {
             inEachWindow([](QWidget& window) {

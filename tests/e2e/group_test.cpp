@@ -81,13 +81,20 @@ TEST_F(GroupWorkbench, RemoveOptionRemovesWhatIsSelectedAndRestoresPickStyle) {
     EXPECT_EQ(highlighted(), 0);
 }
 
-TEST_F(GroupWorkbench, CancelInTheMiddleOfASelectionChangesNothingAndSaysSo) {
+TEST_F(GroupWorkbench, CancelInTheMiddleOfASelectionChangesNothing) {
     play({[this] { submit("-GROUP"); }, [this] { submit("Remove"); }, [this] { submit("STUDY"); },
           [this] { submit(chair); }, [this] { press(Qt::Key_Escape); }});
     EXPECT_EQ(membersOf(L"STUDY"), "15A 15C");
     EXPECT_EQ(pickStyle(), 1);
     EXPECT_EQ(highlighted(), 0);
     EXPECT_EQ(drawing().numActiveTransactions(), 0);
+    EXPECT_FALSE(drawing().isModified());
+}
+
+TEST_F(GroupWorkbench, ARunThatEndsWithoutAChangeSaysSo) {
+    play({[this] { submit("-GROUP"); }, [this] { submit("Add"); }, [this] { submit("STUDY"); },
+          [this] { press(Qt::Key_Escape); }});
+    EXPECT_EQ(lastLine(), QStringLiteral("Nothing was changed."));
     EXPECT_FALSE(drawing().isModified());
 }
 

@@ -114,6 +114,7 @@ TEST_F(NewerVersionTest, ABoxAsksInTheWindow) {
                   auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
                   ASSERT_NE(box, nullptr);
                   EXPECT_EQ(box->objectName(), "newerBox");
+                  EXPECT_EQ(box->property("textFormat").toInt(), int(Qt::PlainText));
                   EXPECT_TRUE(box->informativeText().contains("$SNAPMODE"));
                   box->button(button)->click();
               }});

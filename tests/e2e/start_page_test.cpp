@@ -1,6 +1,7 @@
 // What the start offers.
 #include "tests/e2e/drawing_fixture.h"
 
+#include "tests/support/tool_tip_text.h"
 #include "workbench/window/start_page.h"
 
 #include <QPushButton>
@@ -46,6 +47,15 @@ TEST_F(StartPageTest, ASampleIsOpenedAsACopy) {
 TEST_F(StartPageTest, ACommandIsStartedByItsEntry) {
     click("newButton");
     EXPECT_TRUE(waitUntil([&] { return title() == "Drawing2 - Workbench"; }));
+}
+
+TEST_F(StartPageTest, TellsTheWholePathAsItStands) {
+    const QString folder = root.filePath("R&D  <b>plans</b>"), path = folder + "/plan.dxf";
+    ASSERT_TRUE(QDir().mkpath(folder));
+    OdDbDatabase::createEmpty()->writeFile(hostqt::odString(path));
+    enter({"FILEDIA", "0", "OPEN", qPrintable(path)});
+    restart();
+    EXPECT_EQ(toolTipOf(*part<QPushButton>("recentButton0")), QDir::toNativeSeparators(path));
 }
 
 TEST_F(StartPageTest, DrawingsThatWereOpenedAreOfferedInTheNextRun) {

@@ -13,6 +13,7 @@
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QtTest>
+#include <array>
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
@@ -134,8 +135,13 @@ TEST_F(ReorderDialog, WrongPositionsAreRefusedEachWithItsMessage) {
 
 TEST_F(ReorderDialog, RefusedFieldGetsTheFocus) {
     dialog->show();
-    reorder("0", "9", "1");
-    EXPECT_EQ(dialog->focusWidget(), &in<QLineEdit>(*dialog, "newPositionEdit"));
+    const std::array<const char*, 4> refused[] = {
+        {"9", "0", "1", "removeFromEdit"}, {"0", "9", "1", "newPositionEdit"}, {"0", "1", "9", "countEdit"}};
+    for (const auto& [from, to, count, edit] : refused) {
+        reorder(from, to, count);
+        EXPECT_EQ(dialog->focusWidget(), &in<QLineEdit>(*dialog, edit)) << edit;
+        EXPECT_EQ(in<QLineEdit>(*dialog, edit).selectedText(), QStringLiteral("9")) << edit;
+    }
 }
 
 TEST_F(ReorderDialog, ReverseTellsIt) {
@@ -265,6 +271,14 @@ TEST_F(HighlightDialog, EachChangeRedrawsTheViews) {
     EXPECT_EQ(redraws, 1);
     DialogUser::clickIn(*dialog, "nextButton");
     EXPECT_EQ(redraws, 3);
+    DialogUser::clickIn(*dialog, "prevButton");
+    EXPECT_EQ(redraws, 5);
+    DialogUser::clickIn(*dialog, "okButton");
+    EXPECT_EQ(redraws, 6);
+    const auto other = make(L"TWO");
+    other->show();
+    other->close();
+    EXPECT_EQ(redraws, 8);
 }
 
 class OrderGroup : public GroupTest {

@@ -240,6 +240,16 @@ TEST_F(ConsoleOfTheDocument, IsUsedByEachCommand) {
     EXPECT_EQ(io.printed.size(), 5u);
 }
 
+TEST_F(ConsoleOfTheDocument, IsUsedByTheCommandsThatAskForObjects) {
+    static_cast<standin::ServiceHub*>(host.application())
+        ->add(Ref<ScriptedStep>::share(new ScriptedStep(io, host.vars)));
+    EXPECT_EQ(runWith<CCommandLineGroupUngroup>({picked(pick({5}))}), 1);
+    EXPECT_EQ(io.printed.back(), OdString(L"Object is not a member of a group."));
+    EXPECT_EQ(runWith<CCommandLineGroupCreate>({keyword(0), typed(L"G"), typed(L"NEW"), picked(pick({5}))}),
+              0);
+    EXPECT_EQ(io.printed.size(), 3u) << "the name is taken; what was made";
+}
+
 TEST_F(ConsoleOfTheDocument, IsToldOfAnUnreadablePickStyleAndOfWhatIsInNoGroup) {
     drawingVariables.failing = true;
     EXPECT_EQ(pickGroupMember(&selection, dictionary()->objectId()), 0);

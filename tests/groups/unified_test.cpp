@@ -217,6 +217,7 @@ TEST_F(UnifiedRemove, LosingAllMembersIsAskedAndCancelKeepsThem) {
                   QStringLiteral("You are trying to remove all entities from group 'G'. Continue?"));
         EXPECT_EQ(box.standardButtons(), QMessageBox::Ok | QMessageBox::Cancel);
         EXPECT_EQ(box.parentWidget(), nullptr);
+        EXPECT_EQ(box.textFormat(), Qt::PlainText) << "a name may look like markup";
         box.button(QMessageBox::Cancel)->click();
     });
     EXPECT_EQ(runUnified({keyword(3), typed(L"G")}), 1);

@@ -1,10 +1,13 @@
 // The dialog destroyed while it is open: whatever has the focus then loses it without reaching what is gone.
 #include "options/pages/searching_line_edit.h"
 #include "tests/options/options_fixture.h"
+#include "tests/support/test_habits.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
+#include <QtTest>
+#include <optional>
 
 namespace {
 
@@ -68,6 +71,32 @@ TEST_P(DestroyedOpen, WithTheFocusOnAControlItGoesQuietly) {
     focus(GetParam());
     destroy();
 }
+
+// As the workbench shows it.
+class DestroyedWithHabits : public DestroyedOpen {
+protected:
+    void SetUp() override {
+        habits.emplace(
+            std::set<DialogHabit>{DialogHabit::FocusStaysInOptions, DialogHabit::SearchWhileTyping});
+        DestroyedOpen::SetUp();
+    }
+    std::optional<TestHabits> habits;
+};
+
+TEST_P(DestroyedWithHabits, WithTheFocusOnAControlItGoesQuietly) {
+    focus(GetParam());
+    destroy();
+}
+
+TEST_P(DestroyedWithHabits, BeforeTheSearchForATypedTextBegins) {
+    focus("searchEdit");
+    QTest::keyClicks(control("searchEdit"), "paper");
+    focus(GetParam());
+    destroy();
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryControl, DestroyedWithHabits, testing::ValuesIn(allNames()),
+                         [](const auto& parameter) { return parameter.param; });
 
 INSTANTIATE_TEST_SUITE_P(EveryControl, DestroyedOpen, testing::ValuesIn(allNames()),
                          [](const auto& parameter) { return parameter.param; });

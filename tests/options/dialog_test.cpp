@@ -12,6 +12,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLayout>
+#include <QSignalSpy>
 #include <QTextEdit>
 #include <QToolBar>
 #include <QToolButton>
@@ -362,8 +363,12 @@ TEST_F(OptionsDialog, DoesNothingOnTheProfileListAndItsButton) {
     addCheck();
     OpenDialog dialog;
     dialog.profileCombo->addItem("other");
+    const QSignalSpy chosen(dialog.profileCombo, QOverload<int>::of(&QComboBox::currentIndexChanged));
+    const QSignalSpy clicked(dialog.profileButton, &QAbstractButton::clicked);
     dialog.profileCombo->setCurrentIndex(1);
     dialog.click("profileButton");
+    EXPECT_EQ(chosen.count(), 1);
+    EXPECT_EQ(clicked.count(), 1);
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(dialog.currentProfile, "default");
     EXPECT_TRUE(childNames(&host.profile()).empty());

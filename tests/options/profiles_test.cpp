@@ -89,6 +89,7 @@ protected:
     void answerNext(QMessageBox::StandardButton button) {
         inNext<QMessageBox>([this, button](QMessageBox& box) {
             asked = box.text();
+            EXPECT_EQ(box.textFormat(), Qt::PlainText) << "a name may look like markup";
             box.button(button)->click();
         });
     }

@@ -35,7 +35,9 @@ protected:
             "        Real: {Key: \"REAL\", Section: \"Deep\\\\Er\", Limits: !rsize [-0.5, 2.5]},\n"
             "        Free: {Key: \"FREE\"},\n"
             "        Grand: {Name: !wide \"x\", Child: {Key: \"MOST2\", Limits: !size [1, 2]}},\n"
-            "        Other: {Key: \"MOST\", Section: \"Else\", IFace: \"SysVar\", Limits: !size [5, 6]}}\n");
+            "        Other: {Key: \"MOST\", Section: \"Else\", IFace: \"SysVar\", Limits: !size [5, 6]}}\n"
+            "  Above: {IFace: \"IProfile\", Section: \"S\", Key: \"ABOVE\", Part: {Limits: !size [1, 9]},\n"
+            "          Sys: {Key: \"SYS\", sysvar: 1, Limits: !size [1, 9]}}\n");
     }
     void start(const QByteArray& profile) {
         application.reset();
@@ -73,6 +75,12 @@ TEST_F(ValueRangesTest, NumbersBeyondARangeCountAsItsEndAndAreTold) {
         problems,
         QStringList({name + ": Deep/Er/REAL is -3, which is not within -0.5 and 2.5; -0.5 counts.",
                      name + ": History/MOST is 2147483647, which is not within 1 and 100; 100 counts."}));
+}
+
+TEST_F(ValueRangesTest, ARowFindsItsKeyAboveItAndAVariableLimitsNoValueOfTheProfile) {
+    start("S: {ABOVE: 10, SYS: 10}\n");
+    EXPECT_EQ(intOf("S", "ABOVE"), 9);
+    EXPECT_EQ(intOf("S", "SYS"), 10);
 }
 
 TEST_F(ValueRangesTest, EndsOfARangeAreWithinItAndTextsAreLeftAlone) {

@@ -37,6 +37,7 @@ TEST_F(AttachHabits, AnAngleIsInDegreesWithTheUnitBesideItAndTurnsTheReference) 
     open(write("part.dxf"));
     EXPECT_EQ(control<QLabel>("angleUnitLabel")->text(), "degrees");
     EXPECT_EQ(text("angleEdit"), "0");
+    EXPECT_EQ(control<QLineEdit>("angleEdit")->toolTip(), "In degrees, as at the prompts of this drawing.");
     click("insertionOnScreenCheck");
     type("angleEdit", "90");
     click("okButton");

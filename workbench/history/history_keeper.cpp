@@ -3,6 +3,7 @@
 
 #include "host/app.h"
 #include "host/documents.h"
+#include "host/modal_runner.h"
 #include "host/qt_ui_core.h"
 #include "host/text.h"
 #include "sdk/rx/od_error.h"
@@ -27,6 +28,15 @@ namespace {
 // Kept as they stand here and translated where they are shown, in the context of the drawing properties.
 const char* const savedReason = QT_TRANSLATE_NOOP("QWidget", "Saved");
 const char* const replacedReason = QT_TRANSLATE_NOOP("QWidget", "Replaced by another drawing");
+
+// Empty, too, when the user cancels.
+QString reasonTypedInto(const QString& title, const QString& question) {
+    QInputDialog input(host_qt_ui_core::parentForDialog());
+    input.setObjectName(QStringLiteral("reasonBox"));
+    input.setWindowTitle(title);
+    input.setLabelText(question);
+    return runModal(input) == QDialog::Accepted ? input.textValue().trimmed() : QString();
+}
 
 } // namespace
 
@@ -91,9 +101,7 @@ QString HistoryKeeper::reasonFor(const Document& document, const QString& path) 
 QString HistoryKeeper::typedReason(const QString& path, const QString& otherwise) const {
     const QString name = QFileInfo(path).fileName();
     if (!files.asksOnConsole())
-        return QInputDialog::getText(host_qt_ui_core::parentForDialog(), tr("File version"),
-                                     tr("Why is the former version of %1 kept?").arg(name))
-            .trimmed();
+        return reasonTypedInto(tr("File version"), tr("Why is the former version of %1 kept?").arg(name));
     OdString answer;
     const QString prompt = tr("Reason for keeping the former version of %1 <%2>:").arg(name, otherwise);
     const int result = io.getInput(prompt.toStdWString().c_str(), nullptr, kAnyText, &answer, 0);

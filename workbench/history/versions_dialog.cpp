@@ -1,6 +1,7 @@
 // A version whose file is gone is listed, but can't be opened.
 #include "workbench/history/versions_dialog.h"
 
+#include "host/tool_tip.h"
 #include "workbench/history/history_keeper.h"
 
 #include <QFileInfo>
@@ -77,7 +78,7 @@ void VersionsDialog::fill() {
         const QString texts[] = {timeText(version), sizeText(version), reasonText(version)};
         for (int column = 0; column < 3; ++column) {
             auto* item = new QTableWidgetItem(texts[column]);
-            item->setToolTip(texts[column].toHtmlEscaped());
+            item->setToolTip(hostqt::plainToolTip(texts[column]));
             if (!canOpen(row))
                 item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
             versionsTable->setItem(row, column, item);

@@ -1,6 +1,7 @@
 // Prints what comes, keeps the view at the end, and hands typed lines on.
 #include "workbench/window/console_panel.h"
 
+#include "host/tool_tip.h"
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
 #include "workbench/window/console_line.h"
@@ -90,7 +91,7 @@ void ConsolePanel::showEnd() {
 
 void ConsolePanel::showPrompt() {
     promptLabel->setText(loop.prompt());
-    promptLabel->setToolTip(loop.prompt().toHtmlEscaped());
+    promptLabel->setToolTip(hostqt::plainToolTip(loop.prompt()));
 }
 
 void ConsolePanel::apply(const Settings& settings) {

@@ -129,10 +129,8 @@ void DialogPlaces::remember(const QWidget& dialog) const {
     const Ref<IParam> section = openChild(appService<IProfile>().get(), sectionName, 1);
     if (!section)
         return;
-    CKWVariant value;
-    value = QByteArray(QByteArray::number(dialog.width()) + 'x' + QByteArray::number(dialog.height()))
-                .constData();
-    section->setValue(keyOf(dialog).constData(), &value);
+    const QByteArray size = QByteArray::number(dialog.width()) + 'x' + QByteArray::number(dialog.height());
+    writeValue(section.get(), keyOf(dialog).constData(), size.constData());
 }
 
 } // namespace workbench

@@ -1,6 +1,8 @@
 // A column of entries, each of which takes the page away.
 #include "workbench/window/start_page.h"
 
+#include "host/tool_tip.h"
+
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
@@ -67,7 +69,7 @@ void StartPage::addDrawings(const QString& heading, const QString& name, const Q
         const QString path = paths[i];
         const QString shown = QFileInfo(path).fileName().replace(QLatin1Char('&'), QLatin1String("&&"));
         QPushButton* button = addEntry(QStringLiteral("%1Button%2").arg(name).arg(i), shown);
-        button->setToolTip(QDir::toNativeSeparators(path).toHtmlEscaped());
+        button->setToolTip(hostqt::plainToolTip(QDir::toNativeSeparators(path)));
         connect(button, &QPushButton::clicked, this, [this, path] { emit drawingChosen(path); });
     }
 }

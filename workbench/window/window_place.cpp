@@ -15,9 +15,7 @@ const char* const geometryKey = "WindowGeometry";
 const char* const stateKey = "WindowState";
 
 void store(IParam* section, const char* key, const QByteArray& bytes) {
-    CKWVariant value;
-    value = bytes.toBase64().constData();
-    section->setValue(key, &value);
+    writeValue(section, key, bytes.toBase64().constData());
 }
 
 QByteArray stored(IParam* section, const char* key) {

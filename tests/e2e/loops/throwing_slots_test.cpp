@@ -1,13 +1,10 @@
 // Every control of every dialog whose slot throws while other events wait: the dialog ends, its command says
 // why, and the workbench goes on.
-#include "tests/e2e/drawing_fixture.h"
-#include "workbench/script/window_actions.h"
+#include "tests/e2e/dialog_ways.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QFile>
-#include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
@@ -20,15 +17,6 @@
 namespace {
 
 using Act = std::function<void()>;
-
-struct Dialog {
-    const char* className;
-    // Lines of a script that open it, the first one names the command. "OTHER" stands for a drawing that is
-    // not open.
-    std::vector<const char*> way;
-};
-
-std::ostream& operator<<(std::ostream& stream, const Dialog& dialog) { return stream << dialog.className; }
 
 [[noreturn]] void fail() { throw std::runtime_error("a slot that fails"); }
 
@@ -63,16 +51,8 @@ Act armed(QWidget* control) {
     return nullptr;
 }
 
-struct ThrowingSlots : DrawingFixture, testing::WithParamInterface<Dialog> {
-    ThrowingSlots() {
-        QFile::copy(path, other);
-        enter({"FILEDIA", "1", "-GROUP", "Create", "OTHER", "", "0,40", ""});
-    }
-    static QWidget* dialog() {
-        QWidget* const open = QApplication::activeModalWidget();
-        return open && QString(open->metaObject()->className()).endsWith(GetParam().className) ? open
-                                                                                               : nullptr;
-    }
+struct ThrowingSlots : DialogWays, testing::WithParamInterface<DialogWay> {
+    static QWidget* dialog() { return DialogWays::dialog(GetParam()); }
     // One control of each kind and name; the Options dialog has thousands of rows.
     static QList<QWidget*> controls() {
         QList<QWidget*> found;
@@ -95,29 +75,7 @@ struct ThrowingSlots : DrawingFixture, testing::WithParamInterface<Dialog> {
                qobject_cast<const QLineEdit*>(control) || (bar && bar->count() > 1) ||
                qobject_cast<const QAbstractItemView*>(control);
     }
-    void open(const Act& whenOpen) {
-        std::vector<Act> steps;
-        for (const char* line : GetParam().way)
-            steps.emplace_back([this, text = QString(line).replace("OTHER", other)] { give(text); });
-        steps.push_back(whenOpen);
-        for (std::size_t i = 0; i < GetParam().way.size(); ++i) // what else is open
-            steps.emplace_back([] { workbench::cancelTopmost(); });
-        play(std::move(steps));
-    }
-    // What is done to a window comes from its own loop, so that a dialog that opens then has a loop within
-    // it.
-    void give(const QString& line) {
-        if (auto* const files = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
-            files->findChild<QLineEdit*>("fileNameEdit")->setText(line);
-            QMetaObject::invokeMethod(files, "accept", Qt::QueuedConnection);
-            return;
-        }
-        if (!line.startsWith('@'))
-            return submit(line);
-        const Act act = workbench::windowAction(line);
-        ASSERT_TRUE(act) << line.toStdString() << ": " << shown();
-        QTimer::singleShot(0, bench.get(), act);
-    }
+    void open(const Act& whenOpen) { DialogWays::open(GetParam(), whenOpen); }
     // The slot is left while events of several kinds wait for the same loop.
     void throwFrom(int number) {
         delivered = 0;
@@ -135,11 +93,6 @@ struct ThrowingSlots : DrawingFixture, testing::WithParamInterface<Dialog> {
             act();
         });
     }
-    static std::string shown() {
-        const QWidget* const open = QApplication::activeModalWidget();
-        return open ? open->metaObject()->className() + std::string(" is open") : "no dialog is open";
-    }
-    const QString other = root.filePath("other.dxf");
     QString name;
     int delivered = 0;
 };
@@ -166,22 +119,7 @@ TEST_P(ThrowingSlots, EndTheDialogWithTheCommandsMessageAndNothingElse) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Dialogs, ThrowingSlots,
-    testing::Values(
-        Dialog{"Preferences", {"QPREF"}}, Dialog{"dwgProps", {"DWGPROPS"}}, Dialog{"CGroupDlg", {"GROUP"}},
-        Dialog{"QFileDialog", {"XATTACH"}}, Dialog{"hostInsertExternalReferenceDialog", {"XATTACH", "OTHER"}},
-        Dialog{"CGroupReorderDlg", {"GROUP", "@click reorderButton"}},
-        Dialog{"CObjHighlightDlg", {"GROUP", "@click reorderButton", "@click highlightButton"}},
-        Dialog{"CGroupMemberDlg", {"GROUP", "@click findNameButton", "50,0"}},
-        Dialog{"AddDlg", {"DWGPROPS", "@click Custom", "@click addButton"}},
-        Dialog{"DirsDialog", {"QPREF", "@select Support files", "@click addButton"}},
-        Dialog{"QDialog", {"QPREF", "@select JPEG picture", "@click addButton"}},
-        Dialog{"ColorDialog",
-               {"QPREF", "@expand Display", "@expand Colours", "@click ColorCanvas", "@click ColorCanvas"}},
-        Dialog{"PaperDialog", {"QPREF", "@select A6 (105.00 x 148.00 mm)", "@click addButton"}},
-        Dialog{"QMessageBox", {"QPREF", "@select A6 (105.00 x 148.00 mm)", "@click deleteButton"}},
-        Dialog{"VersionsDialog", {"VERSIONS"}}),
-    [](const auto& tested) { return std::string(tested.param.className); });
+INSTANTIATE_TEST_SUITE_P(Dialogs, ThrowingSlots, testing::ValuesIn(dialogWays()),
+                         [](const auto& tested) { return std::string(tested.param.title); });
 
 } // namespace

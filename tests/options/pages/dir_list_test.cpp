@@ -200,7 +200,10 @@ TEST_F(DirLists, AMissingOrClosedListCountsAsEmptyAndTakesNothing) {
     EXPECT_TRUE(elementsOf(none).empty());
     const Ref<StdDirList> closed = listWith({L"/a"});
     closed->close();
-    appendTo(closed, made(L"/b"));
-    removeFrom(closed, made(L"/b").get());
+    const Ref<IStdDirInfo> offered = made(L"/b");
+    appendTo(closed, offered);
+    EXPECT_EQ(offered->AddRef(), 2) << "nobody else holds it";
+    offered->Release();
+    removeFrom(closed, offered.get());
     EXPECT_TRUE(elementsOf(closed).empty());
 }

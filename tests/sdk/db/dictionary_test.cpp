@@ -22,6 +22,17 @@ TEST_F(Dictionaries, NamesIgnoreCaseAndKeepTheirSpelling) {
     EXPECT_EQ(groupsOf(*database)->nameAt(id), OdString(L"WallS"));
 }
 
+TEST_F(Dictionaries, NamesThatDifferInAMarkOfTheByteOrderAreTwo) {
+    const OdDbObjectId plain = addGroup(*database, L"Study", {});
+    EXPECT_FALSE(groupsOf(*database)->has(L"\xFEFF"
+                                          L"Study"));
+    EXPECT_NE(addGroup(*database,
+                       L"\xFEFF"
+                       L"Study",
+                       {}),
+              plain);
+}
+
 TEST_F(Dictionaries, IteratorOfTypeZeroGoesInOrderOfInsertionAndTypeOneByName) {
     for (const wchar_t* name : {L"b", L"C", L"a"})
         addGroup(*database, name, {});

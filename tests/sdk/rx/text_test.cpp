@@ -41,6 +41,17 @@ TEST(OdStrings, AreComparedWithAndWithoutTheCaseOfLetters) {
     EXPECT_EQ(OdString(L"straße \u0436").makeUpper(), OdString(L"STRASSE \u0416"));
 }
 
+TEST(OdStrings, KeepAMarkOfTheByteOrderThatIsTheirFirstCharacter) {
+    const OdString marked(L"\xFEFF"
+                          L"a"),
+        plain(L"a");
+    EXPECT_NE(marked.iCompare(plain), 0);
+    EXPECT_EQ(marked.makeUpper(), OdString(L"\xFEFF"
+                                           L"A"));
+    EXPECT_EQ(marked.toUtf8(), "\xEF\xBB\xBF"
+                               "a");
+}
+
 TEST(OdStrings, FindCharactersFromAPlaceOn) {
     const OdString text(L"a;b;c");
     EXPECT_EQ(text.find(L';'), 1);
