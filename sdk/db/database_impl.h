@@ -7,6 +7,7 @@
 #include "sdk/db/header.h"
 #include "sdk/db/object.h"
 #include "sdk/db/reactor.h"
+#include "sdk/db/shared_handles.h"
 #include "sdk/db/stub.h"
 #include "sdk/dxf/codec.h"
 #include "sdk/rx/file_bytes.h"
@@ -91,6 +92,7 @@ public:
     OdDbStubStore stubs;
     std::size_t fileStubCount = 0;
     OdDbHandleMap handles;
+    OdDbSharedHandles sharedHandles;
     std::uint64_t nextHandle = 1;
     std::uint64_t takeHandle();     // one that is free
     std::vector<OdDbStub*> changed; // each record that was ever changed or new, once

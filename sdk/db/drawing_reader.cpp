@@ -367,14 +367,25 @@ void OdDbDrawingReader::registerHandle(OdDbStub& stub) {
     stub.handle = record.handle;
     if (record.handle != 0 && record.handle < kHighestHandle && impl.handles.insert(&stub))
         return;
-    const OdDbStub* const former =
-        record.handle < kHighestHandle ? impl.handles.find(record.handle) : nullptr;
+    OdDbStub* const former = record.handle < kHighestHandle ? impl.handles.find(record.handle) : nullptr;
     if (former)
-        warn(record.start, L"an object with the handle of another one", former->source);
-    else if (record.handlePlace)
+        return shareHandle(stub, *former);
+    if (record.handlePlace)
         warn(record.handlePlace, L"an object with an unusable handle");
     stub.handle = 0;
     unnumbered.push_back(&stub);
+}
+
+// The first keeps the number, but an entity gives it to an object: dictionaries would lead to nothing.
+void OdDbDrawingReader::shareHandle(OdDbStub& stub, OdDbStub& former) {
+    warn(record.start, L"an object with the handle of another one", former.source);
+    const bool isObject = place == Place::Objects;
+    OdDbStub& loser = isObject && former.has(OdDbStub::kEntity) ? former : stub;
+    impl.sharedHandles.add(record.handle, &loser);
+    if (&loser == &former)
+        impl.handles.replace(&stub);
+    loser.handle = 0;
+    unnumbered.push_back(&loser);
 }
 
 void OdDbDrawingReader::fail(const char* position, const OdString& reason, OdResult code) const {

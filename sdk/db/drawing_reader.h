@@ -48,6 +48,7 @@ private:
     void leaveSection(OdDbStub& stub);
     OdDbStub& addStub(const char* end, std::uint8_t flags);
     void registerHandle(OdDbStub& stub);
+    void shareHandle(OdDbStub& stub, OdDbStub& former);
     std::uint16_t typeNumber(std::string_view name);
 
     void readHeader();

@@ -17,8 +17,21 @@ OdDbMissingHandles::OdDbMissingHandles(OdDbDatabaseImpl& database) : impl(databa
     if (!impl.fileHasHandles)
         return;
     for (OdDbStub* stub : impl.changed)
-        if (!stub->has(OdDbStub::kErased) && !stub->has(OdDbStub::kUnwritten))
+        if (!stub->has(OdDbStub::kErased) && !stub->has(OdDbStub::kUnwritten) && isOtherThanInFile(*stub))
             lookThrough(*stub);
+    followReferences();
+    if (loserIsWanted) {
+        lookThroughGroups();
+        followReferences();
+    }
+}
+
+// What was changed and undone refers to what it did before, and nothing has to be renumbered for that.
+bool OdDbMissingHandles::isOtherThanInFile(OdDbStub& stub) const {
+    return impl.sharedHandles.empty() || impl.load(stub)->tagsForFile().bytes() != stub.bytes();
+}
+
+void OdDbMissingHandles::followReferences() {
     while (!open.empty()) {
         OdDbStub& stub = *open.back();
         open.pop_back();
@@ -33,7 +46,27 @@ void OdDbMissingHandles::lookThrough(OdDbStub& stub) {
     const OdDbObjectPtr object = impl.load(stub);
     for (const DxfTag& tag : object->tags())
         if (dxfIsReference(tag.code))
-            want(impl.handles.find(dxfHandle(tag.value())));
+            wantNumber(dxfHandle(tag.value()));
+}
+
+// Others that have the number in the file get another one there, or who reads it may take them for this one.
+void OdDbMissingHandles::wantNumber(std::uint64_t number) {
+    want(impl.handles.find(number));
+    for (OdDbStub* loser : impl.sharedHandles.losersOf(number)) {
+        loserIsWanted = true;
+        want(loser);
+    }
+}
+
+// An entity that is renumbered may be a member of groups that are not changed themselves.
+void OdDbMissingHandles::lookThroughGroups() {
+    for (std::size_t i = 0; i < impl.fileStubCount; ++i) {
+        OdDbStub& stub = impl.stubs[i];
+        if (stub.has(OdDbStub::kErased) || impl.typeName(stub) != "GROUP")
+            continue;
+        wanted.insert(&stub);
+        lookThrough(stub);
+    }
 }
 
 void OdDbMissingHandles::want(OdDbStub* stub) {

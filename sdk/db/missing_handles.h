@@ -17,11 +17,16 @@ public:
     bool concerns(const OdDbStub& stub) const { return !wanted.empty() && wanted.count(&stub) != 0; }
 
 private:
+    bool isOtherThanInFile(OdDbStub& stub) const;
+    void followReferences();
     void lookThrough(OdDbStub& stub);
+    void lookThroughGroups();
+    void wantNumber(std::uint64_t number);
     void want(OdDbStub* stub);
     void addOwner(const OdDbStub& stub, DxfTagList& tags) const;
 
     OdDbDatabaseImpl& impl;
     std::unordered_set<const OdDbStub*> wanted;
+    bool loserIsWanted = false;             // one of several with one handle
     std::vector<OdDbStub*> unwritten, open; // open: not yet looked through
 };

@@ -37,6 +37,13 @@ bool OdDbHandleMap::insert(OdDbStub* stub) {
     return true;
 }
 
+void OdDbHandleMap::replace(OdDbStub* stub) {
+    if (stub->handle < plainEnd)
+        plain[static_cast<std::size_t>(stub->handle)] = stub;
+    else
+        cells[slotOf(stub->handle)] = stub;
+}
+
 OdDbStub* OdDbHandleMap::find(std::uint64_t handle) const {
     if (handle < plainEnd)
         return handle < plain.size() ? plain[static_cast<std::size_t>(handle)] : nullptr;

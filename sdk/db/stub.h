@@ -60,6 +60,8 @@ public:
     void expectHandlesBelow(std::uint64_t number) { plainEnd = number; }
     // False, and nothing changed, when the handle is taken.
     bool insert(OdDbStub* stub);
+    // In the place of the one that has the handle of this one.
+    void replace(OdDbStub* stub);
     OdDbStub* find(std::uint64_t handle) const;
     // Of those that leave room for as many again; the few that a damaged file has above them are not counted.
     std::uint64_t highest() const { return top; }

@@ -112,6 +112,15 @@ class CarelessWithEzdxf(unittest.TestCase):
                 write(path, tags)
                 self.expect_group(path)
 
+    def test_the_first_of_two_with_one_handle_in_a_group(self):
+        path, out = self.path / "twice.dxf", self.path / "grouped.dxf"
+        write(path, [(5, "2F") if tag == (5, "31") else tag for tag in minimal("AC1015", 4, True)])
+        tool("change", path, out, "group-first")
+        doc = ezdxf.readfile(out)
+        self.assertEqual([], [e.message for e in doc.audit().errors])
+        self.assertEqual([(0, 0)], [entity.dxf.start.vec2 for entity in doc.groups.get("First")])
+        self.assertEqual(4, len(doc.modelspace()))
+
     def test_no_header(self):
         tags = minimal("AC1015", 3, False)
         objects = [(0, "SECTION"), (2, "OBJECTS"), (0, "ENDSEC")]

@@ -183,8 +183,11 @@ void change(OdDbDatabase& database, const QString& what) {
         addLayer(database, L"Added");
     if (what.contains("entities"))
         addEntities(database);
-    if (what.contains("group"))
-        addGroup(database, L"Everything", modelSpace(database)->entityIds());
+    const OdDbObjectIdArray all = modelSpace(database)->entityIds();
+    if (what.contains("group-first"))
+        addGroup(database, L"First", {all.front()});
+    else if (what.contains("group"))
+        addGroup(database, L"Everything", all);
     if (what.contains("summary"))
         setSummary(database);
     if (what.contains("xref"))

@@ -14,7 +14,7 @@ import ezdxf
 import ezdxf.recover
 from ezdxf.entities import DXFGraphic
 
-from corpus import CORPUS, NO_PROPERTIES_BY_EZDXF, UNREAD_BY_EZDXF, name_of, read_somehow, read_strictly
+from corpus import CORPUS, NO_PROPERTIES_BY_EZDXF, UNREAD_BY_EZDXF, name_of, read_somehow
 
 DXFLIB = sys.argv.pop()
 TOOL = sys.argv.pop()
@@ -22,6 +22,13 @@ TOOL = sys.argv.pop()
 COUNTED = {"POINT": "POINT", "LINE": "LINE", "ARC": "ARC", "CIRCLE": "CIRCLE", "ELLIPSE": "ELLIPSE", "SPLINE": "SPLINE",
            "HATCH": "HATCH", "MTEXT": "MTEXT", "TEXT": "TEXT", "INSERT": "INSERT", "LWPOLYLINE": "POLYLINE",
            "POLYLINE": "POLYLINE"}
+# A strict reader refuses these for what they came with, also when we saved them with a group.
+NOT_STRICT_WITH_A_GROUP = {
+    "bent/no_end_of_file": "what follows the last section is as it was",
+    "dia/round": "its points have no y coordinates",
+    "fig2dev/text": "its points have no y coordinates",
+}
+UNREAD_WITH_A_GROUP = set(UNREAD_BY_EZDXF) - {"bent/no_handles"}  # which got them with the group
 NOT_FOR_DXFLIB = {"bent/cr": "it knows no carriage returns alone as line ends"}
 
 
@@ -29,7 +36,8 @@ def described(entity):
     """The common properties in the form of our tool's report."""
     dxf = entity.dxf
     result = {"kind": entity.dxftype(), "layer": dxf.get("layer", "0"), "linetype": dxf.get("linetype", "BYLAYER").upper(),
-              "paper": bool(dxf.get("paperspace", 0)), "visible": not dxf.get("invisible", 0)}
+              "paper": bool(dxf.get("paperspace", 0)), "visible": not dxf.get("invisible", 0),
+              "weight": dxf.get("lineweight", -1), "scale": dxf.get("ltscale", 1), "transparency": dxf.get("transparency", 0)}
     if dxf.hasattr("true_color"):
         result["rgb"] = dxf.true_color & 0xffffff
     else:
@@ -82,9 +90,8 @@ class Corpus(unittest.TestCase):
 
     def assert_group_is_whole(self, path, found):
         count = len(found["entities"])
-        self.assertEqual(found["members"], count)
         file = self.folder / "grouped.dxf"
-        grouped = ezdxf.readfile(file) if read_strictly(path) else ezdxf.recover.readfile(file)[0]
+        grouped = ezdxf.recover.readfile(file)[0] if name_of(path) in NOT_STRICT_WITH_A_GROUP else ezdxf.readfile(file)
         members = {entity.dxf.handle for entity in grouped.groups.get("EVERYTHING")} if count else set()
         drawn = {entity.dxf.handle for entity in grouped.modelspace() if isinstance(entity, DXFGraphic)}
         self.assertEqual(members, drawn)
@@ -97,14 +104,15 @@ class Corpus(unittest.TestCase):
 
     def assert_contract(self, path):
         name, found = name_of(path), found_by_us(path, self.folder)
+        self.assertEqual(found["fault"], "")
+        self.assertEqual(found["members"], len(found["entities"]))
         self.assert_bytes_come_back(path)
         if name not in NOT_FOR_DXFLIB:
             self.assert_counts(path, found)
-        if name in UNREAD_BY_EZDXF:
-            return
-        if name not in NO_PROPERTIES_BY_EZDXF:
+        if name not in {*UNREAD_BY_EZDXF, *NO_PROPERTIES_BY_EZDXF}:
             self.assert_same_properties(path, found)
-        self.assert_group_is_whole(path, found)
+        if name not in UNREAD_WITH_A_GROUP:
+            self.assert_group_is_whole(path, found)
 
     def test_each_drawing_keeps_the_contract(self):
         for path in CORPUS:

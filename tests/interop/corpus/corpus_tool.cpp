@@ -7,6 +7,9 @@
 #include "sdk/db/entity.h"
 #include "sdk/db/group.h"
 #include "sdk/db/newer_version.h"
+#include "sdk/rx/file_bytes.h"
+#include "sdk/rx/wide_text.h"
+#include "tests/sdk/dxf/reading_contract.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -15,18 +18,22 @@
 
 namespace {
 
-QString qt(const OdString& text) { return QString::fromStdWString(text.wide()); }
+QString qt(const OdString& text) { return odQString(text.wide()); }
 
 OdDbBlockTableRecordPtr modelSpace(OdDbDatabase& database) {
     return odrxCast<OdDbBlockTableRecord>(database.getModelSpaceId().safeOpenObject());
 }
 
+double numberIn(const OdDbEntity& entity, int code, double otherwise) {
+    const std::size_t tag = entity.commonTag(code);
+    return tag == DxfTagList::npos ? otherwise : dxfReal(entity.tags()[tag].value());
+}
+
 QJsonObject described(const OdDbEntity& entity) {
-    QJsonObject result{{"kind", qt(entity.dxfName())},
-                       {"layer", qt(entity.layer())},
-                       {"linetype", qt(entity.linetype())},
-                       {"paper", entity.isInPaperSpace()},
-                       {"visible", entity.isVisible()}};
+    QJsonObject result{{"kind", qt(entity.dxfName())},      {"layer", qt(entity.layer())},
+                       {"linetype", qt(entity.linetype())}, {"paper", entity.isInPaperSpace()},
+                       {"visible", entity.isVisible()},     {"weight", numberIn(entity, 370, -1)},
+                       {"scale", numberIn(entity, 48, 1)},  {"transparency", numberIn(entity, 440, 0)}};
     if (entity.hasTrueColor())
         result["rgb"] = static_cast<int>(entity.trueColor());
     else
@@ -86,6 +93,7 @@ OdDbDatabasePtr withGroups(OdDbDatabasePtr database) {
 int run(const OdString& in, const OdString& folder) {
     const OdDbDatabasePtr database = OdDbDatabase::readFile(in);
     QJsonObject found{{"version", qt(database->versionName())},
+                      {"fault", QString::fromStdString(faultOfReading(odReadFile(in)))},
                       {"warnings", warningsOf(*database)},
                       {"entities", describedEntities(*database)},
                       {"counts", countedEverywhere(*database)}};
