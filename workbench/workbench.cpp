@@ -228,8 +228,9 @@ void Workbench::report(const QString& problem) {
 }
 
 void Workbench::printTranscript() {
-    connect(&io, &Console::lineWritten, this, [](const QString& line) {
-        std::printf("%s\n", line.toLocal8Bit().constData());
+    connect(&io, &Console::linesWritten, this, [](const QStringList& lines) {
+        for (const QString& line : lines)
+            std::printf("%s\n", line.toLocal8Bit().constData());
         std::fflush(stdout);
     });
 }

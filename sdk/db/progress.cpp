@@ -15,3 +15,9 @@ void odDbReportProgress(OdDbProgressMeter::Work work, double part) {
     if (progressMeter && !progressMeter->proceed(work, part))
         throw OdError(eUserBreak, L"cancelled");
 }
+
+void odDbReportProgress(OdDbProgressMeter::Work work, std::size_t done, std::size_t all) {
+    const std::size_t step = 500;
+    if (done % step == 0 || done == all)
+        odDbReportProgress(work, done == all ? 1 : static_cast<double>(done) / static_cast<double>(all));
+}

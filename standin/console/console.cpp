@@ -88,10 +88,10 @@ void Console::printFormatted(const wchar_t* text, ...) { write(hostqt::qString(t
 void Console::write(const QString& text) {
     const QStringList parts = (partialLine + withoutControls(text)).split(QLatin1Char('\n'));
     partialLine = parts.last();
-    for (int i = 0; i + 1 < parts.size(); ++i) {
-        lines.append(parts[i]);
-        emit lineWritten(parts[i]);
-    }
+    const QStringList whole = parts.mid(0, parts.size() - 1);
+    lines.append(whole);
+    if (!whole.isEmpty())
+        emit linesWritten(whole);
 }
 
 void Console::finishLine() {

@@ -82,7 +82,7 @@ public:
     OdGePoint3d inputPoint() const override { return cursor; }
 
 signals:
-    void lineWritten(const QString& line);
+    void linesWritten(const QStringList& lines);
     void promptChanged(); // a prompt was opened or closed
     void inputArrived();
 

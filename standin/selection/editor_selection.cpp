@@ -3,6 +3,8 @@
 
 #include "host/text.h"
 #include "sdk/db/block_table.h"
+#include "sdk/db/progress.h"
+#include "sdk/rx/od_error.h"
 #include "standin/console/console.h"
 #include "standin/selection/group_members.h"
 
@@ -53,12 +55,24 @@ public:
             highlight(id, false);
         HostUpdateDisplay();
     }
-    void add(const OdDbObjectIdArray& found) {
-        for (const OdDbObjectId& id : found)
-            if (taken.insert(id).second) {
-                ids.push_back(id);
-                highlight(id, true);
+    // All of them, or none when the user cancels.
+    bool add(const OdDbObjectIdArray& found) {
+        const std::size_t before = ids.size();
+        try {
+            for (std::size_t i = 0; i < found.size(); ++i) {
+                if (taken.insert(found[i]).second) {
+                    ids.push_back(found[i]);
+                    highlight(found[i], true);
+                }
+                odDbReportProgress(OdDbProgressMeter::kSelecting, i + 1, found.size());
             }
+            return true;
+        } catch (const OdError& error) {
+            if (error.code() != eUserBreak)
+                throw;
+        }
+        remove({ids.begin() + static_cast<std::ptrdiff_t>(before), ids.end()});
+        return false;
     }
     void remove(const OdDbObjectIdArray& found) {
         ids = without(ids, found);
@@ -195,9 +209,10 @@ bool EditorSelection::takeSecondCorner(Collection& collection, const OdGePoint3d
 void EditorSelection::collect(Collection& collection, const OdDbObjectIdArray& found, bool removing) {
     if (removing)
         collection.remove(found);
-    else
-        collection.add(found);
+    const bool isDone = removing || collection.add(found);
     HostUpdateDisplay();
+    if (!isDone)
+        return io.print(Console::tr("*Cancel*"));
     io.print(Console::tr("%1 found, %2 in all.").arg(found.size()).arg(collection.ids.size()));
 }
 

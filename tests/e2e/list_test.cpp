@@ -1,6 +1,10 @@
 // What LIST tells about objects, in the units of the drawing.
+#include "sdk/db/progress.h"
 #include "tests/e2e/drawing_fixture.h"
+#include "tests/support/mixed_drawing.h"
 #include "tests/support/text_file.h"
+
+#include <set>
 
 namespace {
 
@@ -66,6 +70,60 @@ TEST_F(ListTest, FollowsTheUnitsOfTheDrawing) {
     enter({"ANGDIR", "1"});
     EXPECT_TRUE(list().join('\n').contains(QString::fromUtf8("from 67°30'0\" to 330°0'0\"")))
         << "clockwise from north";
+}
+
+// The user who cancels at the second report.
+class Impatient : public OdDbProgressMeter {
+public:
+    Impatient() { odDbSetProgressMeter(this); }
+    ~Impatient() override { odDbSetProgressMeter(former); }
+    Impatient(const Impatient&) = delete;
+    Impatient& operator=(const Impatient&) = delete;
+    bool proceed(Work work, double) override {
+        works.insert(work);
+        return ++reports < 2;
+    }
+    std::set<Work> works;
+
+private:
+    OdDbProgressMeter* const former = odDbProgressMeter();
+    int reports = 0;
+};
+
+struct LongWork : DrawingFixture {
+    LongWork() {
+        const QString file = root.filePath("many.dxf");
+        mixedDrawing(1200)->writeFile(hostqt::odString(file));
+        static_cast<standin::DocumentManager*>(HostDocManager())->openFile(file);
+    }
+};
+
+TEST_F(LongWork, ASelectionThatIsCancelledSelectsNothingMore) {
+    const Impatient user;
+    play({[this] { submit("SELECT"); }, [this] { submit("All"); },
+          [this] {
+              EXPECT_EQ(lastLine(), "*Cancel*");
+              for (const OdDbObjectId& id : entities())
+                  EXPECT_FALSE(odrxCast<OdDbEntity>(id.safeOpenObject())->isHighlighted());
+          },
+          [this] { submit(""); }});
+    EXPECT_EQ(user.works, std::set<OdDbProgressMeter::Work>{OdDbProgressMeter::kSelecting});
+    EXPECT_EQ(selected(), std::vector<int>());
+}
+
+TEST_F(LongWork, AListThatIsCancelledEnds) {
+    enter({"SELECT", "All", ""});
+    EXPECT_TRUE(transcript().contains("1200 found, 1200 in all."));
+    const int before = transcript().size();
+    {
+        const Impatient user;
+        enter({"LIST"});
+        EXPECT_EQ(user.works, std::set<OdDbProgressMeter::Work>{OdDbProgressMeter::kListing});
+    }
+    EXPECT_EQ(lastLine(), "LIST: cancelled");
+    EXPECT_EQ(transcript().mid(before).filter("  handle ").size(), 1000) << "the parts that were done";
+    enter({"LIST"});
+    EXPECT_EQ(transcript().mid(before).filter("  handle ").size(), 2200);
 }
 
 } // namespace

@@ -113,7 +113,7 @@ TEST_F(DocumentsTest, WhatWasFoundInADrawingIsToldOnceWhenItIsOpened) {
                               "line 8: \"1,5\" is no number for the group code 10",
                               "line 11: the file has no end mark"};
     QStringList told;
-    QObject::connect(&console, &Console::lineWritten, [&told](const QString& text) { told << text; });
+    QObject::connect(&console, &Console::linesWritten, [&told](const QStringList& lines) { told << lines; });
     documents.openFile(path);
     EXPECT_EQ(told, notices);
     documents.openCopy(path, "Copy");

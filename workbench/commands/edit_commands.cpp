@@ -3,6 +3,7 @@
 
 #include "host/text.h"
 #include "sdk/db/database.h"
+#include "sdk/db/progress.h"
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
 #include "standin/documents/document_manager.h"
@@ -10,6 +11,7 @@
 #include "workbench/commands/object_text.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 
 using namespace standin;
 
@@ -52,6 +54,20 @@ void select(const CommandScope& scope) {
     selectObjects(scope, &set);
 }
 
+// Printed in parts: a line at a time, the console takes longer than all the rest.
+void listObjects(const CommandScope& scope, const OdDbObjectIdArray& ids) {
+    const std::size_t most = 500;
+    const GroupNames groups(*scope.documents.currentOne()->database(), ids);
+    for (std::size_t from = 0; from < ids.size(); from += most) {
+        const std::size_t to = std::min(from + most, ids.size());
+        QStringList lines;
+        for (std::size_t i = from; i < to; ++i)
+            lines += objectText(ids[i], groups);
+        scope.console.print(lines.join(QLatin1Char('\n')));
+        odDbReportProgress(OdDbProgressMeter::kListing, to, ids.size());
+    }
+}
+
 // What is selected already is taken without asking.
 void list(const CommandScope& scope) {
     hostSelectionSetPtr set = scope.documents.currentOne()->editor().getSelection();
@@ -59,10 +75,7 @@ void list(const CommandScope& scope) {
         return;
     OdDbObjectIdArray ids;
     set->objectIds(ids);
-    const GroupNames groups(*scope.documents.currentOne()->database(), ids);
-    for (const OdDbObjectId& id : ids)
-        for (const QString& line : objectText(id, groups))
-            scope.console.print(line);
+    listObjects(scope, ids);
 }
 
 } // namespace

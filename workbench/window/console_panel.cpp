@@ -70,8 +70,8 @@ void ConsolePanel::layOut() {
 }
 
 void ConsolePanel::connectSignals() {
-    connect(&io, &Console::lineWritten, transcriptView, [this](const QString& line) {
-        transcriptView->appendPlainText(line);
+    connect(&io, &Console::linesWritten, transcriptView, [this](const QStringList& lines) {
+        transcriptView->appendPlainText(lines.join(QLatin1Char('\n')));
         showEnd();
     });
     connect(&io, &Console::promptChanged, this, &ConsolePanel::showPrompt);

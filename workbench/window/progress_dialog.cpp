@@ -30,9 +30,19 @@ void ProgressDialog::begin(Work work) {
 }
 
 QString ProgressDialog::title() const {
-    if (present == kReading)
+    switch (present) {
+    case kReading:
         return tr("Reading the drawing...");
-    return present == kWriting ? tr("Saving the drawing...") : tr("Preparing the picture...");
+    case kWriting:
+        return tr("Saving the drawing...");
+    case kShowing:
+        return tr("Preparing the picture...");
+    case kSelecting:
+        return tr("Selecting the objects...");
+    case kListing:
+        return tr("Listing the objects...");
+    }
+    return {};
 }
 
 void ProgressDialog::show() {
