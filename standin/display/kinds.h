@@ -32,6 +32,7 @@ void arc(const OdDbEntity& entity, const Pencil& pencil);
 void attributeDefinition(const OdDbEntity& entity, const Pencil& pencil);
 void circle(const OdDbEntity& entity, const Pencil& pencil);
 void dimension(const OdDbEntity& entity, const Pencil& pencil);
+bool canDrawDimension(const OdDbEntity& entity); // it names a block
 void ellipse(const OdDbEntity& entity, const Pencil& pencil);
 void face(const OdDbEntity& entity, const Pencil& pencil);
 void hatch(const OdDbEntity& entity, const Pencil& pencil);
@@ -43,11 +44,12 @@ void mesh(const OdDbEntity& entity, const Pencil& pencil);
 void mline(const OdDbEntity& entity, const Pencil& pencil);
 void mtext(const OdDbEntity& entity, const Pencil& pencil);
 void multiLeader(const OdDbEntity& entity, const Pencil& pencil);
+bool canDrawMultiLeader(const OdDbEntity& entity); // it has context data
 void ole(const OdDbEntity& entity, const Pencil& pencil);
 void point(const OdDbEntity& entity, const Pencil& pencil);
 void polyline(const OdDbEntity& entity, const Pencil& pencil);
 void proxy(const OdDbEntity& entity, const Pencil& pencil);
-bool canDrawProxy(const OdDbEntity& entity);
+bool canDrawProxy(const OdDbEntity& entity); // it has a picture of itself
 void ray(const OdDbEntity& entity, const Pencil& pencil);
 void reference(const OdDbEntity& entity, const Pencil& pencil);
 void shape(const OdDbEntity& entity, const Pencil& pencil);

@@ -307,6 +307,16 @@ TEST(Dimensions, AreTheirBlockMovedToTheirPlace) {
     }
 }
 
+TEST(Dimensions, WithoutTheirBlockAreAMarkWithItsName) {
+    for (const char* name : {"DIMENSION", "ARC_DIMENSION", "LARGE_RADIAL_DIMENSION"}) {
+        const Drawing drawing(head(name, "AcDbDimension") + "2\n*D9\n" + point(10, 7, 8) + point(12, 0, 20));
+        ASSERT_EQ(drawing.items.size(), 1u) << name;
+        EXPECT_EQ(drawing.shape().kind, Shape::Missing) << name;
+        EXPECT_EQ(drawing.shape().text, "*D9") << name;
+        EXPECT_EQ(drawing.shape().points, (Points{{7, 8}})) << name;
+    }
+}
+
 TEST(Tables, AreTheirBlockAtTheirPlace) {
     const std::string table = "0\nACAD_TABLE\n100\nAcDbEntity\n8\n0\n100\nAcDbBlockReference\n2\n*T1\n" +
                               point(10, 5, 6) + "100\nAcDbTable\n" + point(11, 0, 1) + "91\n1\n92\n1\n";

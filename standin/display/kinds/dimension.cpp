@@ -9,6 +9,10 @@ namespace standin {
 
 namespace {
 
+constexpr std::string_view kDimension = "AcDbDimension";
+
+OdString nameOfBlock(const OdDbEntity& dimension) { return dimension.textValue(kDimension, 2); }
+
 OdDbObjectId blockNamed(const OdDbEntity& entity, const OdString& name) {
     const auto blocks = odrxQuery<OdDbBlockTable>(
         entity.database() ? entity.database()->getBlockTableId().openObject().get() : nullptr);
@@ -17,15 +21,19 @@ OdDbObjectId blockNamed(const OdDbEntity& entity, const OdString& name) {
 
 } // namespace
 
+bool draw::canDrawDimension(const OdDbEntity& entity) { return !nameOfBlock(entity).isEmpty(); }
+
 // The block of a dimension that was copied from another one is moved to its place.
 void draw::dimension(const OdDbEntity& entity, const Pencil& pencil) {
-    constexpr const char* marker = "AcDbDimension";
     const DxfTagList& tags = entity.tags();
+    const OdString name = nameOfBlock(entity);
+    if (name.isEmpty())
+        return;
     const OdGePoint3d moved =
-        pencil.world() * (OdGeMatrix3d::planeToWorld(entity.normal()) * tags.point(marker, 12));
+        pencil.world() * (OdGeMatrix3d::planeToWorld(entity.normal()) * tags.point(kDimension, 12));
     const OdGeVector3d by = moved - pencil.world() * OdGePoint3d();
-    pencil.block(blockNamed(entity, entity.textValue(marker, 2)),
-                 OdGeMatrix3d::translation(by) * pencil.world());
+    if (!pencil.block(blockNamed(entity, name), OdGeMatrix3d::translation(by) * pencil.world()))
+        pencil.missing(pencil.world() * tags.point(kDimension, 10), name);
 }
 
 void draw::table(const OdDbEntity& entity, const Pencil& pencil) {

@@ -67,6 +67,8 @@ void drawBlock(const MultiLeaderData& data, const OdDbEntity& entity, const Penc
 
 } // namespace
 
+bool draw::canDrawMultiLeader(const OdDbEntity& entity) { return hasMultiLeaderContext(entity.tags()); }
+
 void draw::multiLeader(const OdDbEntity& entity, const Pencil& pencil) {
     const MultiLeaderData data = multiLeaderData(entity.tags());
     if (data.lineKind != MultiLeaderData::kUnseen)

@@ -6,16 +6,19 @@ namespace standin {
 
 namespace {
 
+constexpr std::string_view kMarker = "AcDbMLeader";
+constexpr int kContextStart = 300;
+
 class Reader {
 public:
-    explicit Reader(const DxfTagList& object) : tags(object), part(object.subclass("AcDbMLeader")) {}
+    explicit Reader(const DxfTagList& object) : tags(object), part(object.subclass(kMarker)) {}
 
     // Lists begin and end with codes of their own; what a code means depends on the list that it is in.
     MultiLeaderData read() {
         for (at = part.begin; at < part.end; ++at) {
             const int code = tags[at].code;
             if (list == Whole)
-                code == 300 ? enter(Context) : readWhole(code);
+                code == kContextStart ? enter(Context) : readWhole(code);
             else if (list == Context)
                 code == 301 ? enter(Whole) : code == 302 ? beginBranch() : readContext(code);
             else if (list == Leader)
@@ -130,6 +133,10 @@ private:
 };
 
 } // namespace
+
+bool hasMultiLeaderContext(const DxfTagList& tags) {
+    return tags.find(kContextStart, tags.subclass(kMarker)) != DxfTagList::npos;
+}
 
 MultiLeaderData multiLeaderData(const DxfTagList& tags) { return Reader(tags).read(); }
 

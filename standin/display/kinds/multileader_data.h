@@ -40,6 +40,8 @@ struct MultiLeaderData {
     double blockRotation = 0; // radians
 };
 
+// Without it there is nothing to show.
+bool hasMultiLeaderContext(const DxfTagList& tags);
 MultiLeaderData multiLeaderData(const DxfTagList& tags);
 
 } // namespace standin
