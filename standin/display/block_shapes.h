@@ -28,7 +28,7 @@ class BlockShapes {
 public:
     struct Made {
         std::vector<Shape> shapes;
-        bool isCut = false;
+        bool isCut = false, isTooLarge = false; // as of items
     };
     // In the coordinates of the contents, as they look within this place; null when they are not made yet.
     std::shared_ptr<const Made> find(const Place& within) const;

@@ -35,10 +35,13 @@ Item ItemBuilder::build(OdDbObjectId id) {
     const auto entity = odrxQuery<OdDbEntity>(id.openObject().get());
     if (entity.isNull())
         return {};
+    const std::size_t partsBefore = parts, pointsBefore = points;
     Item built = build(*entity, *id.database());
     built.id = id;
+    // What takes more than a half of what there is for a whole drawing is too large itself.
+    const bool tookMost = parts - partsBefore > kMostParts / 2 || points - pointsBefore > kMostPoints / 2;
     if (built.isCut)
-        left.addCut(id);
+        left.addCut(id, built.isTooLarge || tookMost);
     return built;
 }
 
@@ -115,6 +118,8 @@ void ItemBuilder::addCells(Place& inner, const Repeats& repeats) {
     const OdGeMatrix3d first = inner.toWorld;
     const auto movement = FlatMovement::of(first);
     const auto shapes = movement ? made(inner) : nullptr;
+    if (shapes)
+        item.isTooLarge |= shapes->isTooLarge;
     if (shapes && shapes->isCut && isFull())
         return passOn(*shapes, *movement);
     for (int row = 0; row < repeats.rows; ++row)
@@ -160,8 +165,8 @@ std::shared_ptr<const BlockShapes::Made> ItemBuilder::made(const Place& inner) {
     Place own = inner;
     own.toWorld = OdGeMatrix3d::kIdentity;
     addParts(own);
-    auto result =
-        std::make_shared<const BlockShapes::Made>(BlockShapes::Made{std::move(item.shapes), item.isCut});
+    auto result = std::make_shared<const BlockShapes::Made>(
+        BlockShapes::Made{std::move(item.shapes), item.isCut, item.isTooLarge});
     item = std::move(outer);
     if (!isContextual)
         blocks.add(inner, result);
@@ -195,7 +200,9 @@ void ItemBuilder::addParts(const Place& inner) {
 
 // Asked before more is drawn.
 bool ItemBuilder::isFull() {
-    const bool full = item.shapes.size() >= kMostShapes || parts >= kMostParts || points >= kMostPoints;
+    const bool isTooLarge = item.shapes.size() >= kMostShapes;
+    const bool full = isTooLarge || parts >= kMostParts || points >= kMostPoints;
+    item.isTooLarge |= isTooLarge;
     item.isCut |= full;
     return full;
 }

@@ -95,7 +95,7 @@ void Pencil::part(const OdDbEntity& entity) const { maker.add(entity, where); }
 std::wstring Pencil::shortened(std::wstring text, std::size_t most) const {
     if (text.size() > most) {
         text.resize(most);
-        maker.item.isCut = true;
+        maker.item.isCut = maker.item.isTooLarge = true;
     }
     return text;
 }

@@ -88,8 +88,9 @@ struct Item {
     std::vector<Shape> shapes;
     Reach reach;
     Weight weight;
-    bool isEndless = false; // there are shapes without end
-    bool isCut = false;     // there would be more shapes than can be shown
+    bool isEndless = false;  // there are shapes without end
+    bool isCut = false;      // there would be more shapes than can be shown
+    bool isTooLarge = false; // and these alone would be too many, whatever else is in the drawing
 };
 
 // What the item adds to the size of its drawing.

@@ -20,6 +20,15 @@ QString nameOf(const OdDbObjectId& id) {
     return kind + QLatin1Char(' ') + odQString(id.getHandle().ascii().wide());
 }
 
+QString cutNotice(const std::vector<OdDbObjectId>& cut, const QString& one, const QString& many) {
+    QStringList names;
+    for (std::size_t i = 0; i < std::min(cut.size(), mostNamed); ++i)
+        names << nameOf(cut[i]);
+    if (cut.size() > mostNamed)
+        names << tr("and %1 more").arg(cut.size() - mostNamed);
+    return (cut.size() == 1 ? one : many).arg(cut.size()).arg(names.join(QLatin1String(", ")));
+}
+
 } // namespace
 
 void Unshown::addMissed(const OdDbEntity& entity) {
@@ -31,8 +40,13 @@ QStringList Unshown::notices() const {
     QStringList lines;
     if (!missed.empty())
         lines << missedNotice();
-    if (!cut.empty())
-        lines << cutNotice();
+    if (!tooLarge.empty())
+        lines << cutNotice(tooLarge, tr("%1 object has too many parts and is shown only in part: %2."),
+                           tr("%1 objects have too many parts and are shown only in part: %2."));
+    if (!crowdedOut.empty())
+        lines << cutNotice(
+            crowdedOut, tr("The drawing has too many parts in all; %1 object is shown only in part: %2."),
+            tr("The drawing has too many parts in all; %1 objects are shown only in part: %2."));
     return lines;
 }
 
@@ -50,18 +64,6 @@ QString Unshown::missedNotice() const {
     return (all == 1 ? tr("%1 object is not shown: %2.") : tr("%1 objects are not shown: %2."))
         .arg(all)
         .arg(parts.join(QLatin1String(", ")));
-}
-
-QString Unshown::cutNotice() const {
-    QStringList names;
-    for (std::size_t i = 0; i < std::min(cut.size(), mostNamed); ++i)
-        names << nameOf(cut[i]);
-    if (cut.size() > mostNamed)
-        names << tr("and %1 more").arg(cut.size() - mostNamed);
-    return (cut.size() == 1 ? tr("%1 object has too many parts and is shown only in part: %2.")
-                            : tr("%1 objects have too many parts and are shown only in part: %2."))
-        .arg(cut.size())
-        .arg(names.join(QLatin1String(", ")));
 }
 
 } // namespace standin

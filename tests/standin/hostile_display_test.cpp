@@ -73,8 +73,8 @@ TEST_P(HostileDrawings, AreShownWithinTheBoundsAndWhatIsCutOffIsNamed) {
     EXPECT_LE(amount.points, 2 * ItemBuilder::kMostPoints);
     EXPECT_LE(amount.letters, 500000u);
     const QStringList notices = drawing.list.unshown().notices();
-    EXPECT_EQ(notices.size(), GetParam().isCut ? 1 : 0) << notices.join('\n').toStdString();
-    EXPECT_EQ(notices.join('\n').contains("shown only in part"), GetParam().isCut);
+    EXPECT_EQ(!notices.isEmpty(), GetParam().isCut);
+    EXPECT_EQ(notices.filter("shown only in part"), notices);
 }
 
 TEST_P(HostileDrawings, ArePaintedSketchedAndPickedWithinTheBudget) {

@@ -37,6 +37,27 @@ TEST(Unshown, CountsThePartsOfABlockOnceHoweverOftenItIsPlaced) {
               QStringList("1 object is not shown: 1 REGION."));
 }
 
+struct NoPicture {
+    const char* name;
+    const char* marker;
+    std::string data;
+};
+
+TEST(Unshown, AreObjectsOfAKindWithAPictureThatSayTooLittleForOne) {
+    const std::string context = "300\nCONTEXT_DATA{\n" + point(10, 1, 1) + "301\n}\n";
+    for (const NoPicture& each : {NoPicture{"DIMENSION", "AcDbDimension", point(10, 7, 7)},
+                                  {"DIMENSION", "AcDbDimension", "2\n\n" + point(10, 7, 7)},
+                                  {"ARC_DIMENSION", "AcDbDimension", point(10, 7, 7)},
+                                  {"LARGE_RADIAL_DIMENSION", "AcDbDimension", point(10, 7, 7)},
+                                  {"MULTILEADER", "AcDbMLeader", "170\n1\n"},
+                                  {"MLEADER", "AcDbMLeader", {}}})
+        EXPECT_EQ(Drawing(head(each.name, each.marker) + each.data).list.unshown().notices(),
+                  QStringList(QString("1 object is not shown: 1 %1.").arg(each.name)));
+    const Drawing shown(head("DIMENSION", "AcDbDimension") + "2\n*D1\n" + head("MULTILEADER", "AcDbMLeader") +
+                        context);
+    EXPECT_TRUE(shown.list.unshown().notices().isEmpty());
+}
+
 // More cells than can be shown.
 TEST(Unshown, IsWhatIsCutOffOfAnEndlessArray) {
     const Drawing drawing(
@@ -49,6 +70,39 @@ TEST(Unshown, IsWhatIsCutOffOfAnEndlessArray) {
     const QString notice = drawing.list.unshown().notices()[0];
     EXPECT_TRUE(notice.startsWith("1 object has too many parts and is shown only in part: INSERT "))
         << notice.toStdString();
+}
+
+// So many empty cells count, although there is nothing to see in them.
+std::string emptyCells(int columns, int rows, const char* handle) {
+    return insert("E",
+                  point(10, 0, 0) + "70\n" + std::to_string(columns) + "\n71\n" + std::to_string(rows) + "\n",
+                  "5\n" + std::string(handle) + "\n8\n0\n");
+}
+
+struct CutCase {
+    std::string entities;
+    QStringList notices;
+};
+
+TEST(Unshown, SaysWhetherAnObjectOrTheDrawingHasTooManyParts) {
+    const std::string letters(5001, 'x'), reference = insert("B", point(10, 0, 0), "5\n31\n8\n0\n");
+    const std::string thirds =
+        emptyCells(1000, 600, "41") + emptyCells(1000, 600, "42") + emptyCells(1000, 600, "43");
+    const QString ownParts = "1 object has too many parts and is shown only in part: ";
+    for (const CutCase& each :
+         {CutCase{thirds, {}},
+          {head("TEXT", "AcDbText", "5\n30\n8\n0\n") + point(10, 0, 0) + "40\n1\n1\n" + letters + "\n",
+           {ownParts + "TEXT 30."}},
+          {emptyCells(2000, 1100, "44"), {ownParts + "INSERT 44."}},
+          {emptyCells(2000, 1100, "44") + reference,
+           {ownParts + "INSERT 44.",
+            "The drawing has too many parts in all; 1 object is shown only in part: INSERT 31."}},
+          {thirds + emptyCells(1000, 600, "44") + reference,
+           {"The drawing has too many parts in all; 2 objects are shown only in part: INSERT 44, INSERT "
+            "31."}}})
+        EXPECT_EQ(
+            Drawing(each.entities, blocks(blockOf("E", {}) + blockOf("B", line()))).list.unshown().notices(),
+            each.notices);
 }
 
 TEST(BlockShapes, AreMovedTurnedAndStretchedForEachPlace) {
