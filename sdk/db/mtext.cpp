@@ -15,6 +15,7 @@ constexpr std::string_view kMText = "AcDbMText";
 constexpr double kLetterWidth = 0.7; // of the height
 constexpr double kLineStep = 5.0 / 3.0;
 constexpr int kMostColumns = 1000;
+constexpr int kLastPiece = 1, kPieceBefore = 3; // of the contents
 
 std::wstring plainPiece(const OdDbTextPiece& piece) {
     switch (piece.kind) {
@@ -44,9 +45,11 @@ OdDbMText::OdDbMText() {
 
 OdString OdDbMText::contents() const {
     OdString text;
-    const DxfTagList::Range range = content.subclass(kMText);
+    const DxfTagList::Range part = content.subclass(kMText);
+    const bool isInPart = content.find(kLastPiece, part) != DxfTagList::npos;
+    const DxfTagList::Range range = isInPart ? part : content.own();
     for (std::size_t i = range.begin; i < range.end; ++i)
-        if (content[i].code == 1 || content[i].code == 3)
+        if (content[i].code == kLastPiece || content[i].code == kPieceBefore)
             text += codec().decode(content[i].value());
     return text;
 }
@@ -54,19 +57,21 @@ OdString OdDbMText::contents() const {
 void OdDbMText::setContents(const OdString& text) {
     DxfTagList& tags = edit();
     for (std::size_t i = tags.size(); i-- > 0;)
-        if (tags[i].code == 3)
+        if (tags[i].code == kPieceBefore)
             tags.erase(i);
+    if (tags.find(kMText, kLastPiece) == DxfTagList::npos)
+        tags.set(kMText, kLastPiece, "");
     std::wstring rest = text.wide();
     std::replace(rest.begin(), rest.end(), L'\r', L' ');
     for (std::size_t feed = rest.find(L'\n'); feed != std::wstring::npos; feed = rest.find(L'\n'))
         rest.replace(feed, 1, L"\\P");
     constexpr std::size_t longestPiece = 250;
     while (rest.size() > longestPiece) {
-        const std::size_t place = tags.find(1, tags.subclass(kMText));
-        tags.insert(place, 3, codec().encode(rest.substr(0, longestPiece)));
+        const std::size_t place = tags.find(kMText, kLastPiece);
+        tags.insert(place, kPieceBefore, codec().encode(rest.substr(0, longestPiece)));
         rest.erase(0, longestPiece);
     }
-    tags.set(kMText, 1, codec().encode(rest));
+    tags.set(kMText, kLastPiece, codec().encode(rest));
 }
 
 OdString OdDbMText::plainText() const {

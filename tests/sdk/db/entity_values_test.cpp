@@ -146,6 +146,20 @@ TEST(EntityValues, OfAParagraph) {
     EXPECT_EQ(paragraph->columns().count, 1);
 }
 
+TEST(EntityValues, AParagraphsContentsMayStandBeforeItsMarkerOrNowhere) {
+    const std::string marked = "100\nAcDbMText\n10\n1.0\n20\n2.0\n40\n4.0\n";
+    for (const auto& [tags, contents] :
+         {std::pair("3\nsome \n1\nwords\n" + marked, L"some words"), {marked, L""}}) {
+        const OdDbDatabasePtr database = drawingWith(record("MTEXT", tags));
+        const auto paragraph =
+            odrxCast<OdDbMText>(onlyEntity<OdDbMText>(*database)->objectId().safeOpenObject(OdDb::kForWrite));
+        EXPECT_EQ(paragraph->contents(), OdString(contents));
+        const OdString longer = std::wstring(600, L'x') + L"y";
+        paragraph->setContents(longer);
+        EXPECT_EQ(paragraph->contents(), longer);
+    }
+}
+
 TEST(EntityValues, AParagraphMayGiveItsAngleAndNoAttachment) {
     const OdDbDatabasePtr database =
         drawingWith(record("MTEXT", "100\nAcDbMText\n10\n1.0\n20\n2.0\n40\n4.0\n72\n5\n1\nx\n50\n30.0\n"));
