@@ -33,6 +33,11 @@ void drawFrame(const std::vector<OdGePoint3d>& corners, const OdString& name, co
         pencil.draw({Shape::Text, {}, {box.center(), {height, 0}, {0, height}, {0.5, 0.5}}, text});
 }
 
+std::vector<OdGePoint3d> cornersIn(const DxfTagList& tags, std::string_view marker, int code) {
+    const DxfTagList::Range part = tags.subclass(marker);
+    return tags.points(tags.find(code, part) == DxfTagList::npos ? tags.own() : part, code);
+}
+
 OdString fileOf(const OdString& path) {
     const std::wstring text = path.wide();
     const std::size_t slash = text.find_last_of(L"/\\");

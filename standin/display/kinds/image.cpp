@@ -16,9 +16,9 @@ constexpr int kDefinition = 340;
 // Places are counted in pixels from the upper left corner; the first one lies at the lower left.
 class Pixels {
 public:
-    Pixels(const DxfTagList& list, DxfTagList::Range range)
-        : origin(list.point(range, 10)), along(list.point(range, 11).asVector()),
-          up(list.point(range, 12).asVector()), size(list.point(range, 13)) {}
+    Pixels(const DxfTagList& list, std::string_view marker)
+        : origin(list.point(marker, 10)), along(list.point(marker, 11).asVector()),
+          up(list.point(marker, 12).asVector()), size(list.point(marker, 13)) {}
     OdGePoint3d at(double x, double y) const { return origin + along * (x + 0.5) + up * (size.y - y - 0.5); }
     std::vector<OdGePoint3d> rectangle(const OdGePoint3d& a, const OdGePoint3d& b) const {
         return {at(a.x, a.y), at(b.x, a.y), at(b.x, b.y), at(a.x, b.y)};
@@ -35,13 +35,12 @@ private:
 
 std::vector<OdGePoint3d> frameOf(const OdDbEntity& entity, std::string_view marker) {
     const DxfTagList& tags = entity.tags();
-    const DxfTagList::Range part = tags.subclass(marker);
-    const Pixels pixels(tags, part);
-    const std::vector<OdGePoint3d> clip = tags.points(part, 14);
-    const bool isClipped = tags.integer(part, 280, 1) != 0 || (tags.integer(part, 70) & kClipped) != 0;
+    const Pixels pixels(tags, marker);
+    const std::vector<OdGePoint3d> clip = cornersIn(tags, marker, 14);
+    const bool isClipped = tags.integer(marker, 280, 1) != 0 || (tags.integer(marker, 70) & kClipped) != 0;
     if (!isClipped || clip.size() < 2)
         return pixels.whole();
-    if (tags.integer(part, 71) != kPolygon || clip.size() == 2)
+    if (tags.integer(marker, 71) != kPolygon || clip.size() == 2)
         return pixels.rectangle(clip[0], clip[1]);
     std::vector<OdGePoint3d> corners;
     for (const OdGePoint3d& corner : clip)

@@ -26,14 +26,13 @@ OdDbTextFormat usualFormat(const OdDbMText& text, const Pencil& pencil) {
 
 TextRoom roomOf(const OdDbMText& text) {
     const DxfTagList& tags = text.tags();
-    const DxfTagList::Range part = tags.subclass(kMarker);
     const int attachment = std::clamp(text.attachment(), 1, 9) - 1;
-    const double spacing = tags.real(part, 44, 1);
+    const double spacing = tags.real(kMarker, 44, 1);
     TextRoom room;
     room.letterHeight = text.textHeight();
     room.width = std::max(0.0, text.width());
     room.spacing = std::clamp(spacing > 0 ? spacing : 1, 0.25, 4.0);
-    room.isSpacingExact = tags.integer(part, 73) == 2;
+    room.isSpacingExact = tags.integer(kMarker, 73) == 2;
     room.column = attachment % 3;
     room.row = attachment / 3;
     if (const OdDbMText::Columns columns = text.columns(); columns.count > 1 && columns.width > 0) {
@@ -50,17 +49,16 @@ TextRoom roomOf(const OdDbMText& text) {
 // The background reaches out of the text by a part of the letters' height.
 void drawBackground(const OdDbMText& text, const Box& box, const OdGeMatrix3d& matrix, const Pencil& pencil) {
     const DxfTagList& tags = text.tags();
-    const DxfTagList::Range part = tags.subclass(kMarker);
-    const std::int64_t flags = tags.integer(part, 90);
-    const Box area = box.grown(std::max(0.0, tags.real(part, 45, 1.5) - 1) * text.textHeight());
+    const std::int64_t flags = tags.integer(kMarker, 90);
+    const Box area = box.grown(std::max(0.0, tags.real(kMarker, 45, 1.5) - 1) * text.textHeight());
     std::vector<OdGePoint3d> corners{{area.left, area.bottom, 0},
                                      {area.right, area.bottom, 0},
                                      {area.right, area.top, 0},
                                      {area.left, area.top, 0}};
     if ((flags & 3) == kFilled) {
-        const bool hasColor = tags.find(421, part) != DxfTagList::npos;
-        const Ink ink = hasColor ? static_cast<Ink>(tags.integer(part, 421)) | 0xff000000u
-                                 : inkOfIndex(static_cast<int>(tags.integer(part, 63, 7)));
+        const bool hasColor = tags.find(kMarker, 421) != DxfTagList::npos;
+        const Ink ink = hasColor ? static_cast<Ink>(tags.integer(kMarker, 421)) | 0xff000000u
+                                 : inkOfIndex(static_cast<int>(tags.integer(kMarker, 63, 7)));
         pencil.inked(ink).fill(corners, matrix);
     }
     if ((flags & kFramed) != 0) {

@@ -4,8 +4,8 @@
 
 void standin::draw::ole(const OdDbEntity& entity, const Pencil& pencil) {
     const DxfTagList& tags = entity.tags();
-    const DxfTagList::Range part = tags.subclass("AcDbOle2Frame");
-    const OdGePoint3d a = tags.point(part, 10), b = tags.point(part, 11);
-    const OdString name = entity.textValue("AcDbOle2Frame", 3);
+    constexpr std::string_view marker = "AcDbOle2Frame";
+    const OdGePoint3d a = tags.point(marker, 10), b = tags.point(marker, 11);
+    const OdString name = entity.textValue(marker, 3);
     drawFrame({a, {b.x, a.y, a.z}, b, {a.x, b.y, a.z}}, name.isEmpty() ? entity.dxfName() : name, pencil);
 }

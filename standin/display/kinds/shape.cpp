@@ -5,12 +5,12 @@
 
 void standin::draw::shape(const OdDbEntity& entity, const Pencil& pencil) {
     const DxfTagList& tags = entity.tags();
-    const DxfTagList::Range part = tags.subclass("AcDbShape");
+    constexpr std::string_view marker = "AcDbShape";
     const double degree = M_PI / 180;
-    const double high = tags.real(part, 40, 1), wide = high * tags.real(part, 41, 1);
-    const double slant = high * std::tan(tags.real(part, 51) * degree);
+    const double high = tags.real(marker, 40, 1), wide = high * tags.real(marker, 41, 1);
+    const double slant = high * std::tan(tags.real(marker, 51) * degree);
     const OdGeMatrix3d matrix = pencil.plane(entity) *
-                                OdGeMatrix3d::translation(tags.point(part, 10).asVector()) *
-                                OdGeMatrix3d::rotation(tags.real(part, 50) * degree, OdGeVector3d::kZAxis);
+                                OdGeMatrix3d::translation(tags.point(marker, 10).asVector()) *
+                                OdGeMatrix3d::rotation(tags.real(marker, 50) * degree, OdGeVector3d::kZAxis);
     pencil.path({{0, 0, 0}, {wide, 0, 0}, {wide + slant, high, 0}, {slant, high, 0}, {0, 0, 0}}, matrix);
 }

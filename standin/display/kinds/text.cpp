@@ -8,21 +8,31 @@ namespace standin {
 
 namespace {
 
+constexpr std::string_view kMarker = "AcDbText";
 constexpr int kBackwards = 2, kUpsideDown = 4; // in the flags of generation
 constexpr double kDegree = M_PI / 180;
+
+// Behind the part of the text the code means something else in an attribute.
+std::int64_t turnsOf(const OdDbText& text, const TextStyle& style) {
+    const DxfTagList& tags = text.tags();
+    const std::size_t found = tags.find(kMarker, 71);
+    const std::size_t end = kindName(text) == "TEXT" ? DxfTagList::npos : tags.endOf(kMarker);
+    if (found < end)
+        return dxfInteger(tags[found].value());
+    return (style.backwards ? kBackwards : 0) | (style.upsideDown ? kUpsideDown : 0);
+}
 
 // What a text says itself comes before what its style says.
 LineText lineOf(const OdDbText& text, const OdString& content, const Pencil& pencil) {
     const TextStyle& style = pencil.looks().textStyles().of(text.textStyle());
     const DxfTagList& tags = text.tags();
-    const DxfTagList::Range part = tags.subclass("AcDbText");
-    const std::int64_t usualTurns = (style.backwards ? kBackwards : 0) | (style.upsideDown ? kUpsideDown : 0);
-    const std::int64_t turns = tags.integer(part, 71, usualTurns);
+    const std::int64_t turns = turnsOf(text, style);
     LineText line;
     line.content = content.wide();
     line.height = text.height();
     line.widthFactor = text.widthFactor() > 0 ? text.widthFactor() : 1;
-    line.oblique = tags.find(51, part) == DxfTagList::npos ? style.oblique : tags.real(part, 51) * kDegree;
+    line.oblique =
+        tags.find(kMarker, 51) == DxfTagList::npos ? style.oblique : tags.real(kMarker, 51) * kDegree;
     line.isBackwards = (turns & kBackwards) != 0;
     line.isUpsideDown = (turns & kUpsideDown) != 0;
     line.isVertical = style.vertical;

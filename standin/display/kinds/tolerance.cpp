@@ -76,16 +76,15 @@ private:
 // It hangs at the middle of the left side of its first row.
 void draw::tolerance(const OdDbEntity& entity, const Pencil& pencil) {
     const DxfTagList& tags = entity.tags();
-    const DxfTagList::Range part = tags.subclass(kMarker);
     const double scale = odDbDimensionValue(entity, kMarker, kScale, 1);
     const double height =
         odDbDimensionValue(entity, kMarker, kTextHeight, kUsualHeight) * (scale > 0 ? scale : 1);
-    const OdGeVector3d along = tags.point(part, 11).asVector();
+    const OdGeVector3d along = tags.point(kMarker, 11).asVector();
     const double turn = along.isZeroLength() ? 0 : std::atan2(along.y, along.x);
     if (!(height > 0))
         return;
     RowPainter painter(height,
-                       pencil.world() * OdGeMatrix3d::translation(tags.point(part, 10).asVector()) *
+                       pencil.world() * OdGeMatrix3d::translation(tags.point(kMarker, 10).asVector()) *
                            OdGeMatrix3d::rotation(turn, OdGeVector3d::kZAxis),
                        pencil);
     double bottom = -height;

@@ -24,7 +24,7 @@ OdString nameOf(const OdDbEntity& entity) {
 
 // Two points are opposite corners.
 std::vector<OdGePoint3d> borderOf(const DxfTagList& tags) {
-    const std::vector<OdGePoint3d> points = tags.points(tags.subclass(kMarker), 11);
+    const std::vector<OdGePoint3d> points = cornersIn(tags, kMarker, 11);
     if (points.size() != 2)
         return points;
     const OdGePoint3d &a = points[0], &b = points[1];
@@ -35,12 +35,12 @@ std::vector<OdGePoint3d> borderOf(const DxfTagList& tags) {
 
 void draw::underlay(const OdDbEntity& entity, const Pencil& pencil) {
     const DxfTagList& tags = entity.tags();
-    const DxfTagList::Range part = tags.subclass(kMarker);
-    const OdGeScale3d scale(tags.real(part, 41, 1), tags.real(part, 42, 1), tags.real(part, 43, 1));
-    const OdGeMatrix3d toBlock = OdGeMatrix3d::planeToWorld(entity.normal()) *
-                                 OdGeMatrix3d::translation(tags.point(part, 10).asVector()) *
-                                 OdGeMatrix3d::rotation(tags.real(part, 50) * kDegree, OdGeVector3d::kZAxis) *
-                                 OdGeMatrix3d::scaling(scale);
+    const OdGeScale3d scale(tags.real(kMarker, 41, 1), tags.real(kMarker, 42, 1), tags.real(kMarker, 43, 1));
+    const OdGeMatrix3d toBlock =
+        OdGeMatrix3d::planeToWorld(entity.normal()) *
+        OdGeMatrix3d::translation(tags.point(kMarker, 10).asVector()) *
+        OdGeMatrix3d::rotation(tags.real(kMarker, 50) * kDegree, OdGeVector3d::kZAxis) *
+        OdGeMatrix3d::scaling(scale);
     std::vector<OdGePoint3d> corners = borderOf(tags);
     if (corners.size() < 3)
         return pencil.missing(pencil.world() * (toBlock * OdGePoint3d()), nameOf(entity));
