@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QRegion>
 #include <cmath>
+#include <utility>
 
 namespace standin {
 
@@ -52,8 +53,7 @@ void LivePicture::drop() {
     cancelled.erase(std::remove_if(cancelled.begin(), cancelled.end(),
                                    [](const auto& each) { return each.use_count() == 1; }),
                     cancelled.end());
-    cancelled.push_back(std::move(job));
-    job.reset();
+    cancelled.push_back(std::exchange(job, nullptr));
 }
 
 // False when it goes on already.

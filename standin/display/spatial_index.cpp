@@ -11,8 +11,13 @@ const int deepest = 20;
 SpatialIndex::SpatialIndex(const Box& area) {
     const Box whole = area.isEmpty() ? Box{0, 0, 1, 1} : area;
     const double side = std::max({whole.width(), whole.height(), 1e-6});
-    nodes.push_back(
-        {{whole.left, whole.bottom, whole.left + side, whole.bottom + side}, {{-1, -1, -1, -1}}, {}});
+    addNode({whole.left, whole.bottom, whole.left + side, whole.bottom + side});
+}
+
+int SpatialIndex::addNode(const Box& area) {
+    nodes.emplace_back();
+    nodes.back().area = area;
+    return static_cast<int>(nodes.size()) - 1;
 }
 
 Box SpatialIndex::quarterOf(const Box& area, int quarter) {
@@ -23,10 +28,10 @@ Box SpatialIndex::quarterOf(const Box& area, int quarter) {
 
 Box SpatialIndex::reachOf(const Box& area) { return area.grown(area.width() / 2); }
 
-// The node that the box belongs to; -1 when it lies outside, or has no node as yet and none is to be made.
+// The node that the box belongs to; none when it lies outside, or has no node as yet and none is to be made.
 int SpatialIndex::nodeFor(const Box& box, bool create) {
     if (!reachOf(nodes[0].area).contains(box) || !nodes[0].area.contains(box.center()))
-        return -1;
+        return kNone;
     const double size = std::max(box.width(), box.height());
     int node = 0;
     for (int depth = 0; depth < deepest; ++depth) {
@@ -36,11 +41,10 @@ int SpatialIndex::nodeFor(const Box& box, bool create) {
         const QPointF middle = area.center();
         const int quarter = (box.center().x() > middle.x() ? 1 : 0) | (box.center().y() > middle.y() ? 2 : 0);
         int next = nodes[static_cast<std::size_t>(node)].quarters[static_cast<std::size_t>(quarter)];
-        if (next < 0) {
+        if (next == kNone) {
             if (!create)
-                return -1;
-            next = static_cast<int>(nodes.size());
-            nodes.push_back({quarterOf(area, quarter), {{-1, -1, -1, -1}}, {}});
+                return kNone;
+            next = addNode(quarterOf(area, quarter));
             nodes[static_cast<std::size_t>(node)].quarters[static_cast<std::size_t>(quarter)] = next;
         }
         node = next;
@@ -50,12 +54,12 @@ int SpatialIndex::nodeFor(const Box& box, bool create) {
 
 void SpatialIndex::insert(int item, const Box& box) {
     const int node = nodeFor(box, true);
-    (node < 0 ? outside : nodes[static_cast<std::size_t>(node)].items).push_back(item);
+    (node == kNone ? outside : nodes[static_cast<std::size_t>(node)].items).push_back(item);
 }
 
 void SpatialIndex::remove(int item, const Box& box) {
     const int node = nodeFor(box, false);
-    std::vector<int>& items = node < 0 ? outside : nodes[static_cast<std::size_t>(node)].items;
+    std::vector<int>& items = node == kNone ? outside : nodes[static_cast<std::size_t>(node)].items;
     items.erase(std::remove(items.begin(), items.end(), item), items.end());
 }
 
@@ -78,7 +82,7 @@ void SpatialIndex::visitWhile(const Box& box, const std::function<bool(int item)
         if (!std::all_of(node.items.begin(), node.items.end(), visitor))
             return;
         for (const int quarter : node.quarters)
-            if (quarter >= 0)
+            if (quarter != kNone)
                 open.push_back(quarter);
     }
 }

@@ -22,11 +22,13 @@ public:
     void visitWhile(const Box& box, const std::function<bool(int item)>& visitor) const;
 
 private:
+    static constexpr int kNone = -1; // in the place of a node's number
     struct Node {
         Box area;
-        std::array<int, 4> quarters{{-1, -1, -1, -1}};
+        std::array<int, 4> quarters{{kNone, kNone, kNone, kNone}};
         std::vector<int> items;
     };
+    int addNode(const Box& area);
     int nodeFor(const Box& box, bool create);
     static Box quarterOf(const Box& area, int quarter);
     static Box reachOf(const Box& area);
