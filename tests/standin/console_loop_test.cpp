@@ -105,6 +105,16 @@ TEST_F(ConsoleLoopTest, OwnCommandAsksThroughTheConsole) {
     EXPECT_EQ(console.transcript(), QStringList({"Command: ask", "Name? chairs", "Command: countup"}));
 }
 
+TEST_F(ConsoleLoopTest, OwnCommandTakesTheWordsBehindItsNameIfItCan) {
+    QStringList calls;
+    loop.add({"TAKE", "Takes words.", [&] { calls << "take"; },
+              [&](const QString& words) { calls << "take " + words; }});
+    loop.add({"PLAIN", "Takes none.", [&] { calls << "plain"; }});
+    run({"take", "_take  two   words", "", "plain", "plain words"});
+    EXPECT_EQ(calls, QStringList({"take", "take two words", "take", "plain"}));
+    EXPECT_EQ(lastLine(), "Unknown command \"plain words\". HELP lists the commands.");
+}
+
 TEST_F(ConsoleLoopTest, LoopIsReadyAtAPromptAndWhenIdle) {
     bool readyAtPrompt = false;
     loop.add({"ASK", "Asks.", [&] { console.getInput(L"Name?", nullptr, 6, nullptr, 0); }});

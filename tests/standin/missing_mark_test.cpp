@@ -1,4 +1,5 @@
-// The name of a reference whose file is missing, in a box.
+// Marks whose size does not depend on the scale: the name of a reference whose file is missing, in a box, and
+// points of a part of the window.
 #include "standin/display/item_painter.h"
 
 #include <QImage>
@@ -8,17 +9,13 @@ namespace {
 
 using namespace standin;
 
-// What is painted of the mark at that place of a view of one pixel for a unit around (0,0).
-QRect inkOf(const QPointF& place, const QString& name) {
+// What is painted of the mark in a view of one pixel for a unit around (0,0).
+QRect inkOf(const Shape& mark) {
     View view;
     view.resize({300, 200});
-    Shape mark;
-    mark.kind = Shape::Missing;
-    mark.points = {place};
-    mark.text = name;
     Item item;
     item.shapes = {mark};
-    item.box = boxOf(place, place);
+    item.box = boxOf(mark.points[0], mark.points[0]);
     QImage image(300, 200, QImage::Format_RGB32);
     image.fill(Qt::black);
     QPainter painter(&image);
@@ -30,6 +27,14 @@ QRect inkOf(const QPointF& place, const QString& name) {
             if (image.pixelColor(x, y) != QColor(Qt::black))
                 ink |= QRect(x, y, 1, 1);
     return ink;
+}
+
+QRect inkOf(const QPointF& place, const QString& name) {
+    Shape mark;
+    mark.kind = Shape::Missing;
+    mark.points = {place};
+    mark.text = name;
+    return inkOf(mark);
 }
 
 } // namespace
@@ -51,4 +56,19 @@ TEST(MissingMark, IsAsWideAsTheName) {
 TEST(MissingMark, IsLeftOutBeyondTheWindow) {
     EXPECT_TRUE(inkOf({500, 0}, "part.dxf").isEmpty());
     EXPECT_FALSE(inkOf({140, 0}, "part.dxf").isEmpty());
+}
+
+// A plus reaches as far to each side as its size; the window is 200 pixels high.
+TEST(PointMark, OfAPartOfTheWindowIsExactlyAsLarge) {
+    const int plus = 2;
+    for (const int percent : {5, 20, 49}) {
+        Shape mark;
+        mark.kind = Shape::Dot;
+        mark.points = {{0, 0}, QPointF(plus, percent)};
+        const QRect ink = inkOf(mark);
+        EXPECT_EQ(ink.top(), 100 - 2 * percent);
+        EXPECT_EQ(ink.bottom(), 100 + 2 * percent);
+        EXPECT_EQ(ink.left(), 150 - 2 * percent);
+        EXPECT_EQ(ink.right(), 150 + 2 * percent);
+    }
 }

@@ -146,7 +146,9 @@ TEST_P(Summary, UndoneFieldsStandAsTheFileHasThem) {
     EXPECT_EQ(database->writeBytes(), changed);
 }
 
-INSTANTIATE_TEST_SUITE_P(Versions, Summary, testing::Values("AC1015", "AC1018", "AC1021", "AC1032"),
+INSTANTIATE_TEST_SUITE_P(Versions, Summary,
+                         testing::Values("AC1009", "AC1012", "AC1014", "AC1015", "AC1018", "AC1021", "AC1024",
+                                         "AC1027", "AC1032"),
                          [](const auto& version) { return std::string(version.param); });
 
 TEST(SummaryRecord, OlderVersionKeepsItInItsDictionary) {
