@@ -76,6 +76,7 @@ TEST(ConsoleKeywords, WordsInQuotesHoldBlanks) {
     EXPECT_EQ(keywords.match("\"Remove objects\""), 1);
     EXPECT_EQ(keywords.match("a"), 0);
     EXPECT_EQ(keywords.match("ren"), 2);
+    EXPECT_EQ(Keywords("AB AC").match("\"AB\""), 0) << "its last letter counts";
 }
 
 TEST(ConsoleKeywords, PrefixOfTheListIsNoKeyword) {

@@ -89,8 +89,10 @@ TEST_F(ProfilesTest, PlacesOfWindowsAndTheLikeBelongToAll) {
     EXPECT_EQ(get("Workbench", "RecentDrawings"), 3);
     EXPECT_EQ(get("Workbench", "Theme"), -1);
     set("Windows/Main", "Width", 900);
+    set("Workbench", "RecentDrawings", 4);
     profiles->select(L"default");
     EXPECT_EQ(get("Windows/Main", "Width"), 900) << "the place of then has come back";
+    EXPECT_EQ(get("Workbench", "RecentDrawings"), 4) << "that of then has come back";
     EXPECT_EQ(get("Workbench", "Theme"), 2);
 }
 

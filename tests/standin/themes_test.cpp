@@ -16,6 +16,7 @@
 #include <QStyle>
 #include <QStyleFactory>
 #include <QToolButton>
+#include <QToolTip>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <memory>
@@ -45,6 +46,7 @@ TEST_F(ThemesTest, WatcherTellsAfterTheChange) {
     EXPECT_EQ(seen, 1);
     EXPECT_EQ(clicks.count(), 1);
     EXPECT_EQ(QApplication::palette().color(QPalette::Window), lightPalette().color(QPalette::Window));
+    EXPECT_EQ(QToolTip::palette().color(QPalette::ToolTipText), lightPalette().color(QPalette::ToolTipText));
 }
 
 TEST_F(ThemesTest, SettingTheSameThemeTellsNothing) {

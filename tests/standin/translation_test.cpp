@@ -5,6 +5,7 @@
 #include "standin/registry.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTranslator>
 #include <array>
@@ -75,6 +76,19 @@ TEST(Translation, ShippedEnglishCatalogueServesEveryLanguageAndGoesWithTheHost) 
         EXPECT_EQ(fileFilter(), "Drawings (*.dxf);;All files (*)") << qPrintable(language);
     }
     EXPECT_EQ(fileFilter(), "Drawing (*.dwg;)");
+}
+
+TEST(Translation, CataloguesOfALanguageServeItsCountries) {
+    const QTemporaryDir folder;
+    const QString shipped = QDir(SHIPPED_CATALOGUES).entryList({"*_en.qm"}, QDir::Files).value(0);
+    const auto provide = [&](const char* name) {
+        return QFile::copy(QString(SHIPPED_CATALOGUES) + '/' + shipped, folder.filePath(name));
+    };
+    ASSERT_TRUE(provide("words_de.qm"));
+    EXPECT_EQ(Catalogues().load(folder.path(), "de_AT"), 1);
+    ASSERT_TRUE(provide("words_de_AT.qm"));
+    EXPECT_EQ(Catalogues().load(folder.path(), "de_AT"), 2);
+    EXPECT_EQ(Catalogues().load(folder.path(), "de"), 1);
 }
 
 TEST(Translation, ShippedCatalogueWordsTheTextsOfTheJobsWell) {
