@@ -111,7 +111,9 @@ bool ProfileChoice::settleChanges(const QString& next) {
 QString ProfileChoice::askName(const QString& title, const QString& proposal) {
     QInputDialog input(&dialog);
     input.setWindowTitle(title);
-    input.setLabelText(tr("Name of the profile:"));
+    input.setLabelText(tr("&Name of the profile:"));
+    input.setOkButtonText(tr("&OK"));
+    input.setCancelButtonText(tr("&Cancel"));
     input.setTextValue(proposal);
     return runModal(input) == QDialog::Accepted ? input.textValue().trimmed() : QString();
 }

@@ -1,6 +1,7 @@
 // What a user needs who reads the window by other means than its picture, or with long texts: names and
 // roles, focus that is seen, contrast, texts that are not cut.
 #include "tests/e2e/dialog_ways.h"
+#include "tests/support/letters.h"
 
 #include "host/style.h"
 #include "standin/documents/document_manager.h"
@@ -17,6 +18,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QSpinBox>
 #include <QTabBar>
 #include <QToolBar>
@@ -57,6 +59,15 @@ bool isPart(const QWidget* widget) {
 
 std::string described(const QWidget* widget) {
     return std::string(widget->metaObject()->className()) + " " + widget->objectName().toStdString();
+}
+
+std::string rectangle(const QRect& place) {
+    return QString("%1,%2 %3x%4")
+        .arg(place.x())
+        .arg(place.y())
+        .arg(place.width())
+        .arg(place.height())
+        .toStdString();
 }
 
 struct AccessibleTest : DialogWays {
@@ -113,6 +124,25 @@ TEST_F(AccessibleTest, EveryControlHasANameAndARole) {
             EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty())
                 << described(control) << " has no name";
         }
+    });
+}
+
+TEST_F(AccessibleTest, EveryLabelAndButtonHasALetterOfItsOwnInItsWindow) {
+    for (const DialogWay& way : dialogWays())
+        open(way, [&] {
+            SCOPED_TRACE(way.title);
+            ASSERT_NE(dialog(way), nullptr);
+            lookAtTabs(*dialog(way), [](QWidget& window) { expectLetters(window); });
+            workbench::cancelTopmost();
+        });
+}
+
+TEST_F(AccessibleTest, EveryWindowLiesWithinTheScreenWithItsFrame) {
+    inEachWindow([](QWidget& window) {
+        const QRect free = window.screen()->availableGeometry();
+        EXPECT_TRUE(waitUntil([&] { return free.contains(window.frameGeometry()); }))
+            << described(&window) << " is at " << rectangle(window.frameGeometry()) << " on a screen of "
+            << rectangle(free);
     });
 }
 

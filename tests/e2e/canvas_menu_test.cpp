@@ -31,6 +31,14 @@ struct CanvasMenuTest : DrawingFixture {
     }
 };
 
+TEST_F(CanvasMenuTest, ComesUpOnlyWhenNoSelectionWindowIsHalfDrawn) {
+    click(50, 10); // where nothing is
+    QTest::mouseClick(&canvas(), Qt::RightButton, {}, QPoint(5, 5));
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "the window is dropped";
+    click(210, 50);
+    EXPECT_EQ(selected(), std::vector<int>()) << "a click begins another one";
+}
+
 TEST_F(CanvasMenuTest, RepeatsTheLastCommand) {
     enter({"DRAWINGS"});
     const int before = transcript().size();

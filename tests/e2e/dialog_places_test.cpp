@@ -65,10 +65,16 @@ struct DialogPlacesTest : WorkbenchFixture {
     }
 };
 
-TEST_F(DialogPlacesTest, NoWindowIsLargerThanTheScreen) {
-    EXPECT_TRUE(screen().contains(bench->window()->geometry()));
-    for (const char* command : {"QPREF", "DWGPROPS", "GROUP", "VERSIONS"})
-        with(command, [&](QDialog& dialog) { EXPECT_TRUE(screen().contains(dialog.geometry())) << command; });
+TEST_F(DialogPlacesTest, APageOfHelpComesUpOverTheWindow) {
+    enter({"HELP"});
+    const auto windows = QApplication::topLevelWidgets();
+    const auto help = std::find_if(windows.begin(), windows.end(), [](const QWidget* widget) {
+        return widget->objectName() == "helpWindow";
+    });
+    ASSERT_NE(help, windows.end());
+    EXPECT_EQ((*help)->geometry(),
+              workbench::placeOver(bench->window()->geometry(), (*help)->size(), screen()));
+    (*help)->close();
 }
 
 TEST_F(DialogPlacesTest, ADialogThatIsTooLargeIsMadeToFit) {

@@ -220,7 +220,7 @@ TEST_F(HistoryTest, DialogAsksForTheReason) {
           [] {
               auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
               ASSERT_NE(dialog, nullptr);
-              EXPECT_EQ(dialog->labelText(), "Why is the former version of house.dxf kept?");
+              EXPECT_EQ(dialog->labelText(), "&Why is the former version of house.dxf kept?");
               dialog->setTextValue("  the client wants a garden ");
               dialog->accept();
           }});

@@ -3,6 +3,7 @@
 #include "sdk/db/block_reference.h"
 #include "sdk/db/block_table.h"
 #include "sdk/db/dictionary.h"
+#include "sdk/db/group.h"
 #include "sdk/db/summary_info.h"
 #include "tests/e2e/workbench_fixture.h"
 #include "tests/support/letters.h"
@@ -198,7 +199,12 @@ TEST_F(KeyboardTest, AGroupIsMadeOrderedAndRenamed) {
           }});
     const OdDbDatabasePtr drawing = HostDocManager()->currentDocument()->database();
     const auto groups = odrxCast<OdDbDictionary>(drawing->getGroupDictionaryId(true).safeOpenObject());
-    EXPECT_TRUE(groups->has(L"WHOLE"));
+    ASSERT_TRUE(groups->has(L"WHOLE"));
+    const auto space = odrxCast<OdDbBlockTableRecord>(drawing->getModelSpaceId().safeOpenObject());
+    OdDbObjectIdArray members, reversed = space->entityIds();
+    odrxCast<OdDbGroup>(groups->getAt(L"WHOLE").safeOpenObject())->allEntityIds(members);
+    std::reverse(reversed.begin(), reversed.end());
+    EXPECT_EQ(members, reversed);
 }
 
 } // namespace

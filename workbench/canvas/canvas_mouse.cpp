@@ -56,6 +56,9 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
         press(event->pos(), event->modifiers());
     } else if (event->button() == Qt::RightButton && io.isWaiting()) {
         io.enterLine({}); // as Enter
+    } else if (event->button() == Qt::RightButton && windowCorner) {
+        windowCorner.reset(); // a window that is half drawn is dropped
+        update();
     } else if (event->button() == Qt::RightButton && !loop.isRunning()) {
         emit menuWanted(event->globalPos());
     }

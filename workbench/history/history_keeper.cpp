@@ -35,6 +35,8 @@ QString reasonTypedInto(const QString& title, const QString& question) {
     input.setObjectName(QStringLiteral("reasonBox"));
     input.setWindowTitle(title);
     input.setLabelText(question);
+    input.setOkButtonText(QCoreApplication::translate("HistoryKeeper", "&OK"));
+    input.setCancelButtonText(QCoreApplication::translate("HistoryKeeper", "&Cancel"));
     return runModal(input) == QDialog::Accepted ? input.textValue().trimmed() : QString();
 }
 
@@ -101,7 +103,9 @@ QString HistoryKeeper::reasonFor(const Document& document, const QString& path) 
 QString HistoryKeeper::typedReason(const QString& path, const QString& otherwise) const {
     const QString name = QFileInfo(path).fileName();
     if (!files.asksOnConsole())
-        return reasonTypedInto(tr("File version"), tr("Why is the former version of %1 kept?").arg(name));
+        return reasonTypedInto(tr("File version"),
+                               tr("&Why is the former version of %1 kept?")
+                                   .arg(QString(name).replace(QLatin1Char('&'), QLatin1String("&&"))));
     OdString answer;
     const QString prompt = tr("Reason for keeping the former version of %1 <%2>:").arg(name, otherwise);
     const int result = io.getInput(prompt.toStdWString().c_str(), nullptr, kAnyText, &answer, 0);

@@ -23,6 +23,7 @@ namespace {
 
 const QMargins frameRoom(8, 32, 8, 8); // what a window manager puts around a window
 const char* const sectionName = "Dialogs";
+const char* const placeProperty = "placeOfDialog";
 
 // All that the dialog holds goes into an area that scrolls.
 void makeScroll(QWidget& dialog) {
@@ -43,7 +44,9 @@ void makeScroll(QWidget& dialog) {
     });
 }
 
-bool hasSizeOfItsOwn(const QDialog* dialog) {
+bool isDialog(const QWidget& widget) { return qobject_cast<const QDialog*>(&widget) != nullptr; }
+
+bool hasSizeOfItsOwn(const QWidget* dialog) {
     return qobject_cast<const QMessageBox*>(dialog) || qobject_cast<const QProgressDialog*>(dialog) ||
            qobject_cast<const QFileDialog*>(dialog) || qobject_cast<const QColorDialog*>(dialog);
 }
@@ -61,6 +64,13 @@ QSize rememberedSize(const QWidget& dialog) {
         return {};
     const QList<QByteArray> numbers = QByteArray(text.c_str()).split('x');
     return numbers.size() == 2 ? QSize(numbers[0].toInt(), numbers[1].toInt()) : QSize();
+}
+
+// A window manager is free to put what has no place; so a place is given, and remembered as ours.
+bool isPutByItsUser(const QWidget& dialog) {
+    const QVariant given = dialog.property(placeProperty);
+    return dialog.testAttribute(Qt::WA_Moved) &&
+           (!given.isValid() || given.toPoint() != dialog.geometry().topLeft());
 }
 
 } // namespace
@@ -94,15 +104,20 @@ DialogPlaces::~DialogPlaces() = default;
 
 bool DialogPlaces::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
-        auto* const dialog = qobject_cast<QDialog*>(watched);
-        if (dialog && dialog->isWindow() && !event->spontaneous()) {
+        auto* const widget = qobject_cast<QWidget*>(watched);
+        if (widget && isPlaced(*widget) && !event->spontaneous()) {
             if (event->type() == QEvent::Show)
-                place(*dialog);
-            else if (!hasSizeOfItsOwn(dialog))
-                remember(*dialog);
+                place(*widget);
+            else if (!hasSizeOfItsOwn(widget))
+                remember(*widget);
         }
     }
     return false;
+}
+
+bool DialogPlaces::isPlaced(const QWidget& widget) const {
+    const bool isWindow = widget.windowType() == Qt::Window && &widget != &window;
+    return widget.isWindow() && (isDialog(widget) || isWindow);
 }
 
 // One that was put somewhere stays there, if the screen reaches that far.
@@ -113,15 +128,15 @@ void DialogPlaces::place(QWidget& dialog) {
     if (dialog.layout() && needed.boundedTo(room) != needed && !dialog.findChild<QScrollArea*>("scrollArea"))
         makeScroll(dialog);
     dialog.setMinimumSize(dialog.minimumSize().boundedTo(room));
-    const QSize kept = hasSizeOfItsOwn(qobject_cast<QDialog*>(&dialog)) ? QSize() : rememberedSize(dialog);
+    const QSize kept = hasSizeOfItsOwn(&dialog) ? QSize() : rememberedSize(dialog);
     const QSize wanted = (kept.isValid() ? kept : dialog.size()).expandedTo(needed);
     dialog.setMaximumSize(
         dialog.maximumSize().expandedTo(needed)); // long texts need more than a size that is fixed
-    const bool isPut = dialog.testAttribute(Qt::WA_Moved);
+    const bool isPut = isPutByItsUser(dialog);
     const QRect over = placeOver(isPut ? dialog.geometry() : window.geometry(), wanted, area);
     dialog.setGeometry(shown && !isPut ? placeBeside(shown(), over, area) : over);
-    dialog.setAttribute(Qt::WA_Moved, isPut);
-    if (dialog.windowHandle() && !dialog.windowHandle()->transientParent())
+    dialog.setProperty(placeProperty, dialog.geometry().topLeft());
+    if (isDialog(dialog) && dialog.windowHandle() && !dialog.windowHandle()->transientParent())
         dialog.windowHandle()->setTransientParent(window.windowHandle());
 }
 

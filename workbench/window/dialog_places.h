@@ -1,5 +1,5 @@
-// Where dialogs come up and how large: over the middle of the main window, never larger than the screen's
-// free area, and as large as their user left them.
+// Where dialogs and pages of help come up and how large: over the middle of the main window, never larger
+// than the screen's free area, and as large as their user left them.
 #pragma once
 
 #include <QObject>
@@ -18,9 +18,9 @@ QRect placeOver(const QRect& below, QSize size, const QRect& area);
 // no side has room.
 QRect placeBeside(const QRect& shown, const QRect& place, const QRect& area);
 
-// Watches every dialog of the application for its lifetime. Sizes are kept in the profile, by the name of the
-// dialog; boxes with a message, progress and the system's dialogs have the size of what they show. A dialog
-// that needs more than the screen has is made to scroll.
+// Watches every dialog and every further window of the application for its lifetime. Sizes are kept in the
+// profile, by the name of the dialog; boxes with a message, progress and the system's dialogs have the size
+// of what they show. A dialog that needs more than the screen has is made to scroll.
 class DialogPlaces : public QObject {
     Q_OBJECT
 public:
@@ -33,6 +33,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool isPlaced(const QWidget& widget) const;
     void place(QWidget& dialog);
     void remember(const QWidget& dialog) const;
 
