@@ -278,9 +278,12 @@ void Workbench::showStartPage() {
 // Samples are opened as copies: what is shipped stays as it is.
 void Workbench::openChosen(const QString& path) {
     const QString problem = errorTextOf([&] {
-        if (path.startsWith(launch.dataDir))
+        if (path.startsWith(launch.dataDir)) {
             documents->openCopy(path, QFileInfo(path).completeBaseName());
-        else
+            if (const auto references =
+                    appService<IReferenceFiles>()) // the other samples are the ones to attach
+                references->chosenIn(hostqt::cxStringW(QFileInfo(path).absolutePath()).c_str());
+        } else
             openInPlaceOfUntouched(*documents, path);
     });
     if (!problem.isNull())
