@@ -8,6 +8,7 @@
 #include "tests/e2e/workbench_fixture.h"
 #include "tests/support/letters.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QTreeWidget>
@@ -124,6 +125,33 @@ TEST_F(KeyboardTest, AProfileIsChosenAndLeftAgain) {
     EXPECT_TRUE(part<QWidget>("toolBar")->isVisible()) << "the window follows the profile";
     play({[this] { submit("QPREF"); }, [&] { chooseProfile(Qt::Key_End); }});
     EXPECT_FALSE(part<QWidget>("toolBar")->isVisible());
+}
+
+TEST_F(KeyboardTest, AProfileIsMadeFromTheMenuOfItsButton) {
+    QStringList profiles;
+    play({[this] { submit("QPREF"); },
+          [this] {
+              tabTo("profileButton");
+              pressLater(Qt::Key_Space);
+          },
+          [this] {
+              ASSERT_NE(QApplication::activePopupWidget(), nullptr) << "Space opens the menu";
+              QTimer::singleShot(0, bench.get(),
+                                 [] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_N); });
+          },
+          [] {
+              QTest::keyClicks(focused(), "Plans");
+              press(Qt::Key_Return);
+          },
+          [&] {
+              const auto* const combo = window()->findChild<QComboBox*>("profileCombo");
+              for (int i = 0; i < combo->count(); ++i)
+                  profiles << combo->itemText(i);
+              EXPECT_EQ(combo->currentText(), "Plans");
+              tabTo("cancelButton");
+              press(Qt::Key_Space);
+          }});
+    EXPECT_TRUE(profiles.contains("Plans")) << profiles.join(' ').toStdString();
 }
 
 TEST_F(KeyboardTest, APropertyIsAddedChangedAndKept) {
