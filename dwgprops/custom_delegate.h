@@ -8,6 +8,9 @@ class CustomDelegate : public QItemDelegate {
 public:
     using QItemDelegate::QItemDelegate;
     bool eventFilter(QObject* editor, QEvent* event) override;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 signals:
     void tabPressed();

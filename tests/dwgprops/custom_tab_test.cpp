@@ -18,6 +18,16 @@ protected:
             QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::ControlModifier,
                               table.visualItemRect(table.item(row, 0)).center());
     }
+    // The picture of the value of the first row, chosen or not.
+    QImage shownValue(const QString& value, bool isChosen) {
+        setProperties({{"a", value}});
+        OpenProperties dialog(kCustom);
+        QTableWidget& table = *dialog.customTable();
+        table.clearSelection();
+        table.item(0, 1)->setSelected(isChosen);
+        table.setCurrentItem(isChosen ? table.item(0, 1) : nullptr);
+        return table.viewport()->grab(table.visualItemRect(table.item(0, 1))).toImage();
+    }
     static int selectedRow(const QTableWidget& table) {
         const QModelIndexList rows = table.selectionModel()->selectedRows();
         return rows.size() == 1 ? rows.first().row() : -1;
@@ -42,6 +52,23 @@ TEST_F(CustomPage, EntriesKeepTheirOrderAndStayTogetherThoughSortingIsEnabled) {
     const OpenProperties dialog(kCustom);
     EXPECT_TRUE(dialog.customTable()->isSortingEnabled());
     EXPECT_EQ(shownProperties(*dialog.customTable()), mixed);
+}
+
+TEST_F(CustomPage, AValueOfMegabytesIsShownByItsBeginningAndKeptWhole) {
+    const QString words = QString("wide words ").repeated(200), megabytes = words.repeated(1000);
+    for (const bool isChosen : {false, true})
+        EXPECT_TRUE(shownValue(megabytes, isChosen) == shownValue(words.left(1000), isChosen));
+    EXPECT_FALSE(shownValue(megabytes, false) == shownValue("x" + words, false));
+    setProperties({{"a", megabytes}, {"b", "1"}});
+    OpenProperties dialog(kCustom);
+    const auto heightOf = [&](int row) {
+        dialog.customTable()->resizeRowToContents(row);
+        return dialog.customTable()->rowHeight(row);
+    };
+    EXPECT_EQ(heightOf(0), heightOf(1));
+    dialog.customTable()->item(1, 1)->setText("2");
+    dialog.click("okButton");
+    EXPECT_EQ(properties(), (Properties{{"a", megabytes}, {"b", "2"}}));
 }
 
 TEST_F(CustomPage, PropertiesWithoutANameStayInTheDrawingAndOutOfTheTable) {
