@@ -23,6 +23,13 @@ TEST(HatchLimits, OfSolidLinesAreReachedAndNotExceeded) {
     EXPECT_FALSE(hatchLines(kSquare, pattern, 9));
 }
 
+TEST(HatchLimits, OfRowsHoldForAllBordersTogether) {
+    EXPECT_EQ(countOf(hatchLines(kSquare, {rows(0.5, 1)}, 10)), 10u);
+    const OdDbHatch::Loop upAndDown{{5, 0, 0}, {5, 10, 0}}; // crosses ten rows twice, for no line
+    EXPECT_TRUE(hatchLines({upAndDown, upAndDown, upAndDown}, {rows(0.5, 1)}, 30));
+    EXPECT_FALSE(hatchLines({upAndDown, upAndDown, upAndDown}, {rows(0.5, 1)}, 29));
+}
+
 // One row of two dashes and two gaps; another row needs as many.
 TEST(HatchLimits, OfDashesCountTheGapsAndKeepRoomForOneMore) {
     const auto row = [](double height) { return rows(height, 100, {3, -2}); };

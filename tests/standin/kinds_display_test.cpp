@@ -317,6 +317,15 @@ TEST(Dimensions, WithoutTheirBlockAreAMarkWithItsName) {
     }
 }
 
+// Some files have a copy of the other drawing's contents in the block.
+TEST(References, ThatAreNotLoadedAreWhatTheirBlockHoldsOrAMark) {
+    const std::string reference = head("INSERT", "AcDbBlockReference") + "2\nX\n" + point(10, 5, 6);
+    const std::string start = "0\nBLOCK\n8\n0\n2\nX\n70\n4\n10\n0\n20\n0\n30\n0\n1\nnowhere.dxf\n";
+    const std::string end = "0\nENDBLK\n8\n0\n";
+    EXPECT_EQ(Drawing(reference, blocks(start + line() + end)).shape().points, (Points{{5, 6}, {105, 6}}));
+    EXPECT_EQ(Drawing(reference, blocks(start + end)).shape().kind, Shape::Missing);
+}
+
 TEST(Tables, AreTheirBlockAtTheirPlace) {
     const std::string table = "0\nACAD_TABLE\n100\nAcDbEntity\n8\n0\n100\nAcDbBlockReference\n2\n*T1\n" +
                               point(10, 5, 6) + "100\nAcDbTable\n" + point(11, 0, 1) + "91\n1\n92\n1\n";

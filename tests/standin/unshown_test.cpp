@@ -50,9 +50,12 @@ TEST(Unshown, AreObjectsOfAKindWithAPictureThatSayTooLittleForOne) {
                                   {"ARC_DIMENSION", "AcDbDimension", point(10, 7, 7)},
                                   {"LARGE_RADIAL_DIMENSION", "AcDbDimension", point(10, 7, 7)},
                                   {"MULTILEADER", "AcDbMLeader", "170\n1\n"},
-                                  {"MLEADER", "AcDbMLeader", {}}})
-        EXPECT_EQ(Drawing(head(each.name, each.marker) + each.data).list.unshown().notices(),
+                                  {"MLEADER", "AcDbMLeader", {}}}) {
+        const Drawing drawing(head(each.name, each.marker) + each.data);
+        EXPECT_EQ(drawing.list.unshown().notices(),
                   QStringList(QString("1 object is not shown: 1 %1.").arg(each.name)));
+        EXPECT_TRUE(drawing.items.empty()) << each.name << " is counted, and not marked as well";
+    }
     const Drawing shown(head("DIMENSION", "AcDbDimension") + "2\n*D1\n" + head("MULTILEADER", "AcDbMLeader") +
                         context);
     EXPECT_TRUE(shown.list.unshown().notices().isEmpty());
@@ -170,6 +173,33 @@ TEST(BlockShapes, ThatHoldEachOtherAreShownOnceFromEitherSide) {
         ASSERT_EQ(drawing.items[number]->shapes.size(), 2u);
         EXPECT_EQ(drawing.items[number]->shapes[1].points[0].y(), height);
     }
+}
+
+// The third one has nothing to do with the circle.
+TEST(BlockShapes, ThatHoldEachOtherAndAThirdOneAreShownOnceFromEitherSide) {
+    const std::string all =
+        blockOf("A", line() + insert("B", point(10, 0, 10)) + insert("C", point(10, 0, 20))) +
+        blockOf("B", line() + insert("A", point(10, 0, 100))) + blockOf("C", line());
+    const Drawing drawing(insert("A", point(10, 0, 0)) + insert("B", point(10, 0, 0)), blocks(all));
+    ASSERT_EQ(drawing.items.size(), 2u);
+    for (const auto& [number, heights] :
+         {std::pair(0u, std::vector<double>{0, 10, 20}), {1u, std::vector<double>{0, 100, 120}}}) {
+        std::vector<double> found;
+        for (const Shape& shape : drawing.items[number]->shapes)
+            found.push_back(shape.points[0].y());
+        EXPECT_EQ(found, heights) << "of item " << number;
+    }
+}
+
+TEST(BlockShapes, AreShownToADepthOfSixtyFour) {
+    std::string nest;
+    for (int depth = 1; depth <= 70; ++depth)
+        nest += blockOf(("N" + std::to_string(depth)).c_str(),
+                        line() + insert(("N" + std::to_string(depth + 1)).c_str(), point(10, 0, 1)));
+    const Drawing drawing(insert("N1", point(10, 0, 0)), blocks(nest));
+    ASSERT_EQ(drawing.items.size(), 1u);
+    EXPECT_EQ(drawing.items[0]->shapes.size(), 64u);
+    EXPECT_TRUE(drawing.list.unshown().notices().isEmpty());
 }
 
 TEST(BlockShapes, TakeTheLinesOfTheirHatchesFromOneStore) {
