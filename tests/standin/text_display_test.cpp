@@ -201,6 +201,13 @@ TEST(ParagraphTexts, IndentFirstLinesAndTheOthers) {
     EXPECT_NEAR(drawing.text("bbb").points[0].x(), 20, 1e-9);
 }
 
+TEST(ParagraphTexts, EndAtTheRightWhateverTheirIndentAlsoWithoutALimit) {
+    const LaidText laid = layOut(odDbTextPieces(L"\\pi2,qr;ab\\P\\pi0,qr;a longer line", {}), {});
+    ASSERT_EQ(laid.runs.size(), 2u);
+    for (const TextRun& run : laid.runs)
+        EXPECT_NEAR(run.at.x() + run.width, laid.box.right, 1e-9) << run.text.toStdString();
+}
+
 TEST(ParagraphTexts, GoOnAtTabs) {
     EXPECT_EQ(Texts(mtext("a^Ib")).text("b").points[0].x(), 40); // every four letter heights
     const Texts drawing(mtext("\\pxt7,c12,r20;^Ia^Ibb^Icc"));
