@@ -3,11 +3,11 @@
 #include "benchmarks/plain_row.h"
 #include "benchmarks/run.h"
 #include "benchmarks/timing.h"
-#include "options/pages/clickable_label.h"
-#include "options/pages/int_spin_box.h"
-#include "options/pages/line_edit.h"
-#include "options/pages/pref_widget.h"
-#include "options/tree_item.h"
+#include "options/pages/rows/clickable_label.h"
+#include "options/pages/rows/int_spin_box.h"
+#include "options/pages/rows/line_edit.h"
+#include "options/pages/rows/pref_widget.h"
+#include "options/store/tree_item.h"
 #include "tests/support/fixture_host.h"
 
 #include <QCheckBox>

@@ -3,13 +3,13 @@
 // run.
 #include "benchmarks/run.h"
 #include "benchmarks/timing.h"
-#include "options/pages/clickable_label.h"
-#include "options/pages/collapse_widget.h"
-#include "options/pages/pref_widget.h"
-#include "options/pages/search_expression.h"
-#include "options/pages/search_marks.h"
-#include "options/pages/searching_line_edit.h"
-#include "options/tree_item.h"
+#include "options/pages/rows/clickable_label.h"
+#include "options/pages/rows/pref_widget.h"
+#include "options/pages/search/collapse_widget.h"
+#include "options/pages/search/search_expression.h"
+#include "options/pages/search/search_marks.h"
+#include "options/pages/search/searching_line_edit.h"
+#include "options/store/tree_item.h"
 #include "tests/support/fixture_host.h"
 
 #include <QDialog>

@@ -1,7 +1,7 @@
 // Apply into stores in memory, by the row: the whole of it, beside the bare writes of the same values.
 #include "benchmarks/run.h"
 #include "benchmarks/timing.h"
-#include "options/preferences.h"
+#include "options/window/preferences.h"
 #include "tests/options/option_tree_writer.h"
 #include "tests/support/fixture_host.h"
 

@@ -4,7 +4,7 @@
 #include "benchmarks/plain_row.h"
 #include "benchmarks/run.h"
 #include "benchmarks/timing.h"
-#include "options/preferences.h"
+#include "options/window/preferences.h"
 #include "tests/options/option_tree_writer.h"
 #include "tests/support/fixture_host.h"
 

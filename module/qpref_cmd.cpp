@@ -2,7 +2,7 @@
 #include "module/qpref_cmd.h"
 
 #include "host/documents.h"
-#include "options/qpref_command.h"
+#include "options/window/qpref_command.h"
 
 const OdString _QPREF_cmd::groupName() const { return OdString(L"QPREF"); }
 

@@ -1,6 +1,6 @@
 // Apply at the edges of its rules: what counts as enabled, which rows are reached, and what is saved of the
 // expansion.
-#include "options/pages/searching_line_edit.h"
+#include "options/pages/search/searching_line_edit.h"
 #include "tests/options/options_fixture.h"
 #include "tests/support/local_code_page.h"
 

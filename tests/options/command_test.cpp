@@ -1,8 +1,8 @@
 // The command that opens the Options dialog, run as the host runs it.
-#include "options/qpref_command.h"
+#include "options/window/qpref_command.h"
 
 #include "host/options_parent.h"
-#include "options/pages/searching_line_edit.h"
+#include "options/pages/search/searching_line_edit.h"
 #include "tests/options/option_data.h"
 #include "tests/support/poll.h"
 

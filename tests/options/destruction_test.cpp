@@ -1,5 +1,5 @@
 // The dialog destroyed while it is open: whatever has the focus then loses it without reaching what is gone.
-#include "options/pages/searching_line_edit.h"
+#include "options/pages/search/searching_line_edit.h"
 #include "tests/options/options_fixture.h"
 #include "tests/support/test_habits.h"
 

@@ -2,8 +2,8 @@
 #include "tests/options/open_dialog.h"
 #include "tests/support/test_application.h"
 
-#include "options/pages/collapse_widget.h"
-#include "options/pages/searching_line_edit.h"
+#include "options/pages/search/collapse_widget.h"
+#include "options/pages/search/searching_line_edit.h"
 #include "sdk/db/application_variables.h"
 
 #include <QAction>

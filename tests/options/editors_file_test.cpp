@@ -1,6 +1,6 @@
 // The file rows of the option tree: filters, the choice of files, and what is accepted when typed.
 #include "host/std_dirs.h"
-#include "options/file_filters.h"
+#include "options/kinds/file_filters.h"
 #include "tests/options/options_fixture.h"
 #include "tests/support/file_dialog_driver.h"
 #include "tests/support/tool_tip_text.h"

@@ -1,5 +1,5 @@
 // The expansion of stored directories.
-#include "options/expand_environment.h"
+#include "options/store/expand_environment.h"
 
 #include "tests/support/fixture_host.h"
 

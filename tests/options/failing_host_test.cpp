@@ -1,7 +1,7 @@
 // A host that throws while the dialog is being built: what was acquired until then is given back.
 #include "host/std_dirs.h"
-#include "options/pages/page_records.h"
-#include "options/pages/std_dir_info.h"
+#include "options/pages/directories/std_dir_info.h"
+#include "options/pages/rows/page_records.h"
 #include "tests/options/options_fixture.h"
 
 #include <QApplication>

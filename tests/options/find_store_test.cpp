@@ -1,5 +1,5 @@
 // Where an option's value is looked for: its own node, then one level up and no further.
-#include "options/option_store.h"
+#include "options/store/option_store.h"
 #include "tests/options/option_data.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // Moving rows with the two arrow buttons, and what moves along with them.
 #include "tests/options/open_dialog.h"
 
-#include "options/pages/searching_line_edit.h"
+#include "options/pages/search/searching_line_edit.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

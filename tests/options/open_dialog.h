@@ -1,8 +1,8 @@
 // The Options dialog on the screen, and a user's hands on it.
 #pragma once
 
-#include "options/pages/clickable_label.h"
-#include "options/pages/pref_widget.h"
+#include "options/pages/rows/clickable_label.h"
+#include "options/pages/rows/pref_widget.h"
 #include "tests/options/option_data.h"
 #include "tests/support/poll.h"
 

@@ -1,8 +1,8 @@
 // What the tests of the Options dialog read off its rows.
 #include "tests/options/option_data.h"
 
-#include "options/pages/clickable_label.h"
-#include "options/pages/pref_widget.h"
+#include "options/pages/rows/clickable_label.h"
+#include "options/pages/rows/pref_widget.h"
 
 QString shownText(const Preferences& preferences, TreeItem* item) {
     QPrefWidget* const row = preferences.rowWidgets.value(item);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/typed_reads.h"
-#include "options/preferences.h"
+#include "options/window/preferences.h"
 #include "tests/options/option_tree_writer.h"
 #include "tests/support/fixture_host.h"
 

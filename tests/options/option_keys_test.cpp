@@ -1,6 +1,6 @@
 // The Options dialog by keyboard alone, in a host that wants the focus to stay where it is. What the dialog
 // does without such a host is in dialog_test.cpp.
-#include "options/pages/searching_line_edit.h"
+#include "options/pages/search/searching_line_edit.h"
 #include "tests/options/options_fixture.h"
 #include "tests/support/test_habits.h"
 

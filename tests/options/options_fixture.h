@@ -3,9 +3,9 @@
 
 #include "host/text.h"
 #include "host/typed_reads.h"
-#include "options/pages/clickable_label.h"
-#include "options/pages/pref_widget.h"
-#include "options/preferences.h"
+#include "options/pages/rows/clickable_label.h"
+#include "options/pages/rows/pref_widget.h"
+#include "options/window/preferences.h"
 #include "tests/options/option_tree_writer.h"
 #include "tests/support/fixture_host.h"
 #include "tests/support/poll.h"

@@ -2,7 +2,7 @@
 #include "tests/options/open_dialog.h"
 
 #include "module/icons/icons.h"
-#include "options/pages/searching_line_edit.h"
+#include "options/pages/search/searching_line_edit.h"
 
 #include <QAction>
 #include <QLineEdit>

@@ -1,5 +1,5 @@
 // The search inside the whole dialog, where the dialog's own rules run along with it.
-#include "options/pages/searching_line_edit.h"
+#include "options/pages/search/searching_line_edit.h"
 #include "tests/options/options_fixture.h"
 
 #include <QComboBox>

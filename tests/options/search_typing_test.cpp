@@ -1,6 +1,6 @@
 // Searching while the user types, in a host that wants it. What the box does without such a host is in
 // search_in_dialog_test.cpp.
-#include "options/pages/searching_line_edit.h"
+#include "options/pages/search/searching_line_edit.h"
 #include "tests/options/options_fixture.h"
 #include "tests/support/test_habits.h"
 

@@ -1,7 +1,7 @@
 // Walks the whole option tree that the program ships, row by row.
 #include "tests/options/shipped_tree.h"
 
-#include "options/option_store.h"
+#include "options/store/option_store.h"
 
 #include <QCheckBox>
 #include <set>

@@ -1,7 +1,7 @@
 // The typed reads and writes of options, without a dialog.
-#include "options/option_values.h"
+#include "options/store/option_values.h"
 
-#include "options/option_store.h"
+#include "options/store/option_store.h"
 #include "tests/options/option_tree_writer.h"
 #include "tests/support/fixture_host.h"
 #include "tests/support/test_application.h"

@@ -1,9 +1,9 @@
 // A list of directories on its way between host and page: the elements that the page makes, and the item that
 // takes a list out of a variant and puts it back.
 #include "host/param.h"
-#include "options/pages/std_dir_info.h"
-#include "options/pages/std_dir_item.h"
-#include "options/pages/std_dir_list.h"
+#include "options/pages/directories/std_dir_info.h"
+#include "options/pages/directories/std_dir_item.h"
+#include "options/pages/directories/std_dir_list.h"
 #include "tests/support/fixture_host.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // The dialog for one directory of a list.
-#include "options/pages/dirs_dialog.h"
+#include "options/pages/directories/dirs_dialog.h"
 
 #include "tests/options/pages/page_fixture.h"
 #include "tests/support/file_dialog_driver.h"

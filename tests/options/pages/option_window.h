@@ -2,11 +2,11 @@
 // buttons and a default button, without any rule of the dialog itself.
 #pragma once
 
-#include "options/pages/clickable_label.h"
-#include "options/pages/collapse_widget.h"
-#include "options/pages/pref_widget.h"
-#include "options/pages/searching_line_edit.h"
-#include "options/tree_item.h"
+#include "options/pages/rows/clickable_label.h"
+#include "options/pages/rows/pref_widget.h"
+#include "options/pages/search/collapse_widget.h"
+#include "options/pages/search/searching_line_edit.h"
+#include "options/store/tree_item.h"
 #include "tests/support/poll.h"
 
 #include <QApplication>

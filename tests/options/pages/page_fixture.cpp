@@ -2,9 +2,9 @@
 
 #include "host/text.h"
 #include "host/typed_reads.h"
-#include "options/pages/clickable_label.h"
-#include "options/pages/pref_widget.h"
-#include "options/pages/searching_line_edit.h"
+#include "options/pages/rows/clickable_label.h"
+#include "options/pages/rows/pref_widget.h"
+#include "options/pages/search/searching_line_edit.h"
 #include "tests/support/poll.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 // and dialogs are clicked.
 #pragma once
 
-#include "options/preferences.h"
+#include "options/window/preferences.h"
 #include "tests/support/fixture_host.h"
 
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 // The owner of the pages' records: what is kept, and when it goes.
-#include "options/pages/page_records.h"
+#include "options/pages/rows/page_records.h"
 
-#include "options/pages/std_dir_info.h"
+#include "options/pages/directories/std_dir_info.h"
 
 #include <gtest/gtest.h>
 

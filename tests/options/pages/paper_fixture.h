@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/text.h"
-#include "options/pages/paper_format.h"
+#include "options/pages/papers/paper_format.h"
 #include "tests/options/pages/page_fixture.h"
 
 class PaperFixture : public PageFixture {

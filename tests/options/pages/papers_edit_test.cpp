@@ -1,6 +1,6 @@
 // What a user does to the rows of the papers.
-#include "options/pages/page_rows.h"
-#include "options/pages/paper_page.h"
+#include "options/pages/papers/paper_page.h"
+#include "options/pages/rows/page_rows.h"
 #include "tests/options/pages/paper_fixture.h"
 
 #include <ctime>

@@ -1,7 +1,7 @@
 // Papers as the page reads, shows and writes them. What the user does to the rows is in papers_edit_test.cpp.
-#include "options/pages/page_rows.h"
-#include "options/pages/paper_format.h"
-#include "options/pages/paper_page.h"
+#include "options/pages/papers/paper_format.h"
+#include "options/pages/papers/paper_page.h"
+#include "options/pages/rows/page_rows.h"
 #include "tests/options/pages/paper_fixture.h"
 #include "tests/support/comma_locale.h"
 

@@ -1,5 +1,5 @@
 // The dialog for one raster format.
-#include "options/pages/raster_dialog.h"
+#include "options/pages/raster/raster_dialog.h"
 
 #include "host/mnemonics.h"
 #include "host/typed_reads.h"

@@ -1,5 +1,5 @@
 // What a user does to the rows of the raster formats: adding, modifying and deleting.
-#include "options/pages/clickable_label.h"
+#include "options/pages/rows/clickable_label.h"
 #include "tests/options/pages/raster_fixture.h"
 
 namespace {

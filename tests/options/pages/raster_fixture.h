@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/text.h"
-#include "options/pages/raster_format.h"
+#include "options/pages/raster/raster_format.h"
 #include "tests/options/pages/page_fixture.h"
 
 class RasterFixture : public PageFixture {

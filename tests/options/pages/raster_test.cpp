@@ -1,9 +1,9 @@
 // The page of raster formats as it is read, shown and written. What the user does to the rows is in
 // raster_edits_test.cpp.
 #include "host/typed_reads.h"
-#include "options/pages/clickable_label.h"
-#include "options/pages/page_rows.h"
-#include "options/pages/raster_page.h"
+#include "options/pages/raster/raster_page.h"
+#include "options/pages/rows/clickable_label.h"
+#include "options/pages/rows/page_rows.h"
 #include "tests/options/pages/raster_fixture.h"
 
 #include <QIcon>

@@ -1,7 +1,7 @@
 // The option row: its text, its look, where the editor stands and its double click.
-#include "options/pages/clickable_label.h"
-#include "options/pages/pref_widget.h"
-#include "options/tree_item.h"
+#include "options/pages/rows/clickable_label.h"
+#include "options/pages/rows/pref_widget.h"
+#include "options/store/tree_item.h"
 #include "tests/support/fixture_host.h"
 
 #include <QCheckBox>

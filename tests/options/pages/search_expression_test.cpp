@@ -1,5 +1,5 @@
 // What the text of the search box matches.
-#include "options/pages/search_expression.h"
+#include "options/pages/search/search_expression.h"
 
 #include <gtest/gtest.h>
 

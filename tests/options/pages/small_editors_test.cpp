@@ -1,7 +1,7 @@
 // The three small editors inside rows of a tree: Return, focus, wheel.
-#include "options/pages/double_spin_box.h"
-#include "options/pages/int_spin_box.h"
-#include "options/pages/line_edit.h"
+#include "options/pages/rows/double_spin_box.h"
+#include "options/pages/rows/int_spin_box.h"
+#include "options/pages/rows/line_edit.h"
 #include "tests/options/pages/option_window.h"
 #include "tests/support/fixture_host.h"
 

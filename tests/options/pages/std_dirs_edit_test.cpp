@@ -1,8 +1,8 @@
 // What a user does to the paths of the standard directories: adding, changing and deleting.
 #include "host/app.h"
-#include "options/pages/clickable_label.h"
-#include "options/pages/page_rows.h"
-#include "options/pages/std_dirs_page.h"
+#include "options/pages/directories/std_dirs_page.h"
+#include "options/pages/rows/clickable_label.h"
+#include "options/pages/rows/page_rows.h"
 #include "tests/options/pages/std_dirs_fixture.h"
 #include "tests/support/tool_tip_text.h"
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/text.h"
-#include "options/pages/std_dir_list.h"
+#include "options/pages/directories/std_dir_list.h"
 #include "tests/options/pages/page_fixture.h"
 
 #include <QTemporaryDir>

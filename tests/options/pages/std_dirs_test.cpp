@@ -1,10 +1,10 @@
 // The page of standard directories: reading the host's lists into rows, and writing them on Apply.
 #include "host/app.h"
-#include "options/pages/clickable_label.h"
-#include "options/pages/page_rows.h"
-#include "options/pages/pref_widget.h"
-#include "options/pages/std_dir_info.h"
-#include "options/pages/std_dirs_page.h"
+#include "options/pages/directories/std_dir_info.h"
+#include "options/pages/directories/std_dirs_page.h"
+#include "options/pages/rows/clickable_label.h"
+#include "options/pages/rows/page_rows.h"
+#include "options/pages/rows/pref_widget.h"
 #include "tests/options/pages/std_dirs_fixture.h"
 
 #include <QApplication>

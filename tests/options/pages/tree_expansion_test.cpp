@@ -1,5 +1,5 @@
 // Saving and restoring the expansion of a tree.
-#include "options/pages/tree_expansion_state.h"
+#include "options/pages/search/tree_expansion_state.h"
 
 #include <QStringList>
 #include <QTreeWidget>

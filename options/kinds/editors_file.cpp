@@ -1,0 +1,84 @@
+// The line edit of one or several files, separated by semicolons.
+#include "options/window/preferences.h"
+
+#include "host/text.h"
+#include "host/tool_tip.h"
+#include "options/kinds/editor_parts.h"
+#include "options/kinds/file_filters.h"
+#include "options/pages/rows/line_edit.h"
+#include "options/store/option_values.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <memory>
+
+namespace {
+
+// One row's line edit with what its two slots need.
+struct FileRow {
+    Preferences* preferences;
+    LineEdit* edit;
+    TreeItem* item;
+    int id;
+    QString* lastText; // the text that was accepted last
+};
+
+// The copy is never freed: one small text for each row and dialog is lost, which is meant.
+QString* newLastText(const LineEdit* edit) { return new QString(edit->text()); }
+
+// Every "/" becomes "\", also in the paths of a system that doesn't separate with it. That is meant.
+void takeFiles(const FileRow& row, QString joined) {
+    joined.replace(QLatin1Char('/'), QLatin1Char('\\'));
+    showText(row.edit, joined);
+    row.item->textValue = joined;
+    *row.lastText = joined;
+}
+
+void pickFiles(const FileRow& row) {
+    QString filter;
+    QStringList extensions;
+    QString start = fileDialogSetup(row.id, &filter, &extensions);
+    if (start.isEmpty())
+        start = QFileInfo(row.edit->text()).absoluteFilePath();
+    const QStringList files = QFileDialog::getOpenFileNames(row.preferences, QString(), start, filter);
+    const QString joined = filterByExtension(files, extensions);
+    if (joined.isEmpty())
+        return;
+    takeFiles(row, joined);
+    focusPicked(row.edit, row.item);
+}
+
+// An emptied field is refused without a word, text of a wrong extension with the message. That is meant.
+void acceptFiles(const FileRow& row) {
+    QString filter;
+    QStringList extensions;
+    fileDialogSetup(row.id, &filter, &extensions);
+    const QStringList files = row.edit->text().split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    const QString joined = filterByExtension(files, extensions);
+    if (joined.isEmpty())
+        row.edit->setText(*row.lastText);
+    else
+        takeFiles(row, joined);
+}
+
+} // namespace
+
+void Preferences::buildFileEdit(TreeItem* item, IParam* node, int id) {
+    const QString value = hostqt::qString(textOrDefault(node, parentNode(item)));
+    auto owned = std::make_unique<LineEdit>(item, tree, value, nullptr);
+    LineEdit* const edit = owned.get();
+    nameEditor(edit, item);
+    edit->setToolTip(hostqt::plainToolTip(value));
+    item->textValue = value;
+    item->buttonMask = kMaskModify;
+    edit->setCursorPosition(0);
+    auto* browse = new QAction;
+    connect(edit, &QObject::destroyed, browse, [browse] { delete browse; });
+    addBrowseAction(*this, edit, browse);
+    const FileRow row{this, edit, item, id, newLastText(edit)};
+    connect(browse, &QAction::triggered, edit, [row] { pickFiles(row); });
+    connect(
+        edit, &QLineEdit::editingFinished, edit, [row] { acceptFiles(row); }, Qt::DirectConnection);
+    makeRow(1, item, owned.release(), false, 1);
+}
