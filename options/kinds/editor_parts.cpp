@@ -5,21 +5,23 @@
 #include "module/icons/icons.h"
 #include "options/kinds/icon_numbers.h"
 #include "options/pages/rows/line_edit.h"
-#include "options/window/preferences.h"
 
 #include <QAction>
 #include <QTreeWidget>
+
+RowNodes nodesOf(const OptionIndex& options, TreeItem* item) {
+    return {options.optionItems.value(item), options.parentNode(item)};
+}
 
 void nameEditor(QWidget* editor, const TreeItem* item) {
     editor->setObjectName(QString::fromLocal8Bit(item->nodeName));
 }
 
-void addBrowseAction(Preferences& preferences, LineEdit* edit, QAction* action) {
+void addBrowseAction(OptionDialog& options, LineEdit* edit, QAction* action) {
     action->setObjectName(QStringLiteral("browseAction"));
     action->setIcon(treeIcon(kIconFolders));
     edit->addAction(action, QLineEdit::TrailingPosition);
-    QObject::connect(&preferences, &Preferences::themeChanged, action,
-                     [action] { action->setIcon(treeIcon(kIconFolders)); });
+    options.atThemeChange(action, [action] { action->setIcon(treeIcon(kIconFolders)); });
 }
 
 void showText(LineEdit* edit, const QString& text) {
@@ -30,4 +32,11 @@ void showText(LineEdit* edit, const QString& text) {
 void focusPicked(LineEdit* edit, TreeItem* item) {
     item->treeWidget()->setCurrentItem(item);
     edit->setFocus(Qt::OtherFocusReason);
+}
+
+void startEditing(QWidget* editor) {
+    if (!editor)
+        return;
+    editor->setEnabled(true);
+    editor->setFocus(Qt::OtherFocusReason);
 }

@@ -5,8 +5,9 @@
 #include "host/qt_ui_core.h"
 #include "host/std_dirs.h"
 #include "host/text.h"
-#include "options/window/preferences.h"
+#include "options/store/tree_item.h"
 
+#include <QCoreApplication>
 #include <QStandardPaths>
 #include <algorithm>
 
@@ -53,7 +54,7 @@ QString fileDialogSetup(int id, QString* filter, QStringList* extensions) {
                                     [id](const FileKind& known) { return known.id == id; });
     if (!directories || kind == std::end(fileKinds))
         return start;
-    *filter = Preferences::tr(kind->filter);
+    *filter = QCoreApplication::translate("Preferences", kind->filter);
     *extensions = QStringList(QString::fromLatin1(kind->extension));
     return directoryOr(*directories, kind->directory, start);
 }
@@ -65,8 +66,10 @@ QString filterByExtension(const QStringList& files, const QStringList& extension
             kept += file;
         else
             host_qt_ui_core::QHostMessageBox::critical(
-                Preferences::tr("Error"),
-                Preferences::tr("\"%1\" is not added because of wrong extension.").arg(file), EV_MB_OK);
+                QCoreApplication::translate("Preferences", "Error"),
+                QCoreApplication::translate("Preferences", "\"%1\" is not added because of wrong extension.")
+                    .arg(file),
+                EV_MB_OK);
     }
     return kept.join(QLatin1Char(';'));
 }

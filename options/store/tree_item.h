@@ -26,7 +26,8 @@ enum NodeType : std::int32_t {
     kNodePath = 14,
     kNodeDirSection = 15,
     kNodePaperRoot = 16,
-    kNodeSection = 17
+    kNodeSection = 17,
+    kNodeTypeCount // new kinds go above; each needs its line in options/kinds/row_kinds.cpp
 };
 
 // Values of a node's `ID` that mean something.

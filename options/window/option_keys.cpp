@@ -1,5 +1,6 @@
 #include "options/window/option_keys.h"
 
+#include "options/kinds/row_kind.h"
 #include "options/pages/rows/clickable_label.h"
 #include "options/pages/rows/pref_widget.h"
 #include "options/pages/search/collapse_widget.h"
@@ -32,20 +33,6 @@ const char* valueProperty(const QWidget* editor) {
     if (qobject_cast<const QAbstractSpinBox*>(editor))
         return "value";
     return qobject_cast<const QComboBox*>(editor) ? "currentIndex" : nullptr;
-}
-
-// The rows of the pages, and swatches, are changed in dialogs of their own.
-bool isChangedInDialog(const TreeItem* item) {
-    switch (item->nodeType) {
-    case kNodePaper:
-    case kNodeRasterFormat:
-    case kNodePath:
-    case kNodeColor:
-    case kNodeAcColor:
-        return true;
-    default:
-        return false;
-    }
 }
 
 bool comesFromOutside(const QFocusEvent& event) {
@@ -153,7 +140,7 @@ bool OptionKeys::switchRow() {
 
 void OptionKeys::enterRow() {
     auto* const item = static_cast<TreeItem*>(dialog.tree->currentItem());
-    if (isChangedInDialog(item) && (contextMenuMask(item) & kMaskModify))
+    if (rowKind(item->nodeType).isModifiedInDialog() && (contextMenuMask(item) & kMaskModify))
         return dialog.modifyCurrent();
     if (QWidget* const editor = currentEditor())
         return editor->setFocus(Qt::OtherFocusReason);

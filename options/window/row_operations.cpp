@@ -1,79 +1,43 @@
-// Add, Modify and Delete on the current row, handed to the page that owns it, and the context menu that
-// offers them.
+// Add, Modify, Delete and the moves of the current row, handed to its kind, and the context menu that offers
+// them.
 #include "options/window/preferences.h"
 
-#include "options/kinds/editor_modify.h"
-#include "options/pages/directories/std_dirs_page.h"
-#include "options/pages/papers/paper_page.h"
-#include "options/pages/raster/raster_page.h"
+#include "options/kinds/row_kind.h"
 #include "options/tree/mask_rules.h"
 
 #include <QMenu>
 #include <QTreeWidget>
 
+TreeItem* Preferences::currentItem() const { return static_cast<TreeItem*>(tree->currentItem()); }
+
 void Preferences::addToCurrent() {
-    auto* const item = static_cast<TreeItem*>(tree->currentItem());
-    if (!item)
-        return;
-    switch (item->nodeType) {
-    case kNodePaper:
-    case kNodePaperRoot:
-        addPaperFormat(*this, item);
-        break;
-    case kNodeRasterFormat:
-        addRasterFormat(*this, item);
-        break;
-    case kNodePath:
-    case kNodeDirSection:
-        addPath(*this, item);
-        break;
-    default:
-        break;
-    }
+    if (TreeItem* const item = currentItem())
+        rowKind(item->nodeType).add(*this, item);
 }
 
 void Preferences::modifyCurrent() {
-    auto* const item = static_cast<TreeItem*>(tree->currentItem());
-    if (!item)
-        return;
-    switch (item->nodeType) {
-    case kNodePaper:
-        modifyPaperFormat(*this, item);
-        break;
-    case kNodeRasterFormat:
-        modifyRasterFormat(*this, item);
-        break;
-    case kNodePath:
-        modifyPath(*this, item);
-        break;
-    default:
-        modifyEditorRow(*this, item);
-    }
+    if (TreeItem* const item = currentItem())
+        rowKind(item->nodeType).modify(*this, item);
 }
 
 void Preferences::deleteCurrent() {
-    auto* const item = static_cast<TreeItem*>(tree->currentItem());
-    if (!item)
+    if (TreeItem* const item = currentItem())
+        rowKind(item->nodeType).remove(*this, item);
+}
+
+void Preferences::moveCurrent(int step) {
+    TreeItem* const item = currentItem();
+    if (!item || !item->parentItem())
         return;
-    switch (item->nodeType) {
-    case kNodePaper:
-        deletePaperFormat(*this, item);
-        break;
-    case kNodeRasterFormat:
-        deleteRasterFormat(*this, item);
-        break;
-    case kNodePath:
-        deletePath(*this, item);
-        break;
-    default:
-        break;
-    }
+    const int target = item->parentItem()->indexOfChild(item) + step;
+    if (target >= 0 && target < item->parentItem()->childCount())
+        rowKind(item->nodeType).move(*this, item, step);
 }
 
 // The menu belongs to the row under the mouse and acts on the current item: the press that asked for it has
 // made the two the same, unless the row is disabled.
 void Preferences::showContextMenu(QWidget* label, const QPoint& position) {
-    const auto* const item = static_cast<TreeItem*>(tree->currentItem());
+    const TreeItem* const item = currentItem();
     if (!item)
         return;
     const std::uint32_t mask = contextMenuMask(item);

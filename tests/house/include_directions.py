@@ -28,6 +28,22 @@ SDK = {
     "sdk/dxf": {"sdk/dxf", "sdk/ge", "sdk/rx"},
     "sdk/db": {"sdk/db", "sdk/dxf", "sdk/ge", "sdk/rx"},
 }
+# Within options: window -> tree -> kinds -> pages -> store. The pages of data do not know of each other. The index of the
+# rows holds the lists of directories by value, so that the class of a list lies below the pages.
+DIR_LIST = "options/pages/directories/std_dir_item.h"
+PAGE = {"options/pages/rows", "options/pages/search", "options/store", DIR_LIST}
+OPTIONS = {
+    DIR_LIST: {"options/store"},
+    "options/store": {"options/store"},
+    "options/pages/search": {"options/pages/search", "options/store"},
+    "options/pages/rows": PAGE,
+    "options/pages/directories": PAGE | {"options/pages/directories"},
+    "options/pages/raster": PAGE | {"options/pages/raster"},
+    "options/pages/papers": PAGE | {"options/pages/papers"},
+}
+OPTIONS["options/kinds"] = {"options/kinds"} | set(OPTIONS)
+OPTIONS["options/tree"] = {"options/tree"} | set(OPTIONS)
+OPTIONS["options/window"] = {"options/window"} | set(OPTIONS)
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.M)
 
 
@@ -37,6 +53,14 @@ def room(path, table):
         if (path == folder or path.startswith(folder + "/")) and (best is None or len(folder) > len(best)):
             best = folder
     return best
+
+
+# A folder whose rooms have arrows of their own; every file of it lies in one of them.
+INSIDE = {"sdk": SDK, "options": OPTIONS}
+
+
+def is_wrong_way(name, included, rooms):
+    return rooms and room(included, rooms) not in rooms.get(room(name, rooms), set())
 
 
 def faults(root):
@@ -56,10 +80,8 @@ def faults(root):
                 yield f'{name}: "{included}" is not named from the root of a folder'
             elif ALLOWED[here] is not None and there not in ALLOWED[here]:
                 yield f"{name} ({here}) may not include {included} ({there})"
-            elif here == "sdk" and room(included, SDK) not in SDK.get(room(name, SDK), set()):
-                yield f"{name} may not include {included}: wrong way inside sdk"
-            elif name.startswith("options/pages/") and name.endswith(".h") and included.endswith("preferences.h"):
-                yield f"{name}: a page's header only forward-declares Preferences"
+            elif here == there and is_wrong_way(name, included, INSIDE.get(here, {})):
+                yield f"{name} may not include {included}: wrong way inside {here}"
 
 
 def main():

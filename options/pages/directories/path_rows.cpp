@@ -5,12 +5,12 @@
 #include "host/text.h"
 #include "host/tool_tip.h"
 #include "options/pages/rows/clickable_label.h"
+#include "options/pages/rows/option_dialog.h"
 #include "options/pages/rows/pref_widget.h"
-#include "options/window/preferences.h"
 
 #include <QIcon>
 
-TreeItem* makePathItem(Preferences& preferences, TreeItem* section, const QIcon& icon,
+TreeItem* makePathItem(OptionDialog& options, TreeItem* section, const QIcon& icon,
                        const Ref<IStdDirInfo>& info, int doubleClickEnabled) {
     auto* item = new TreeItem(section);
     item->setText(0, hostqt::qString(info->GetPath()));
@@ -19,13 +19,13 @@ TreeItem* makePathItem(Preferences& preferences, TreeItem* section, const QIcon&
     item->buttonMask = kMaskDelete | kMaskModify | kMaskAdd | kMaskUp | kMaskDown;
     item->numberValue = section->numberValue;
     item->description = section->description;
-    item->payload = preferences.pageRecords.keep(info);
-    makePathRow(preferences, item, doubleClickEnabled);
+    item->payload = options.pageRecords.keep(info);
+    makePathRow(options, item, doubleClickEnabled);
     return item;
 }
 
-void makePathRow(Preferences& preferences, TreeItem* item, int doubleClickEnabled) {
-    QPrefWidget* row = preferences.makeRow(2, item, nullptr, true, doubleClickEnabled);
+void makePathRow(OptionDialog& options, TreeItem* item, int doubleClickEnabled) {
+    QPrefWidget* row = options.makeRow(2, item, nullptr, true, doubleClickEnabled);
     showPath(*row, row->label()->text());
 }
 

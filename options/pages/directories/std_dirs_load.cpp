@@ -3,11 +3,12 @@
 #include "host/text.h"
 #include "host/typed_reads.h"
 #include "options/pages/directories/path_rows.h"
+#include "options/pages/directories/std_dir_item.h"
 #include "options/pages/directories/std_dir_list.h"
 #include "options/pages/directories/std_dirs_page.h"
+#include "options/pages/rows/option_dialog.h"
 #include "options/pages/rows/page_rows.h"
 #include "options/pages/rows/pref_widget.h"
-#include "options/window/preferences.h"
 
 #include <QIcon>
 #include <QTreeWidget>
@@ -16,8 +17,8 @@ namespace {
 
 const char* const descriptionsSection = "StdDirsDescriptions";
 
-void readSections(Preferences& preferences, IParam* descriptions) {
-    preferences.stdDirs.clear();
+void readSections(OptionDialog& options, IParam* descriptions) {
+    options.stdDirs.clear();
     for (const std::string& key : childNames(descriptions)) {
         const Ref<IParam> section = openChild(descriptions, key.c_str());
         if (!section)
@@ -28,19 +29,19 @@ void readSections(Preferences& preferences, IParam* descriptions) {
         readValue(section.get(), "Name", &name);
         item.name = hostqt::cxStringW(translated(name));
         item.Load(theOnlyIApp);
-        preferences.stdDirs.push_back(std::move(item));
+        options.stdDirs.push_back(std::move(item));
     }
 }
 
-TreeItem* makeSectionItem(Preferences& preferences, QTreeWidgetItem* parent, const QIcon& icon,
+TreeItem* makeSectionItem(OptionDialog& options, QTreeWidgetItem* parent, const QIcon& icon,
                           std::size_t index) {
     auto* item = new TreeItem(parent);
-    item->setText(0, hostqt::qString(preferences.stdDirs[index].name));
+    item->setText(0, hostqt::qString(options.stdDirs[index].name));
     item->setIcon(0, icon);
     item->nodeType = kNodeDirSection;
     item->buttonMask = kMaskAdd;
     item->numberValue = static_cast<double>(index);
-    preferences.makeRow(2, item, nullptr, true, 0);
+    options.makeRow(2, item, nullptr, true, 0);
     return item;
 }
 
@@ -53,12 +54,11 @@ QString descriptionOf(IParam* host, const CXString& key) {
     return hostqt::qString(text);
 }
 
-void makePathItems(Preferences& preferences, TreeItem* section, const QIcon& icon,
-                   const Ref<StdDirList>& list) {
+void makePathItems(OptionDialog& options, TreeItem* section, const QIcon& icon, const Ref<StdDirList>& list) {
     for (const Ref<IStdDirInfo>& info : elementsOf(list)) {
-        TreeItem* item = makePathItem(preferences, section, icon, info, 1);
+        TreeItem* item = makePathItem(options, section, icon, info, 1);
         if (!info->GetEditable()) {
-            preferences.rowWidgets.value(item)->setEnabled(false);
+            options.rowWidgets.value(item)->setEnabled(false);
             item->setEnabledFlag(false);
         }
     }
@@ -66,20 +66,20 @@ void makePathItems(Preferences& preferences, TreeItem* section, const QIcon& ico
 
 } // namespace
 
-void loadStdDirs(Preferences& preferences, QTreeWidgetItem* parent) {
+void loadStdDirs(OptionDialog& options, QTreeWidgetItem* parent) {
     const Ref<IParam> host = appService<IParam>();
     const Ref<IParam> descriptions = openChild(host.get(), descriptionsSection);
     if (!appService<IStdDirs>() || !descriptions)
         return;
-    readSections(preferences, descriptions.get());
+    readSections(options, descriptions.get());
     const QIcon icon = iconOf(parent);
-    for (std::size_t index = 0; index < preferences.stdDirs.size(); ++index) {
-        TreeItem* section = makeSectionItem(preferences, parent, icon, index);
-        const CStdDirItem& item = preferences.stdDirs[index];
+    for (std::size_t index = 0; index < options.stdDirs.size(); ++index) {
+        TreeItem* section = makeSectionItem(options, parent, icon, index);
+        const CStdDirItem& item = options.stdDirs[index];
         // Meant: only a section without a list, not one with an empty list, goes without its description.
         if (!item.list)
             continue;
         section->description = descriptionOf(host.get(), item.key);
-        makePathItems(preferences, section, icon, item.list);
+        makePathItems(options, section, icon, item.list);
     }
 }

@@ -9,9 +9,10 @@
 #include "options/pages/directories/dirs_dialog.h"
 #include "options/pages/directories/path_rows.h"
 #include "options/pages/directories/std_dir_info.h"
+#include "options/pages/directories/std_dir_item.h"
 #include "options/pages/directories/std_dir_list.h"
+#include "options/pages/rows/option_dialog.h"
 #include "options/pages/rows/page_rows.h"
-#include "options/window/preferences.h"
 
 #include <QTreeWidget>
 
@@ -20,25 +21,25 @@ using host_qt_ui_core::QHostMessageBox;
 namespace {
 
 // False when the dialog is cancelled or leaves an empty path.
-bool askForPath(Preferences& preferences, const QString& title, QString& path) {
-    DirsDialog dialog(path, &preferences);
+bool askForPath(OptionDialog& options, const QString& title, QString& path) {
+    DirsDialog dialog(path, &options.asDialog());
     dialog.setWindowTitle(title);
     return runModal(dialog) == QDialog::Accepted && !path.isEmpty();
 }
 
 int sectionIndexOf(const TreeItem* item) { return static_cast<int>(item->numberValue); }
 
-const Ref<StdDirList>& listOf(Preferences& preferences, int sectionIndex) {
-    return preferences.stdDirs[static_cast<std::size_t>(sectionIndex)].list;
+const Ref<StdDirList>& listOf(OptionDialog& options, int sectionIndex) {
+    return options.stdDirs[static_cast<std::size_t>(sectionIndex)].list;
 }
 
 QString storedPath(const Ref<IStdDirInfo>& info) {
     return hostqt::qString(info->GetPath()).replace(QLatin1Char('\\'), QLatin1Char('/'));
 }
 
-void makeCurrent(Preferences& preferences, TreeItem* item) {
-    preferences.tree->setCurrentItem(item);
-    preferences.tree->setFocus(Qt::OtherFocusReason);
+void makeCurrent(OptionDialog& options, TreeItem* item) {
+    options.tree->setCurrentItem(item);
+    options.tree->setFocus(Qt::OtherFocusReason);
 }
 
 void exchangePaths(IStdDirInfo* one, IStdDirInfo* other) {
@@ -50,8 +51,7 @@ void exchangePaths(IStdDirInfo* one, IStdDirInfo* other) {
 
 } // namespace
 
-bool validatePath(Preferences& preferences, const QString& path, const QString& sectionTitle,
-                  int sectionIndex) {
+bool validatePath(OptionDialog& options, const QString& path, const QString& sectionTitle, int sectionIndex) {
     if (path.contains(QLatin1Char(';'))) {
         // Meant: the wording as it stands, with a back-tick for an apostrophe.
         const QString text =
@@ -59,7 +59,7 @@ bool validatePath(Preferences& preferences, const QString& path, const QString& 
         QHostMessageBox::critical(sectionTitle, text, EV_MB_OK);
         return false;
     }
-    for (const Ref<IStdDirInfo>& info : elementsOf(listOf(preferences, sectionIndex))) {
+    for (const Ref<IStdDirInfo>& info : elementsOf(listOf(options, sectionIndex))) {
         // Meant: only the stored path has its backslashes turned.
         if (storedPath(info).compare(path, Qt::CaseInsensitive) == 0) {
             const QString text = QStringLiteral("Path \"%1\" already exists in \"%2\" section.");
@@ -70,67 +70,67 @@ bool validatePath(Preferences& preferences, const QString& path, const QString& 
     return true;
 }
 
-void addPath(Preferences& preferences, TreeItem* item) {
+void addPath(OptionDialog& options, TreeItem* item) {
     TreeItem* section = item->nodeType == kNodePath ? item->parentItem() : item;
-    const QString title = plainLabelText(preferences, section);
+    const QString title = plainLabelText(options, section);
     QString path;
-    if (!askForPath(preferences, title, path))
+    if (!askForPath(options, title, path))
         return;
     const int index = sectionIndexOf(section);
-    if (!validatePath(preferences, path, title, index))
+    if (!validatePath(options, path, title, index))
         return;
     const auto info = Ref<IStdDirInfo>::take(new_StdDirInfo(".Local", hostqt::cxStringW(path), 1));
     // Meant: a row made after the dialog has opened doesn't open on double click.
-    TreeItem* added = makePathItem(preferences, section, iconOf(section), info, 0);
-    appendTo(listOf(preferences, index), info);
+    TreeItem* added = makePathItem(options, section, iconOf(section), info, 0);
+    appendTo(listOf(options, index), info);
     section->setExpanded(true);
-    preferences.tree->setCurrentItem(added);
+    options.tree->setCurrentItem(added);
 }
 
-void modifyPath(Preferences& preferences, TreeItem* item) {
-    QString path = plainLabelText(preferences, item);
+void modifyPath(OptionDialog& options, TreeItem* item) {
+    QString path = plainLabelText(options, item);
     const QString before = path;
-    const QString title = plainLabelText(preferences, item->parentItem());
-    if (!askForPath(preferences, title, path))
+    const QString title = plainLabelText(options, item->parentItem());
+    if (!askForPath(options, title, path))
         return;
     if (path.compare(before, Qt::CaseInsensitive) == 0)
         return; // meant: a change of letter case alone is dropped
-    if (!validatePath(preferences, path, title, sectionIndexOf(item)))
+    if (!validatePath(options, path, title, sectionIndexOf(item)))
         return;
-    showPath(*preferences.rowWidgets.value(item), path);
+    showPath(*options.rowWidgets.value(item), path);
     payloadOf(item)->SetPath(hostqt::cxStringW(path));
 }
 
-void deletePath(Preferences& preferences, TreeItem* item) {
+void deletePath(OptionDialog& options, TreeItem* item) {
     TreeItem* section = item->parentItem();
-    removeFrom(listOf(preferences, sectionIndexOf(item)), payloadOf(item));
-    takeOffRow(preferences, item);
-    makeCurrent(preferences, section);
-    preferences.pageRecords.drop(item->payload);
+    removeFrom(listOf(options, sectionIndexOf(item)), payloadOf(item));
+    takeOffRow(options, item);
+    makeCurrent(options, section);
+    options.pageRecords.drop(item->payload);
     delete item;
 }
 
-void movePath(Preferences& preferences, TreeItem* item, int step) {
+void movePath(OptionDialog& options, TreeItem* item, int step) {
     TreeItem* section = item->parentItem();
     const int index = section->indexOfChild(item);
     const int target = index + step;
     if (target < 0 || target >= section->childCount())
         return;
     TreeItem* neighbour = section->childItem(target);
-    const QString text = plainLabelText(preferences, item);
+    const QString text = plainLabelText(options, item);
     section->takeChild(index);
     section->insertChild(target, item);
     // Meant: the list keeps its order and the texts change places, so that afterwards each of the two rows
     // shows what the other's element holds.
     exchangePaths(payloadOf(item), payloadOf(neighbour));
     item->setText(0, text);
-    makePathRow(preferences, item, 0); // meant: a moved row doesn't open on double click either
-    makeCurrent(preferences, item);
+    makePathRow(options, item, 0); // meant: a moved row doesn't open on double click either
+    makeCurrent(options, item);
 }
 
-void storeStdDirs(Preferences& preferences) {
+void storeStdDirs(OptionDialog& options) {
     if (!appService<IStdDirs>())
         return;
-    for (CStdDirItem& section : preferences.stdDirs)
+    for (CStdDirItem& section : options.stdDirs)
         section.Store(theOnlyIApp);
 }

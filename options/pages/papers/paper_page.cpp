@@ -7,10 +7,12 @@
 #include "host/text.h"
 #include "host/typed_reads.h"
 #include "options/pages/papers/paper_format.h"
+#include "options/pages/rows/option_dialog.h"
 #include "options/pages/rows/page_rows.h"
-#include "options/window/preferences.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
+#include <QDialog>
 #include <QIcon>
 #include <QTreeWidget>
 #include <algorithm>
@@ -21,15 +23,15 @@ namespace {
 
 PaperFormat* paperOf(const TreeItem* item) { return static_cast<PaperFormat*>(item->payload); }
 
-void readPapers(Preferences& preferences, IStdPapersParam& store) {
+void readPapers(OptionDialog& options, IStdPapersParam& store) {
     for (const std::string& name : childNames(&store)) {
         const Ref<IParam> section = openChild(&store, name.c_str());
         if (!section)
             continue;
         const auto copy = Ref<IParam>::take(new_MemParam());
         Param_CopyTo(section.get(), copy.get());
-        preferences.paperFormats.push_back(preferences.pageRecords.keep(std::make_unique<PaperFormat>()));
-        preferences.paperFormats.back()->readFrom(copy);
+        options.paperFormats.push_back(options.pageRecords.keep(std::make_unique<PaperFormat>()));
+        options.paperFormats.back()->readFrom(copy);
     }
 }
 
@@ -44,9 +46,9 @@ std::unique_ptr<TreeItem> newPaperItem(const TreeItem& root, const QIcon& icon, 
     return item;
 }
 
-void makePaperRow(Preferences& preferences, TreeItem* item) {
+void makePaperRow(OptionDialog& options, TreeItem* item) {
     PaperFormat* paper = paperOf(item);
-    QCheckBox* check = makeCheckRow(preferences, item, paper->used != 0);
+    QCheckBox* check = makeCheckRow(options, item, paper->used != 0);
     const auto setUsed = [paper](int state) {
         paper->presentFlags |= kPaperUsed;
         paper->used = state == Qt::Checked ? 1 : 0;
@@ -54,46 +56,46 @@ void makePaperRow(Preferences& preferences, TreeItem* item) {
     QObject::connect(check, &QCheckBox::stateChanged, check, setUsed, Qt::DirectConnection);
 }
 
-std::vector<std::unique_ptr<TreeItem>> newPaperItems(const Preferences& preferences, const TreeItem& root) {
+std::vector<std::unique_ptr<TreeItem>> newPaperItems(const OptionDialog& options, const TreeItem& root) {
     const QIcon icon = iconOf(&root);
     std::vector<std::unique_ptr<TreeItem>> items;
-    for (PaperFormat* paper : preferences.paperFormats)
+    for (PaperFormat* paper : options.paperFormats)
         items.push_back(newPaperItem(root, icon, paper));
     return items;
 }
 
 // All items go in at once: with the page open on the screen the tree lays itself out, and every row widget in
 // it, after each insertion.
-void makePaperRows(Preferences& preferences, TreeItem* root) {
+void makePaperRows(OptionDialog& options, TreeItem* root) {
     QList<QTreeWidgetItem*> items;
-    for (std::unique_ptr<TreeItem>& item : newPaperItems(preferences, *root))
+    for (std::unique_ptr<TreeItem>& item : newPaperItems(options, *root))
         items.append(item.release());
     root->addChildren(items);
     for (QTreeWidgetItem* item : qAsConst(items))
-        makePaperRow(preferences, static_cast<TreeItem*>(item));
+        makePaperRow(options, static_cast<TreeItem*>(item));
 }
 
 } // namespace
 
-void loadPaperFormats(Preferences& preferences, TreeItem* paperRootItem) {
+void loadPaperFormats(OptionDialog& options, TreeItem* paperRootItem) {
     paperRootItem->buttonMask = kMaskAdd;
-    preferences.paperFormats.clear();
+    options.paperFormats.clear();
     const Ref<IStdPapersParam> store = appService<IStdPapersParam>();
     if (!store)
         return;
-    readPapers(preferences, *store);
-    makePaperRows(preferences, paperRootItem);
+    readPapers(options, *store);
+    makePaperRows(options, paperRootItem);
 }
 
-void reloadPaperRows(Preferences& preferences) {
-    const QList<QTreeWidgetItem*> rows = preferences.paperRootItem->takeChildren();
+void reloadPaperRows(OptionDialog& options) {
+    const QList<QTreeWidgetItem*> rows = options.paperRootItem->takeChildren();
     for (QTreeWidgetItem* row : rows) {
-        preferences.forgetItem(static_cast<TreeItem*>(row));
+        options.forgetItem(static_cast<TreeItem*>(row));
         delete row;
     }
-    for (const PaperFormat* paper : preferences.paperFormats)
-        preferences.pageRecords.drop(paper);
-    loadPaperFormats(preferences, preferences.paperRootItem);
+    for (const PaperFormat* paper : options.paperFormats)
+        options.pageRecords.drop(paper);
+    loadPaperFormats(options, options.paperRootItem);
 }
 
 void storePaperFormats(IKWUnknown* app, std::vector<PaperFormat*>& paperFormats) {
@@ -112,53 +114,54 @@ void storePaperFormats(IKWUnknown* app, std::vector<PaperFormat*>& paperFormats)
     }
 }
 
-void addPaperFormat(Preferences& preferences, TreeItem*) {
-    TreeItem* root = preferences.paperRootItem;
-    const bool rootWasCurrent = preferences.tree->currentItem() == root;
+void addPaperFormat(OptionDialog& options, TreeItem*) {
+    TreeItem* root = options.paperRootItem;
+    const bool rootWasCurrent = options.tree->currentItem() == root;
     const Ref<IStdPapersParam> store = appService<IStdPapersParam>();
-    if (!store || !store->AddPaper(&preferences))
+    if (!store || !store->AddPaper(&options.asDialog()))
         return;
-    reloadPaperRows(preferences);
+    reloadPaperRows(options);
     if (rootWasCurrent)
         root->setExpanded(true);
     if (root->childCount() > 0) // meant: the last row, which need not be the new paper
-        preferences.tree->setCurrentItem(root->child(root->childCount() - 1));
+        options.tree->setCurrentItem(root->child(root->childCount() - 1));
 }
 
-void modifyPaperFormat(Preferences& preferences, TreeItem* item) {
-    TreeItem* root = preferences.paperRootItem;
+void modifyPaperFormat(OptionDialog& options, TreeItem* item) {
+    TreeItem* root = options.paperRootItem;
     // Meant: the text goes to the host with the marks of a search in it.
-    const std::wstring rowText = hostqt::stdWString(labelText(preferences, item));
+    const std::wstring rowText = hostqt::stdWString(labelText(options, item));
     const int index = root->indexOfChild(item);
     const Ref<IStdPapersParam> store = appService<IStdPapersParam>();
-    if (!store || !store->ModifyPaper(rowText.c_str(), &preferences))
+    if (!store || !store->ModifyPaper(rowText.c_str(), &options.asDialog()))
         return;
-    reloadPaperRows(preferences);
+    reloadPaperRows(options);
     if (QTreeWidgetItem* row = root->child(index))
-        preferences.tree->setCurrentItem(row);
+        options.tree->setCurrentItem(row);
 }
 
-void deletePaperFormat(Preferences& preferences, TreeItem* item) {
+void deletePaperFormat(OptionDialog& options, TreeItem* item) {
     PaperFormat* paper = paperOf(item);
     const QString question =
-        Preferences::tr("Do you really want to delete paper format:\n%1?").arg(hostqt::qString(paper->name));
+        QCoreApplication::translate("Preferences", "Do you really want to delete paper format:\n%1?")
+            .arg(hostqt::qString(paper->name));
     if (QHostMessageBox::question(question, EV_MB_YES | EV_MB_NO) != EV_MB_YES)
         return;
-    auto& papers = preferences.paperFormats;
+    auto& papers = options.paperFormats;
     const auto place = std::find(papers.begin(), papers.end(), paper);
     if (place == papers.end())
         return;
     papers.erase(place);
-    takeOffRow(preferences, item);
-    preferences.pageRecords.drop(paper);
+    takeOffRow(options, item);
+    options.pageRecords.drop(paper);
     delete item;
     // Meant: a deleted paper is gone from the store at once, and with it goes all that stands in the rows.
     if (theOnlyIApp)
         storePaperFormats(theOnlyIApp, papers);
 }
 
-void movePaperFormat(Preferences& preferences, TreeItem* item, int step) {
-    auto& papers = preferences.paperFormats;
+void movePaperFormat(OptionDialog& options, TreeItem* item, int step) {
+    auto& papers = options.paperFormats;
     const auto place = std::find(papers.begin(), papers.end(), paperOf(item));
     const auto index = place - papers.begin();
     const auto count = static_cast<std::ptrdiff_t>(papers.size());

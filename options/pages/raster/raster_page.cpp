@@ -8,11 +8,13 @@
 #include "host/typed_reads.h"
 #include "options/pages/raster/raster_dialog.h"
 #include "options/pages/raster/raster_format.h"
+#include "options/pages/rows/option_dialog.h"
 #include "options/pages/rows/page_rows.h"
 #include "options/pages/rows/pref_widget.h"
-#include "options/window/preferences.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
+#include <QDialog>
 #include <QIcon>
 #include <QTreeWidget>
 #include <memory>
@@ -34,7 +36,7 @@ bool readNumbered(IParam* raster, int number, CXString* name) {
     return readValue(raster, numberKey(number), name);
 }
 
-void readFormats(Preferences& preferences, IParam* store, IParam* raster) {
+void readFormats(OptionDialog& options, IParam* store, IParam* raster) {
     CXString name;
     for (int number = 1; readNumbered(raster, number, &name); ++number) {
         const Ref<IParam> section = openChild(store, CXString("Formats\\") + name);
@@ -42,12 +44,11 @@ void readFormats(Preferences& preferences, IParam* store, IParam* raster) {
             continue; // meant: such a name is dropped, from the numbering too on the next Apply
         const auto copy = Ref<IParam>::take(new_MemParam());
         Param_CopyTo(section.get(), copy.get());
-        preferences.rasterFormats.append(
-            preferences.pageRecords.keep(std::make_unique<RasterFormat>(name, copy)));
+        options.rasterFormats.append(options.pageRecords.keep(std::make_unique<RasterFormat>(name, copy)));
     }
 }
 
-void makeFormatRow(Preferences& preferences, TreeItem* parent, const QIcon& icon, RasterFormat* format) {
+void makeFormatRow(OptionDialog& options, TreeItem* parent, const QIcon& icon, RasterFormat* format) {
     auto* item = new TreeItem(parent);
     item->setText(0, hostqt::qString(format->description));
     item->setIcon(0, icon);
@@ -55,7 +56,7 @@ void makeFormatRow(Preferences& preferences, TreeItem* parent, const QIcon& icon
     item->nodeType = kNodeRasterFormat;
     item->payload = format;
     item->buttonMask = format->buttonMask();
-    QCheckBox* check = makeCheckRow(preferences, item, format->enabled != 0);
+    QCheckBox* check = makeCheckRow(options, item, format->enabled != 0);
     QObject::connect(
         check, &QCheckBox::stateChanged, check,
         [format](int state) { format->enabled = state == Qt::Checked ? 1 : 0; }, Qt::DirectConnection);
@@ -72,8 +73,8 @@ std::unique_ptr<RasterFormat> newFormatFrom(const RasterFormat& model) {
     return std::make_unique<RasterFormat>(name, params);
 }
 
-bool runRasterDialog(Preferences& preferences, RasterFormat* format, bool isNew, const QString& title) {
-    RasterDialog dialog(&preferences, format, isNew);
+bool runRasterDialog(OptionDialog& options, RasterFormat* format, bool isNew, const QString& title) {
+    RasterDialog dialog(&options.asDialog(), format, isNew);
     dialog.setWindowTitle(title);
     return runModal(dialog) == QDialog::Accepted;
 }
@@ -97,18 +98,18 @@ void storeFormat(IParam* store, const RasterFormat& format) {
 
 } // namespace
 
-void loadRasterFormats(Preferences& preferences, TreeItem* rasterRootItem) {
+void loadRasterFormats(OptionDialog& options, TreeItem* rasterRootItem) {
     const Ref<IIOParams> store = appService<IIOParams>();
     const Ref<IParam> raster = openChild(store.get(), "Raster");
     if (!raster)
         return;
-    readFormats(preferences, store.get(), raster.get());
+    readFormats(options, store.get(), raster.get());
     const QIcon icon = iconOf(rasterRootItem);
-    for (RasterFormat* format : preferences.rasterFormats)
-        makeFormatRow(preferences, rasterRootItem, icon, format);
+    for (RasterFormat* format : options.rasterFormats)
+        makeFormatRow(options, rasterRootItem, icon, format);
 }
 
-void storeRasterFormats(Preferences& preferences, IKWUnknown* app) {
+void storeRasterFormats(OptionDialog& options, IKWUnknown* app) {
     const Ref<IIOParams> store = queryFor<IIOParams>(app);
     const Ref<IParam> raster = openChild(store.get(), "Raster");
     if (!raster)
@@ -116,7 +117,7 @@ void storeRasterFormats(Preferences& preferences, IKWUnknown* app) {
     wipeNumbers(raster.get());
     int number = 1;
     // Meant: a deleted record removes its section even where a live one before it has the same name.
-    for (const RasterFormat* format : preferences.rasterFormats) {
+    for (const RasterFormat* format : options.rasterFormats) {
         if (format->deleted) {
             store->removeEntry(format->sectionPath());
         } else {
@@ -126,34 +127,37 @@ void storeRasterFormats(Preferences& preferences, IKWUnknown* app) {
     }
 }
 
-void addRasterFormat(Preferences& preferences, TreeItem* item) {
+void addRasterFormat(OptionDialog& options, TreeItem* item) {
     if (!appService<IIOParams>())
         return;
     std::unique_ptr<RasterFormat> format = newFormatFrom(*formatOf(item));
-    if (!runRasterDialog(preferences, format.get(), true, Preferences::tr("Add Raster Format")))
+    if (!runRasterDialog(options, format.get(), true,
+                         QCoreApplication::translate("Preferences", "Add Raster Format")))
         return;
     format->enabled = 1;
     format->canDelete = 1;
-    preferences.rasterFormats.append(preferences.pageRecords.keep(std::move(format)));
-    makeFormatRow(preferences, item->parentItem(), iconOf(item), preferences.rasterFormats.last());
+    options.rasterFormats.append(options.pageRecords.keep(std::move(format)));
+    makeFormatRow(options, item->parentItem(), iconOf(item), options.rasterFormats.last());
 }
 
-void modifyRasterFormat(Preferences& preferences, TreeItem* item) {
+void modifyRasterFormat(OptionDialog& options, TreeItem* item) {
     RasterFormat* format = formatOf(item);
-    if (runRasterDialog(preferences, format, false, Preferences::tr("Modify Raster Format")))
-        preferences.rowWidgets.value(item)->showText(hostqt::qString(format->description));
+    if (runRasterDialog(options, format, false,
+                        QCoreApplication::translate("Preferences", "Modify Raster Format")))
+        options.rowWidgets.value(item)->showText(hostqt::qString(format->description));
 }
 
-void deleteRasterFormat(Preferences& preferences, TreeItem* item) {
+void deleteRasterFormat(OptionDialog& options, TreeItem* item) {
     RasterFormat* format = formatOf(item);
     // Meant: the blank before the colon.
-    const QString question = Preferences::tr("Do you really want to delete raster format :\n%1?")
-                                 .arg(hostqt::qString(format->description));
-    const EV_MB_RET answer =
-        QHostMessageBox::question(Preferences::tr("Raster format delete"), question, EV_MB_YES | EV_MB_NO);
+    const QString question =
+        QCoreApplication::translate("Preferences", "Do you really want to delete raster format :\n%1?")
+            .arg(hostqt::qString(format->description));
+    const EV_MB_RET answer = QHostMessageBox::question(
+        QCoreApplication::translate("Preferences", "Raster format delete"), question, EV_MB_YES | EV_MB_NO);
     if (answer != EV_MB_YES)
         return;
     format->deleted = 1;
-    takeOffRow(preferences, item);
+    takeOffRow(options, item);
     delete item;
 }

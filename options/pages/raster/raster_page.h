@@ -2,13 +2,13 @@
 #pragma once
 
 class IKWUnknown;
-class Preferences;
+class OptionDialog;
 class TreeItem;
 
-void loadRasterFormats(Preferences& preferences, TreeItem* rasterRootItem);
-void storeRasterFormats(Preferences& preferences, IKWUnknown* app); // `app` may be null
+void loadRasterFormats(OptionDialog& options, TreeItem* rasterRootItem);
+void storeRasterFormats(OptionDialog& options, IKWUnknown* app); // `app` may be null
 
 // The operations on a format row (node type 6).
-void addRasterFormat(Preferences& preferences, TreeItem* item); // copies the format of the row
-void modifyRasterFormat(Preferences& preferences, TreeItem* item);
-void deleteRasterFormat(Preferences& preferences, TreeItem* item); // asks first; reaches the store on Apply
+void addRasterFormat(OptionDialog& options, TreeItem* item); // copies the format of the row
+void modifyRasterFormat(OptionDialog& options, TreeItem* item);
+void deleteRasterFormat(OptionDialog& options, TreeItem* item); // asks first; reaches the store on Apply

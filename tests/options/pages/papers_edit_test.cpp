@@ -1,6 +1,7 @@
 // What a user does to the rows of the papers.
 #include "options/pages/papers/paper_page.h"
 #include "options/pages/rows/page_rows.h"
+#include "options/window/page_calls.h"
 #include "tests/options/pages/paper_fixture.h"
 
 #include <ctime>

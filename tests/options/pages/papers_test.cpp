@@ -2,6 +2,7 @@
 #include "options/pages/papers/paper_format.h"
 #include "options/pages/papers/paper_page.h"
 #include "options/pages/rows/page_rows.h"
+#include "options/window/page_calls.h"
 #include "tests/options/pages/paper_fixture.h"
 #include "tests/support/comma_locale.h"
 

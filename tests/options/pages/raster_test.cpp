@@ -4,6 +4,7 @@
 #include "options/pages/raster/raster_page.h"
 #include "options/pages/rows/clickable_label.h"
 #include "options/pages/rows/page_rows.h"
+#include "options/window/page_calls.h"
 #include "tests/options/pages/raster_fixture.h"
 
 #include <QIcon>

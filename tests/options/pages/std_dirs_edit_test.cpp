@@ -3,6 +3,7 @@
 #include "options/pages/directories/std_dirs_page.h"
 #include "options/pages/rows/clickable_label.h"
 #include "options/pages/rows/page_rows.h"
+#include "options/window/page_calls.h"
 #include "tests/options/pages/std_dirs_fixture.h"
 #include "tests/support/tool_tip_text.h"
 

@@ -1,6 +1,7 @@
 // Moving a path up and down: the texts of two elements change places, the elements don't.
 #include "options/pages/directories/std_dirs_page.h"
 #include "options/pages/rows/clickable_label.h"
+#include "options/window/page_calls.h"
 #include "tests/options/pages/std_dirs_fixture.h"
 
 namespace {

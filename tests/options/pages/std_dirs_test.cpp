@@ -5,6 +5,7 @@
 #include "options/pages/rows/clickable_label.h"
 #include "options/pages/rows/page_rows.h"
 #include "options/pages/rows/pref_widget.h"
+#include "options/window/page_calls.h"
 #include "tests/options/pages/std_dirs_fixture.h"
 
 #include <QApplication>

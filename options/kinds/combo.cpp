@@ -1,17 +1,29 @@
-// The combo boxes: a list of choices from the option tree, or the host's list of save formats.
-#include "options/window/preferences.h"
-
+// The row with a list to choose from: choices of the option tree, or the host's list of save formats.
 #include "host/app.h"
 #include "host/qt_ui_core.h"
 #include "host/text.h"
+#include "options/kinds/all_kinds.h"
 #include "options/kinds/editor_parts.h"
+#include "options/kinds/row_kind.h"
 #include "options/store/option_values.h"
 
+#include <QDialog>
 #include <QEvent>
 
 using host_qt_ui_core::QHostComboBox;
 
 namespace {
+
+class ComboKind final : public RowKind {
+public:
+    void build(OptionDialog& options, TreeItem* item, IParam* node, int id) const override;
+    void write(OptionDialog& options, TreeItem* item) const override;
+    bool isWrittenDisabled() const override { return true; } // meant
+    void modify(OptionDialog& options, TreeItem* item) const override {
+        if (auto* const box = editorOf<QComboBox>(options, item))
+            box->showPopup();
+    }
+};
 
 // A combo box answers a change of its style by building the list that pops up, which costs as much as several
 // rows. On its way into the row that is wasted: nobody has opened the list, and whoever does gets it in the
@@ -99,28 +111,45 @@ void listSaveFormats(QHostComboBox* box, int current, TreeItem* item) {
     }
 }
 
-} // namespace
+// The place in the list counts, also where it is out of step with the numbers of the save formats: meant.
+void choose(OptionDialog& options, const QHostComboBox* box, TreeItem* item, int index) {
+    item->numberValue = index + 1;
+    item->description = box->itemData(index, Qt::ToolTipRole).toString();
+    options.showDescription(item);
+}
 
-void Preferences::buildCombo(TreeItem* item, IParam* node, int id) {
+void ComboKind::build(OptionDialog& options, TreeItem* item, IParam* node, int id) const {
     item->buttonMask = kMaskModify;
-    auto* box = new QHostComboBox(this);
+    auto* box = new QHostComboBox(&options.asDialog());
     nameEditor(box, item);
     box->setFixedWidth(200);
     box->disableMouseWheel(true);
-    const QString value = hostqt::qString(textOrDefault(node, parentNode(item)));
+    const QString value = hostqt::qString(textOrDefault(node, options.parentNode(item)));
     if (const Ref<IParam> choices = openChild(node, "Choices"))
         listChoices(box, choices.get(), value, item);
     else if (id == kIdSaveFormats)
-        listSaveFormats(box, storedFormatNumber(node, parentNode(item)), item);
-    // The place in the list counts, also where it is out of step with the numbers of the save formats: meant.
-    connect(
-        box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-        [this, box, item](int index) {
-            item->numberValue = index + 1;
-            item->description = box->itemData(index, Qt::ToolTipRole).toString();
-            showDescription(item);
-        },
-        Qt::DirectConnection);
+        listSaveFormats(box, storedFormatNumber(node, options.parentNode(item)), item);
+    QObject::connect(
+        box, QOverload<int>::of(&QComboBox::currentIndexChanged), &options.asDialog(),
+        [&options, box, item](int index) { choose(options, box, item, index); }, Qt::DirectConnection);
     const StyleChangePassedOver passedOver(box);
-    makeRow(1, item, box, false, 1);
+    options.makeRow(1, item, box, false, 1);
+}
+
+void ComboKind::write(OptionDialog& options, TreeItem* item) const {
+    const RowNodes row = nodesOf(options, item);
+    if (item->optionId == kIdSaveFormats) {
+        writeSaveFormatOption(row.node, row.parent, static_cast<int>(item->numberValue));
+        return;
+    }
+    QPrefWidget* const widget = options.rowWidgets.value(item);
+    if (const QComboBox* box = widget ? widget->findChild<QComboBox*>() : nullptr)
+        writeStringOption(row.node, row.parent, hostqt::cxStringW(box->currentData(Qt::UserRole).toString()));
+}
+
+} // namespace
+
+const RowKind& comboKind() {
+    static const ComboKind kind;
+    return kind;
 }

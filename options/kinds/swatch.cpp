@@ -1,13 +1,14 @@
-// The colour swatches. The colour dialog opens on a double click, which the swatches measure by hand.
-#include "options/window/preferences.h"
+// The swatches of the colour rows. The colour dialog opens on a double click, which they measure by hand.
+#include "options/kinds/swatch.h"
 
 #include "host/color_dialog.h"
 #include "options/kinds/editor_parts.h"
-#include "options/store/option_values.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QTime>
 #include <QToolButton>
+#include <QTreeWidget>
 
 namespace {
 
@@ -34,14 +35,6 @@ std::uint8_t redOf(std::uint32_t color) { return static_cast<std::uint8_t>(color
 std::uint8_t greenOf(std::uint32_t color) { return static_cast<std::uint8_t>(color >> 8); }
 std::uint8_t blueOf(std::uint32_t color) { return static_cast<std::uint8_t>(color >> 16); }
 
-// The low three bytes with red and blue swapped: 0x00RRGGBB to 0x00BBGGRR.
-std::uint32_t swapped(std::uint32_t rgb) { return (rgb & 0xFF) << 16 | (rgb & 0xFF00) | (rgb >> 16 & 0xFF); }
-
-std::uint32_t storedPaletteColor(IParam* node, IParam* parent) {
-    const int index = intOrDefault(node, parent);
-    return swapped(OdCmEntityColor::lookUpRGB(static_cast<std::uint8_t>(index & 255)));
-}
-
 void showColor(QToolButton* button, std::uint32_t color) {
     const QColor shown(redOf(color), greenOf(color), blueOf(color));
     button->setStyleSheet(QStringLiteral("background-color: ") + shown.name() +
@@ -55,36 +48,43 @@ std::uint32_t fromDialog(const OdCmColor& picked) {
     return static_cast<std::uint32_t>(color.red() + (color.green() << 8) + (color.blue() << 16));
 }
 
-void runColorDialog(Preferences& preferences, QToolButton* button, TreeItem* item) {
+void runColorDialog(OptionDialog& options, QToolButton* button, TreeItem* item) {
     OdCmColor color;
     color.setRGB(redOf(item->colorValue), greenOf(item->colorValue), blueOf(item->colorValue));
-    if (!hostQtSetColorDialogTrueColor(color, false, OdCmColor(), kAllTabs, &preferences))
+    if (!hostQtSetColorDialogTrueColor(color, false, OdCmColor(), kAllTabs, &options.asDialog()))
         return;
     item->colorValue = fromDialog(color);
     showColor(button, item->colorValue);
 }
 
-} // namespace
-
-void Preferences::buildColor(TreeItem* item, IParam* node, int nodeType) {
-    item->colorValue = nodeType == kNodeAcColor ? storedPaletteColor(node, parentNode(item))
-                                                : colorOrDefault(node, parentNode(item));
-    item->buttonMask = kMaskModify;
-    auto* button = new QToolButton;
-    nameEditor(button, item);
-    showColor(button, item->colorValue);
-    connect(
-        button, &QToolButton::clicked, this, [this, button, item] { pickColor(button, item); },
-        Qt::DirectConnection);
-    makeRow(0, item, button, true, 1);
-}
-
-void Preferences::pickColor(QToolButton* button, TreeItem* item) {
+void pickColor(OptionDialog& options, QToolButton* button, TreeItem* item) {
     if (isDoubleClick(button)) {
-        tree->setCurrentItem(item);
-        runColorDialog(*this, button, item);
+        options.tree->setCurrentItem(item);
+        runColorDialog(options, button, item);
         armedSwatch = nullptr;
         return;
     }
     arm(button);
+}
+
+} // namespace
+
+void buildSwatch(OptionDialog& options, TreeItem* item, std::uint32_t color) {
+    item->colorValue = color;
+    item->buttonMask = kMaskModify;
+    auto* button = new QToolButton;
+    nameEditor(button, item);
+    showColor(button, item->colorValue);
+    QObject::connect(
+        button, &QToolButton::clicked, &options.asDialog(),
+        [&options, button, item] { pickColor(options, button, item); }, Qt::DirectConnection);
+    options.makeRow(0, item, button, true, 1);
+}
+
+// Two clicks pass the swatch's own test for a double click.
+void SwatchKind::modify(OptionDialog& options, TreeItem* item) const {
+    if (auto* const swatch = editorOf<QToolButton>(options, item)) {
+        swatch->click();
+        swatch->click();
+    }
 }

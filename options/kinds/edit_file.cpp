@@ -1,23 +1,28 @@
-// The line edit of one or several files, separated by semicolons.
-#include "options/window/preferences.h"
-
+// The row with the names of one or several files, separated by semicolons.
 #include "host/text.h"
 #include "host/tool_tip.h"
-#include "options/kinds/editor_parts.h"
+#include "options/kinds/all_kinds.h"
 #include "options/kinds/file_filters.h"
+#include "options/kinds/text_kind.h"
 #include "options/pages/rows/line_edit.h"
 #include "options/store/option_values.h"
 
 #include <QAction>
+#include <QDialog>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <memory>
 
 namespace {
 
+class EditFileKind final : public TextKind {
+public:
+    void build(OptionDialog& options, TreeItem* item, IParam* node, int id) const override;
+};
+
 // One row's line edit with what its two slots need.
 struct FileRow {
-    Preferences* preferences;
+    OptionDialog* options;
     LineEdit* edit;
     TreeItem* item;
     int id;
@@ -41,7 +46,8 @@ void pickFiles(const FileRow& row) {
     QString start = fileDialogSetup(row.id, &filter, &extensions);
     if (start.isEmpty())
         start = QFileInfo(row.edit->text()).absoluteFilePath();
-    const QStringList files = QFileDialog::getOpenFileNames(row.preferences, QString(), start, filter);
+    const QStringList files =
+        QFileDialog::getOpenFileNames(&row.options->asDialog(), QString(), start, filter);
     const QString joined = filterByExtension(files, extensions);
     if (joined.isEmpty())
         return;
@@ -62,11 +68,9 @@ void acceptFiles(const FileRow& row) {
         takeFiles(row, joined);
 }
 
-} // namespace
-
-void Preferences::buildFileEdit(TreeItem* item, IParam* node, int id) {
-    const QString value = hostqt::qString(textOrDefault(node, parentNode(item)));
-    auto owned = std::make_unique<LineEdit>(item, tree, value, nullptr);
+void EditFileKind::build(OptionDialog& options, TreeItem* item, IParam* node, int id) const {
+    const QString value = hostqt::qString(textOrDefault(node, options.parentNode(item)));
+    auto owned = std::make_unique<LineEdit>(item, options.tree, value, nullptr);
     LineEdit* const edit = owned.get();
     nameEditor(edit, item);
     edit->setToolTip(hostqt::plainToolTip(value));
@@ -74,11 +78,18 @@ void Preferences::buildFileEdit(TreeItem* item, IParam* node, int id) {
     item->buttonMask = kMaskModify;
     edit->setCursorPosition(0);
     auto* browse = new QAction;
-    connect(edit, &QObject::destroyed, browse, [browse] { delete browse; });
-    addBrowseAction(*this, edit, browse);
-    const FileRow row{this, edit, item, id, newLastText(edit)};
-    connect(browse, &QAction::triggered, edit, [row] { pickFiles(row); });
-    connect(
+    QObject::connect(edit, &QObject::destroyed, browse, [browse] { delete browse; });
+    addBrowseAction(options, edit, browse);
+    const FileRow row{&options, edit, item, id, newLastText(edit)};
+    QObject::connect(browse, &QAction::triggered, edit, [row] { pickFiles(row); });
+    QObject::connect(
         edit, &QLineEdit::editingFinished, edit, [row] { acceptFiles(row); }, Qt::DirectConnection);
-    makeRow(1, item, owned.release(), false, 1);
+    options.makeRow(1, item, owned.release(), false, 1);
+}
+
+} // namespace
+
+const RowKind& editFileKind() {
+    static const EditFileKind kind;
+    return kind;
 }

@@ -1,15 +1,16 @@
-// The line edits of plain text and of a directory.
-#include "options/window/preferences.h"
-
+// The row with a directory, which is asked for again when it does not exist.
 #include "host/qt_ui_core.h"
 #include "host/text.h"
 #include "host/tool_tip.h"
-#include "options/kinds/editor_parts.h"
+#include "options/kinds/all_kinds.h"
+#include "options/kinds/text_kind.h"
 #include "options/pages/rows/line_edit.h"
 #include "options/store/expand_environment.h"
 #include "options/store/option_values.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QStandardPaths>
@@ -18,6 +19,11 @@
 using host_qt_ui_core::QHostMessageBox;
 
 namespace {
+
+class EditDirKind final : public TextKind {
+public:
+    void build(OptionDialog& options, TreeItem* item, IParam* node, int id) const override;
+};
 
 const char kLastValidPath[] = "lastValidPath";
 
@@ -29,15 +35,16 @@ void takeDirectory(LineEdit* edit, const QString& chosen) {
     edit->setProperty(kLastValidPath, directory);
 }
 
-QString askDirectory(Preferences& preferences, const QString& start) {
-    return QFileDialog::getExistingDirectory(&preferences, QString(), start, QFileDialog::ShowDirsOnly);
+QString askDirectory(OptionDialog& options, const QString& start) {
+    return QFileDialog::getExistingDirectory(&options.asDialog(), QString(), start,
+                                             QFileDialog::ShowDirsOnly);
 }
 
 // The item's value isn't touched: it follows when the edit is finished, which is meant.
-void pickDirectory(Preferences& preferences, LineEdit* edit, TreeItem* item) {
+void pickDirectory(OptionDialog& options, LineEdit* edit, TreeItem* item) {
     const QString typed = QDir::toNativeSeparators(edit->text().trimmed());
     const bool usable = !typed.isEmpty() && QDir().exists(typed);
-    const QString chosen = askDirectory(preferences, usable ? typed : lastValidPath(edit));
+    const QString chosen = askDirectory(options, usable ? typed : lastValidPath(edit));
     if (chosen.isEmpty())
         return;
     takeDirectory(edit, chosen);
@@ -65,16 +72,19 @@ QString startAbove(const QString& typed) {
     return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
 }
 
-bool wantsAnother(Preferences& preferences, const QString& typed) {
+bool wantsAnother(OptionDialog& options, const QString& typed) {
     const QString text =
-        Preferences::tr("Path \"%1\" does not exist. Do you want to specify another value?").arg(typed);
-    return QHostMessageBox::question(preferences.windowTitle(), text, EV_MB_YES | EV_MB_NO) == EV_MB_YES;
+        QCoreApplication::translate("Preferences",
+                                    "Path \"%1\" does not exist. Do you want to specify another value?")
+            .arg(typed);
+    return QHostMessageBox::question(options.asDialog().windowTitle(), text, EV_MB_YES | EV_MB_NO) ==
+           EV_MB_YES;
 }
 
-void replaceMissing(Preferences& preferences, LineEdit* edit, const QString& typed) {
+void replaceMissing(OptionDialog& options, LineEdit* edit, const QString& typed) {
     const QString last = lastValidPath(edit);
     const QString chosen =
-        wantsAnother(preferences, typed) ? askDirectory(preferences, startAbove(typed)) : QString();
+        wantsAnother(options, typed) ? askDirectory(options, startAbove(typed)) : QString();
     if (chosen.isEmpty())
         showText(edit, last);
     else
@@ -82,47 +92,30 @@ void replaceMissing(Preferences& preferences, LineEdit* edit, const QString& typ
 }
 
 // Blanks count as no path: they are accepted, and kept as they stand. That is meant.
-void validateDirectory(Preferences& preferences, LineEdit* edit, TreeItem* item) {
+void validateDirectory(OptionDialog& options, LineEdit* edit, TreeItem* item) {
     const QString typed = edit->text().trimmed();
     if (!typed.isEmpty()) {
         if (QDir().exists(typed))
             edit->setProperty(kLastValidPath, typed);
         else
-            replaceMissing(preferences, edit, typed);
+            replaceMissing(options, edit, typed);
     }
     item->textValue = edit->text();
 }
 
-void connectDirectory(Preferences& preferences, LineEdit* edit, QAction* browse, TreeItem* item) {
+void connectDirectory(OptionDialog& options, LineEdit* edit, QAction* browse, TreeItem* item) {
     QObject::connect(browse, &QAction::triggered, edit,
-                     [&preferences, edit, item] { pickDirectory(preferences, edit, item); });
+                     [&options, edit, item] { pickDirectory(options, edit, item); });
     QObject::connect(edit, &QLineEdit::editingFinished, edit,
-                     [&preferences, edit, item] { validateDirectory(preferences, edit, item); });
+                     [&options, edit, item] { validateDirectory(options, edit, item); });
     QObject::connect(edit, &QLineEdit::textChanged, edit,
                      [edit](const QString& text) { edit->setToolTip(hostqt::plainToolTip(text)); });
 }
 
-} // namespace
-
-void Preferences::buildEdit(TreeItem* item, IParam* node) {
-    const QString value = hostqt::qString(textOrDefault(node, parentNode(item))).trimmed();
-    auto* edit = new LineEdit(item, tree, value, nullptr);
-    nameEditor(edit, item);
-    item->textValue = value;
-    item->buttonMask = kMaskModify;
-    edit->setCursorPosition(0);
-    edit->setToolTip(hostqt::plainToolTip(value));
-    makeRow(1, item, edit, false, 1);
-    connect(edit, &QLineEdit::textChanged, edit, [edit, item](const QString& text) {
-        item->textValue = text.trimmed();
-        edit->setToolTip(hostqt::plainToolTip(item->textValue));
-    });
-}
-
 // What the value stands for is what Apply writes: the store loses the percent signs. That is meant.
-void Preferences::buildDirEdit(TreeItem* item, IParam* node) {
-    const QString text = expandEnvironment(hostqt::qString(textOrDefault(node, parentNode(item))));
-    auto owned = std::make_unique<LineEdit>(item, tree, text, nullptr);
+void EditDirKind::build(OptionDialog& options, TreeItem* item, IParam* node, int) const {
+    const QString text = expandEnvironment(hostqt::qString(textOrDefault(node, options.parentNode(item))));
+    auto owned = std::make_unique<LineEdit>(item, options.tree, text, nullptr);
     LineEdit* const edit = owned.get();
     nameEditor(edit, item);
     edit->setCursorPosition(0);
@@ -130,8 +123,15 @@ void Preferences::buildDirEdit(TreeItem* item, IParam* node) {
     edit->setProperty(kLastValidPath, text);
     item->textValue = text;
     item->buttonMask = kMaskModify;
-    auto* browse = new QAction(this);
-    addBrowseAction(*this, edit, browse);
-    connectDirectory(*this, edit, browse, item);
-    makeRow(1, item, owned.release(), false, 1);
+    auto* browse = new QAction(&options.asDialog());
+    addBrowseAction(options, edit, browse);
+    connectDirectory(options, edit, browse, item);
+    options.makeRow(1, item, owned.release(), false, 1);
+}
+
+} // namespace
+
+const RowKind& editDirKind() {
+    static const EditDirKind kind;
+    return kind;
 }
