@@ -29,7 +29,8 @@ public:
     virtual bool isModifiedInDialog() const { return false; } // by keys: `modify` instead of the row's editor
 };
 
-// The kinds whose row is a text alone and whose value, if any, a page keeps.
+// The kinds without a value of their own: a page keeps it, or there is none. Made by the walk, the row is a
+// text alone.
 class HeadingKind : public RowKind {
 public:
     void build(OptionDialog& options, TreeItem* item, IParam* node, int id) const override;

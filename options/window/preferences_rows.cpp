@@ -8,6 +8,7 @@
 
 #include <QTreeWidget>
 #include <memory>
+#include <utility>
 
 namespace {
 
