@@ -25,7 +25,8 @@ void showAllTabs(QDialog& dialog, QTabWidget& tabs) {
     dialog.resize(qMax(dialog.width(), needed), dialog.height());
     addShortcut(dialog, tabs, Qt::CTRL + Qt::Key_Tab, 1);
     addShortcut(dialog, tabs, Qt::CTRL + Qt::Key_PageDown, 1);
-    addShortcut(dialog, tabs, Qt::CTRL + Qt::SHIFT + Qt::Key_Backtab, -1);
+    addShortcut(dialog, tabs, Qt::CTRL + Qt::SHIFT + Qt::Key_Backtab, -1); // which of them comes
+    addShortcut(dialog, tabs, Qt::CTRL + Qt::SHIFT + Qt::Key_Tab, -1);     // differs between platforms
     addShortcut(dialog, tabs, Qt::CTRL + Qt::Key_PageUp, -1);
 }
 

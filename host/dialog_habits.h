@@ -25,6 +25,8 @@ enum class DialogHabit {
     // Object groups: five rows and whole names in sight, tables in reach of the keys, a chosen row after
     // every new fill, the reason of a refused name, and a filter for many groups.
     GuidedGroups,
+    // Options: the tool tips of rows have the colours of the theme, and can be read in each.
+    ToolTipsInThemeColours,
     // Drawing properties: all tabs and columns in sight, keys for tabs and for the rows of the tables.
     PropertiesByKeyboard,
 };

@@ -151,7 +151,8 @@ void ProfileChoice::remove() {
     const QString next = dialog.profileCombo->itemText(dialog.profileCombo->currentIndex() == 0 ? 1 : 0);
     const QString question = tr("Delete the profile \"%1\" with all its options? \"%2\" comes in its place.");
     if (QHostMessageBox::question(tr("Profiles"), question.arg(name, next), EV_MB_YES | EV_MB_NO) !=
-        EV_MB_YES)
+            EV_MB_YES ||
+        !settleChanges(next))
         return;
     changeTo(next);
     if (current() == next)

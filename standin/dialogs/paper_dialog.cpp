@@ -2,6 +2,7 @@
 #include "standin/dialogs/paper_dialog.h"
 
 #include "standin/dialogs/length_edit.h"
+#include "standin/themes/palettes.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -72,7 +73,7 @@ void PaperDialog::addField(QFormLayout* form, const QString& label, QLineEdit* e
     named(edit, name);
     auto* error = named(new QLabel(this), (QByteArray(name).replace("Edit", "Error")).constData());
     QPalette colours = error->palette();
-    colours.setColor(QPalette::WindowText, QColor(214, 69, 65));
+    colours.setColor(QPalette::WindowText, errorColour(colours));
     error->setPalette(colours);
     error->setTextFormat(Qt::PlainText);
     error->setWordWrap(true);

@@ -45,7 +45,8 @@ void drawShapes(QPainter& painter, const Item& item, const QTransform& moved, co
 } // namespace
 
 TrackerPicture::TrackerPicture(const OpenPrompt& prompt, OdDbDatabasePtr database)
-    : shownPrompt(prompt), drawing(std::move(database)) {
+    : open(&prompt), base(prompt.base ? std::optional(*prompt.base) : std::nullopt), kind(prompt.kind),
+      drawing(std::move(database)) {
     HostEdPointTracker& tracker = *prompt.tracker;
     tracker.setSink(static_cast<HostDrawableSink*>(this));
     if (prompt.base)
@@ -53,9 +54,15 @@ TrackerPicture::TrackerPicture(const OpenPrompt& prompt, OdDbDatabasePtr databas
     tracker.addDrawables(this);
 }
 
-TrackerPicture::~TrackerPicture() {
-    shownPrompt.tracker->removeDrawables(this, 0, 0, 0, 0);
-    shownPrompt.tracker->setSink(nullptr);
+TrackerPicture::~TrackerPicture() { leaveTracker(); }
+
+void TrackerPicture::leaveTracker() {
+    if (!open)
+        return;
+    HostEdPointTracker& tracker = *open->tracker;
+    open = nullptr; // what the tracker removes now stays in the picture
+    tracker.removeDrawables(this, 0, 0, 0, 0);
+    tracker.setSink(nullptr);
 }
 
 void TrackerPicture::addDrawable(OdRxObject* drawable, int, int, int, int) {
@@ -70,31 +77,35 @@ void TrackerPicture::addDrawable(OdRxObject* drawable, int, int, int, int) {
 }
 
 void TrackerPicture::removeDrawable(OdRxObject* drawable, int, int, int, int) {
+    if (!open)
+        return;
     drawables.erase(std::remove_if(drawables.begin(), drawables.end(),
                                    [&](const Drawable& each) { return each.object == drawable; }),
                     drawables.end());
 }
 
 void TrackerPicture::setCursor(const QPointF& point) {
+    if (!open)
+        return;
     cursor = point;
-    shownPrompt.tracker->setCursor(point.x(), point.y(), 0);
+    open->tracker->setCursor(point.x(), point.y(), 0);
 }
 
 // A point without a base is where the object goes, one with a base the corner of a frame that it fills; an
 // angle turns it and a distance stretches it about the base.
 QTransform TrackerPicture::movement(const QPointF& anchor) const {
-    if (!shownPrompt.base)
+    if (!base)
         return QTransform::fromTranslate(cursor.x() - anchor.x(), cursor.y() - anchor.y());
-    const QPointF base = flat(*shownPrompt.base), off = cursor - base;
+    const QPointF from = flat(*base), off = cursor - from;
     QTransform about;
-    if (shownPrompt.kind == OpenPrompt::Angle)
+    if (kind == OpenPrompt::Angle)
         about.rotateRadians(std::atan2(off.y(), off.x()));
-    else if (shownPrompt.kind == OpenPrompt::Distance)
+    else if (kind == OpenPrompt::Distance)
         about.scale(std::hypot(off.x(), off.y()), std::hypot(off.x(), off.y()));
     else
         about.scale(off.x(), off.y());
-    return QTransform::fromTranslate(-base.x(), -base.y()) * about *
-           QTransform::fromTranslate(base.x(), base.y());
+    return QTransform::fromTranslate(-from.x(), -from.y()) * about *
+           QTransform::fromTranslate(from.x(), from.y());
 }
 
 Box TrackerPicture::box() const {

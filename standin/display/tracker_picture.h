@@ -10,6 +10,7 @@
 #include <QColor>
 #include <QPixmap>
 #include <QTransform>
+#include <optional>
 
 namespace standin {
 
@@ -17,13 +18,16 @@ struct OpenPrompt;
 
 class TrackerPicture : public HostDrawableSink {
 public:
-    // The tracker outlives the picture.
+    // The tracker outlives the picture, or the picture leaves it.
     TrackerPicture(const OpenPrompt& prompt, OdDbDatabasePtr database);
     ~TrackerPicture() override;
     TrackerPicture(const TrackerPicture&) = delete;
     TrackerPicture& operator=(const TrackerPicture&) = delete;
 
-    const OpenPrompt* prompt() const { return &shownPrompt; }
+    const OpenPrompt* prompt() const { return open; } // null once the tracker was left
+    // What is shown stays where it is, and neither the prompt nor the tracker is asked any more.
+    void leaveTracker();
+    bool hasBase() const { return base.has_value(); }
     void setCursor(const QPointF& point); // in the drawing
     void paint(QPainter& painter, const View& view, const QColor& foreground);
     // What the objects cover when they stand where they were made; empty without any.
@@ -46,7 +50,9 @@ private:
     static void drawPicture(QPainter& painter, Drawable& drawable, const QTransform& moved, const View& view,
                             const QColor& foreground);
 
-    const OpenPrompt& shownPrompt;
+    const OpenPrompt* open;
+    const std::optional<OdGePoint3d> base;
+    const int kind; // of the prompt
     OdDbDatabasePtr drawing;
     std::vector<Drawable> drawables;
     QPointF cursor;

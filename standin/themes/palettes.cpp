@@ -68,6 +68,11 @@ double luminance(const QColor& color) {
 QPalette darkPalette() { return paletteOf(darkColors); }
 QPalette lightPalette() { return paletteOf(lightColors); }
 
+QColor errorColour(const QPalette& palette) {
+    const bool isDark = palette.color(QPalette::Window).lightness() < 128;
+    return isDark ? QColor(255, 138, 128) : QColor(176, 32, 32);
+}
+
 double contrastRatio(const QColor& a, const QColor& b) {
     const double first = luminance(a), second = luminance(b);
     return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);

@@ -19,6 +19,12 @@ struct PlacingTest : WorkbenchFixture {
         static_cast<standin::DocumentManager*>(HostDocManager())->openEmpty();
         bench->commands().add({"PLACE", "Places a square.", [this] { place(); }});
     }
+    // The next prompt, of a keyword for example, shows nothing of its own.
+    void placeAndAsk() {
+        place();
+        double number = 0;
+        bench->console().getReal(&number, L"Factor:", nullptr, 0, 0, 0);
+    }
     void place() {
         const OdDbDatabasePtr database = HostDocManager()->currentDocument()->database();
         ShownReference tracker(squareOf(*database));
@@ -67,6 +73,28 @@ TEST_F(PlacingTest, AnEmptyDrawingShowsItWholeWithRoomAround) {
                   EXPECT_LT(pixels, canvas().height() / 1.5) << length;
               }});
     }
+}
+
+TEST_F(PlacingTest, WhatIsPlacedStaysInSightAtThePromptsThatFollow) {
+    bench->commands().add({"PLACEANDASK", "Places a square.", [this] { placeAndAsk(); }});
+    int atPrompt = 0, after = 0, much = 0;
+    const auto ink = [this] {
+        return inkOf(canvas().grab().toImage().convertToFormat(QImage::Format_RGB32));
+    };
+    play({[this] { submit("PLACEANDASK"); },
+          [&] {
+              much = ink();
+              submit("3,4");
+          },
+          [&] {
+              QTest::mouseMove(&canvas(), canvas().rect().center() + QPoint(30, 10));
+              atPrompt = ink();
+              submit("2");
+          },
+          [&] { after = ink(); }});
+    EXPECT_GT(much, 100);
+    EXPECT_GT(atPrompt, 100);
+    EXPECT_LT(after, atPrompt) << "it goes with the command";
 }
 
 TEST_F(PlacingTest, AViewOfADrawingWithObjectsStays) {

@@ -177,6 +177,19 @@ TEST_F(OptionProfiles, TheButtonMakesCopiesRenamesAndDeletes) {
     EXPECT_EQ(list().currentText(), "Mine");
 }
 
+TEST_F(OptionProfiles, DeletingAsksAboutOpenChangesToo) {
+    grid().click();
+    host.answer(EV_MB_YES);
+    answerNext(QMessageBox::Cancel);
+    choose("deleteProfileAction");
+    EXPECT_EQ(profiles->calls, QStringList()) << "the profile stays";
+    EXPECT_TRUE(grid().isChecked()) << "the change is still open";
+    host.answer(EV_MB_YES);
+    answerNext(QMessageBox::Discard);
+    choose("deleteProfileAction");
+    EXPECT_EQ(profiles->calls, (QStringList{"select Plans", "remove Mine"}));
+}
+
 TEST_F(OptionProfiles, ARefusalIsShownAndNothingChanges) {
     profiles->refusal = "No.";
     nameNext("Plans");

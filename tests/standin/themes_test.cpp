@@ -132,6 +132,11 @@ std::string colorsOf(const QPalette& palette) {
     return text;
 }
 
+TEST(ThemesColours, ErrorsCanBeReadInBothThemes) {
+    for (const QPalette& palette : {darkPalette(), lightPalette()})
+        EXPECT_GE(contrastRatio(errorColour(palette), palette.color(QPalette::Window)), 4.5);
+}
+
 TEST(ThemesColours, AreTheHouses) {
     EXPECT_EQ(
         colorsOf(darkPalette()),

@@ -42,6 +42,8 @@ void Canvas::paintEvent(QPaintEvent*) {
     const PictureOrder marked = marksOrder();
     if (!marked.only->empty())
         marks.paintAtOnce(painter, marked);
+    if (tracked) // at the start of its prompt too, when nobody has moved the mouse over the drawing yet
+        tracked->paint(painter, sheet->view(), contrastOf(background));
     const OpenPrompt* prompt = pointPrompt();
     if (prompt)
         paintPrompt(painter, *prompt);
@@ -82,10 +84,7 @@ PictureOrder Canvas::marksOrder() {
     return marks.orderOf(selected, sceneOrder());
 }
 
-// The objects of a prompt are shown at its start too, when nobody has moved the mouse over the drawing yet.
 void Canvas::paintPrompt(QPainter& painter, const OpenPrompt& prompt) {
-    if (tracked)
-        tracked->paint(painter, sheet->view(), contrastOf(background));
     if (!prompt.base || !rect().contains(cursorAt))
         return;
     const QPointF base = sheet->view().toPixel(flat(*prompt.base));

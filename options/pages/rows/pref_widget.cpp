@@ -2,6 +2,7 @@
 // into the tree.
 #include "options/pages/rows/pref_widget.h"
 
+#include "host/dialog_habits.h"
 #include "host/style.h"
 #include "options/pages/rows/clickable_label.h"
 #include "options/store/tree_item.h"
@@ -68,6 +69,8 @@ void QPrefWidget::layOut(int position, QWidget* editor) {
 }
 
 void QPrefWidget::applyToolTipStyle() {
+    if (hasHabit(DialogHabit::ToolTipsInThemeColours))
+        return rowLabel->setStyleSheet(labelStyleSheet);
     switch (hostGetQtStyleManager()->themeNumber()) {
     case 0:
         rowLabel->setStyleSheet(QStringLiteral("QToolTip { background-color: #ffffff;}"));

@@ -3,6 +3,7 @@
 #include "options/pages/rows/pref_widget.h"
 #include "options/store/tree_item.h"
 #include "tests/support/fixture_host.h"
+#include "tests/support/test_habits.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -141,6 +142,14 @@ TEST_F(Row, LabelsOwnStyleSheetComesBackInAnyOtherTheme) {
         host.setTheme(1);
         row->applyToolTipStyle();
         EXPECT_EQ(row->label()->styleSheet(), "QToolTip { background-color: #f5f5f5;}");
+    }
+}
+
+TEST_F(Row, ToolTipHasTheColoursOfTheThemeWhereTheHostWantsSo) {
+    const TestHabits habits({DialogHabit::ToolTipsInThemeColours});
+    for (const int theme : {0, 1, 2}) {
+        host.setTheme(theme);
+        EXPECT_EQ(make("Snap mode", 1)->label()->styleSheet(), "") << theme;
     }
 }
 
