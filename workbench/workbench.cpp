@@ -201,6 +201,8 @@ void Workbench::showOnScreen() {
     progressDialog = std::make_unique<ProgressDialog>();
     dialogPlaces = std::make_unique<DialogPlaces>(*mainWindow);
     dialogPlaces->shown = [this] { return mainWindow->drawingArea().placeOfMarks(); };
+    connect(&mainWindow->drawingArea(), &Canvas::marksChanged, dialogPlaces.get(),
+            &DialogPlaces::keepMarksInSight);
     const QRect area = mainWindow->screen()->availableGeometry();
     mainWindow->setGeometry(placeOver(area, mainWindow->size(), area));
 }
@@ -278,13 +280,12 @@ void Workbench::showStartPage() {
 // Samples are opened as copies: what is shipped stays as it is.
 void Workbench::openChosen(const QString& path) {
     const QString problem = errorTextOf([&] {
-        if (path.startsWith(launch.dataDir)) {
-            documents->openCopy(path, QFileInfo(path).completeBaseName());
-            if (const auto references =
-                    appService<IReferenceFiles>()) // the other samples are the ones to attach
-                references->chosenIn(hostqt::cxStringW(QFileInfo(path).absolutePath()).c_str());
-        } else
-            openInPlaceOfUntouched(*documents, path);
+        openInPlaceOfUntouched(*documents, [&] {
+            if (path.startsWith(launch.dataDir))
+                documents->openCopy(path, QFileInfo(path).completeBaseName());
+            else
+                documents->openFile(path);
+        });
     });
     if (!problem.isNull())
         report(problem);

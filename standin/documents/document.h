@@ -26,6 +26,9 @@ public:
 
     QString path() const;
     QString displayName() const;
+    // The file that a drawing that was never saved is a copy of; empty for any other.
+    QString origin() const { return copiedFile; }
+    void setOrigin(const QString& file) { copiedFile = file; }
     void setPath(const QString& path); // absolute; the title becomes the file's name
     // DWGNAME, DWGPREFIX and DWGTITLED follow from the path; the others are the database's.
     OdResBufPtr valueInDrawing(const QString& variable) override;
@@ -36,6 +39,7 @@ private:
     Console& io;
     std::unique_ptr<EditorSelection> editorSelection;
     std::wstring filePath, name;
+    QString copiedFile;
 };
 
 } // namespace standin

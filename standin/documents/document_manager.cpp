@@ -65,7 +65,9 @@ Document* DocumentManager::openCopy(const QString& path, const QString& title) {
     auto database = OdDbDatabase::readFile(hostqt::odString(QFileInfo(path).absoluteFilePath()));
     OdDbXRefMan::loadAll(database.get()); // while it still knows where it lies
     database->setFilename(OdString());
-    return adoptOpened(std::make_unique<Document>(std::move(database), io, title));
+    auto copy = std::make_unique<Document>(std::move(database), io, title);
+    copy->setOrigin(path);
+    return adoptOpened(std::move(copy));
 }
 
 void DocumentManager::write(Document* document, OdDbDatabase& drawing, const QString& path) {

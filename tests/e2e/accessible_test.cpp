@@ -23,6 +23,7 @@
 #include <QTabBar>
 #include <QToolBar>
 #include <QTranslator>
+#include <QWindow>
 
 namespace {
 
@@ -163,13 +164,25 @@ int standingOut(const QImage& picture, const QColor& background) {
     return count;
 }
 
+// Where a style sheet makes it transparent, that of what lies below.
+QColor backgroundOf(const QWidget& widget) {
+    const QColor own = widget.palette().color(QPalette::Active, widget.backgroundRole());
+    return own.alpha() == 0 && widget.parentWidget() ? backgroundOf(*widget.parentWidget()) : own;
+}
+
 TEST_F(AccessibleTest, TextsHaveTheContrastThatReadingNeeds) {
     inBothThemes([this] {
         inEachWindow([](QWidget& window) {
-            for (QWidget* widget : controlsOf(window)) {
+            QList<QWidget*> widgets = controlsOf(window);
+            for (QLabel* label : window.findChildren<QLabel*>())
+                if (label->isVisible())
+                    widgets << label;
+            for (QWidget* widget : widgets) {
+                if (!widget->isEnabled())
+                    continue; // what can't be used may be dim
                 const QPalette colors = widget->palette();
                 EXPECT_GE(standin::contrastRatio(colors.color(QPalette::Active, widget->foregroundRole()),
-                                                 colors.color(QPalette::Active, widget->backgroundRole())),
+                                                 backgroundOf(*widget)),
                           4.5)
                     << described(widget);
                 EXPECT_GE(standin::contrastRatio(colors.color(QPalette::Active, QPalette::HighlightedText),
@@ -214,7 +227,27 @@ TEST_F(AccessibleTest, TheFocusIsSeen) {
     });
 }
 
+TEST_F(AccessibleTest, DialogsStandOnTheWindowThatTheyBelongTo) {
+    inEachWindow([this](QWidget& window) {
+        if (&window == bench->window())
+            return;
+        ASSERT_NE(window.windowHandle(), nullptr);
+        EXPECT_NE(window.windowHandle()->transientParent(), nullptr) << described(&window);
+    });
+}
+
 // What a control needs for its text and does not have.
+int missingHeight(const QWidget* widget) {
+    const auto* const label = qobject_cast<const QLabel*>(widget);
+    const bool isShown = label ? !label->text().isEmpty() && !label->wordWrap()
+                               : qobject_cast<const QAbstractButton*>(widget) ||
+                                     qobject_cast<const QComboBox*>(widget) ||
+                                     qobject_cast<const QLineEdit*>(widget);
+    return isShown ? std::min(widget->minimumSizeHint().height(), widget->fontMetrics().height()) -
+                         widget->height()
+                   : 0;
+}
+
 int missingWidth(const QWidget* widget) {
     if (const auto* label = qobject_cast<const QLabel*>(widget))
         return label->wordWrap() || label->text().isEmpty()
@@ -237,6 +270,7 @@ TEST_F(AccessibleTest, NoTextIsCutHoweverLong) {
                 for (QWidget* widget : window.findChildren<QWidget*>()) {
                     if (!widget->isVisible() || isPart(widget))
                         continue;
+                    EXPECT_LE(missingHeight(widget), 0) << described(widget);
                     EXPECT_LE(missingWidth(widget), 0)
                         << described(widget) << ": " << widget->property("text").toString().toStdString();
                 }

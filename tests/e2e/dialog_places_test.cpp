@@ -1,6 +1,7 @@
 // Where dialogs come up, and how large.
+#include "host/selection.h"
 #include "tests/e2e/workbench_fixture.h"
-
+#include "workbench/canvas/canvas.h"
 #include "workbench/window/dialog_places.h"
 
 #include <QComboBox>
@@ -135,6 +136,43 @@ TEST_F(DialogPlacesTest, TheWheelChangesNothingThatIsOnlyScrolledPast) {
     turn(number);
     EXPECT_EQ(list->currentIndex(), 1) << "what has the focus follows the wheel";
     EXPECT_EQ(number->value(), 4);
+}
+
+TEST_F(DialogPlacesTest, APlaceThatWasGivenIsRememberedOverARestart) {
+    const QPoint put(screen().left() + 30, screen().top() + 60);
+    with("DWGPROPS", [&](QDialog& dialog) { dialog.move(put); });
+    for (int run = 0; run < 2; ++run) {
+        with("DWGPROPS", [&](QDialog& dialog) { EXPECT_EQ(dialog.pos(), put) << "run " << run; });
+        restart();
+    }
+    with("QPREF", [&](QDialog& dialog) { EXPECT_NE(dialog.pos(), put) << "each has its own"; });
+}
+
+TEST_F(DialogPlacesTest, ADialogGivesWayToWhatIsHighlightedUnlessItsUserHasPutIt) {
+    QRect marks;
+    workbench::DialogPlaces places(*bench->window());
+    places.shown = [&] { return marks; };
+    for (const bool isPut : {false, true}) {
+        QDialog dialog(bench->window());
+        dialog.setModal(true);
+        dialog.resize(200, 150);
+        dialog.show();
+        if (isPut)
+            dialog.move(screen().topLeft() + QPoint(60, 80));
+        const QRect before = dialog.geometry();
+        marks = QRect(before.topLeft(), QSize(40, 40));
+        places.keepMarksInSight();
+        EXPECT_EQ(dialog.geometry(), isPut ? before : workbench::placeBeside(marks, before, screen()));
+        EXPECT_EQ(dialog.geometry() == before, isPut);
+        marks = {};
+    }
+}
+
+TEST_F(DialogPlacesTest, WhatIsHighlightedWhileADialogIsOpenMovesIt) {
+    int asked = 0;
+    QObject::connect(&bench->window()->drawingArea(), &workbench::Canvas::marksChanged, [&] { ++asked; });
+    HostUpdateDisplay();
+    EXPECT_EQ(asked, 1);
 }
 
 TEST_F(DialogPlacesTest, SizesAreRememberedForEachDialogOverARestart) {

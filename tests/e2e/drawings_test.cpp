@@ -280,6 +280,7 @@ TEST_F(DrawingsTest, PreparingThePictureIsShownAndCanBeCancelled) {
         "prepares it again.";
     EXPECT_TRUE(waitUntil([&] { return transcript().contains(notice); }));
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    bench->progress()->setDelay(100000);
     enter({"SELECT", "All", "", "UNDO"});
     EXPECT_TRUE(lastLine().contains("undo"))
         << "the window takes no commands any more: " << lastLine().toStdString();

@@ -94,15 +94,34 @@ TEST_F(FirstMinute, UndoAndRedoAreGreyWhereThereIsNothing) {
 }
 
 TEST_F(FirstMinute, ViewShowsAndHidesTheBarsAndTheConsole) {
-    for (const auto& [entry, widget] : {std::pair{"Tool bar", "toolBar"}, {"Console", "consoleDock"}}) {
+    for (const auto& [entry, widget] :
+         {std::pair{"ShowToolBar", "toolBar"}, {"showConsoleAction", "transcriptView"}}) {
         ASSERT_TRUE(part<QWidget>(widget)->isVisible()) << widget;
-        action(entry)->trigger();
+        ASSERT_TRUE(part<QAction>(entry)->isEnabled()) << entry;
+        part<QAction>(entry)->trigger();
         EXPECT_FALSE(part<QWidget>(widget)->isVisible()) << widget;
         enter({"DRAWINGS"});
         EXPECT_FALSE(part<QWidget>(widget)->isVisible()) << widget << " after a command";
-        action(entry)->trigger();
+        EXPECT_TRUE(line().isVisible()) << "the command line is always there";
+        part<QAction>(entry)->trigger();
         EXPECT_TRUE(part<QWidget>(widget)->isVisible()) << widget;
     }
+}
+
+TEST_F(FirstMinute, TextTypedAtAPromptThatAMenuCancelsIsDropped) {
+    play({[this] { submit("SELECT"); },
+          [this] {
+              type("abc");
+              action("Zoom extents")->trigger();
+          },
+          [this] { EXPECT_EQ(line().text(), ""); }});
+    play({[this] { submit("SELECT"); },
+          [this] {
+              type("abc");
+              auto* const tabs = bench->window()->findChild<QTabBar*>("drawingTabs");
+              QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(0).center());
+          },
+          [this] { EXPECT_EQ(line().text(), "") << "as by another tab"; }});
 }
 
 TEST_F(FirstMinute, ALongPromptMakesTheWindowNoWider) {

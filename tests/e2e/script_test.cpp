@@ -131,7 +131,9 @@ TEST_F(ScriptTest, ScriptOfTheGuideMakesThePicturesThatItShows) {
     const Result result = play(script.readAll().replace("/home/user", home.path().toLocal8Bit()));
     EXPECT_EQ(result.status, 0) << result.err.toStdString();
     const QDir shown(QStringLiteral(SHIPPED_DOCS_DIR "/images"));
-    EXPECT_EQ(home.entryList({"*.png"}), shown.entryList({"*.png"}));
+    QStringList pictures = shown.entryList({"*.png"});
+    EXPECT_TRUE(pictures.removeOne("start-dark.png")) << "only the start without a script shows its page";
+    EXPECT_EQ(home.entryList({"*.png"}), pictures);
     for (const QString& name : home.entryList({"*.png"})) {
         const QImage made(home.filePath(name));
         EXPECT_FALSE(made.isNull()) << name.toStdString();

@@ -9,7 +9,7 @@ import sys
 import unittest
 
 BINARY = sys.argv.pop()
-FILTER = "AccessibleTest.*:KeyboardTest.*:DialogPlacesTest.*:FirstMinute*"
+FILTER = "AccessibleTest.*:KeyboardTest.*:DialogPlacesTest.*:FirstMinute*:StartPageTest.*:TourTest.*"
 
 
 class Screen:

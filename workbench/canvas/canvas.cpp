@@ -49,6 +49,7 @@ void Canvas::connectSignals() {
     registry().zoomObject = [this](const OdDbObjectId& id) { zoomTo(id); };
     connect(&documents, &DocumentManager::currentChanged, this, &Canvas::showCurrent);
     connect(&documents, &DocumentManager::documentClosed, this, &Canvas::forgetClosed);
+    connect(&loop, &CommandLoop::commandEnded, this, &Canvas::promptChanged);
     connect(&io, &Console::promptChanged, this, &Canvas::promptChanged);
     connect(&loop, &CommandLoop::commandStarted, this, [this] {
         windowCorner.reset();
@@ -141,6 +142,7 @@ EditorSelection& Canvas::editor() const { return sheet->document.editor(); }
 void Canvas::refresh() {
     marks.forgetMarks();
     update();
+    emit marksChanged();
 }
 
 // Before it is painted. What takes long shows its progress, for which painting has no room.
@@ -184,12 +186,15 @@ void Canvas::printUnshown(const Document& document) {
     shown.told = notices;
 }
 
-// A tracker lasts as long as its prompt.
+// A tracker lasts as long as its prompt. What it showed stays in sight at the prompts without one that
+// follow, up to the end of the command.
 void Canvas::promptChanged() {
     const OpenPrompt* prompt = sheet ? pointPrompt() : nullptr;
-    if (tracked && tracked->prompt() != prompt)
+    if (tracked && tracked->prompt() && tracked->prompt() != prompt)
+        tracked->leaveTracker();
+    if (!sheet || !loop.isRunning())
         tracked.reset();
-    if (prompt && prompt->tracker && !tracked) {
+    if (prompt && prompt->tracker && !(tracked && tracked->prompt())) {
         tracked = std::make_unique<TrackerPicture>(*prompt, sheet->document.database());
         showWholeOf(*tracked);
         const bool isHere = rect().contains(cursorAt);
@@ -203,7 +208,7 @@ void Canvas::promptChanged() {
 void Canvas::showWholeOf(const TrackerPicture& picture) {
     const Box box = picture.box();
     sheet->list.refresh();
-    if (picture.prompt()->base || box.isEmpty() || !sheet->list.extents().isEmpty())
+    if (picture.hasBase() || box.isEmpty() || !sheet->list.extents().isEmpty())
         return;
     sheet->change().fit(box);
     sheet->change(true).zoomAt(QPointF(width() / 2.0, height() / 2.0), 0.5);

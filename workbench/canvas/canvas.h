@@ -53,6 +53,7 @@ public:
 signals:
     void cursorMoved(const QPointF& point); // in the drawing
     void cursorLeft();
+    void marksChanged();                  // what is highlighted or selected may be something else
     void menuWanted(const QPoint& place); // on the screen: a right click while no command runs
 
 protected:

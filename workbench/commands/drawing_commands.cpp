@@ -2,6 +2,7 @@
 #include "workbench/commands/drawing_commands.h"
 
 #include "host/text.h"
+#include "sdk/db/block_table.h"
 #include "sdk/db/newer_version.h"
 #include "standin/console/command_loop.h"
 #include "standin/console/console.h"
@@ -22,9 +23,17 @@ namespace {
 
 QString tr(const char* text) { return QCoreApplication::translate("DrawingCommands", text); }
 
+bool isEmpty(const OdDbDatabase& drawing) {
+    for (const OdDbObjectId& space : {drawing.getModelSpaceId(), drawing.getPaperSpaceId()})
+        if (!space.isNull() && !odrxCast<OdDbBlockTableRecord>(space.safeOpenObject())->entityIds().empty())
+            return false;
+    return true;
+}
+
 bool isUntouched(Document& document) {
     const OdDbDatabase& drawing = *document.database();
-    return document.path().isEmpty() && !drawing.isModified() && !drawing.hasUndo() && !drawing.hasRedo();
+    return document.path().isEmpty() && !drawing.isModified() && !drawing.hasUndo() && !drawing.hasRedo() &&
+           isEmpty(drawing);
 }
 
 // A drawing that is open already is brought to the front.
@@ -34,7 +43,7 @@ void openDrawing(const CommandScope& scope) {
         return;
     if (Document* open = scope.documents.documentOfFile(*path))
         return scope.documents.activate(open);
-    openInPlaceOfUntouched(scope.documents, *path);
+    openInPlaceOfUntouched(scope.documents, [&] { scope.documents.openFile(*path); });
 }
 
 void closeCurrent(const CommandScope& scope) {
@@ -103,9 +112,9 @@ bool write(DocumentManager& documents, Document& document, const QString& path, 
 
 } // namespace
 
-void openInPlaceOfUntouched(DocumentManager& documents, const QString& path) {
+void openInPlaceOfUntouched(DocumentManager& documents, const std::function<void()>& open) {
     Document* const former = documents.currentOne();
-    documents.openFile(path);
+    open();
     if (former && isUntouched(*former))
         documents.close(former);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 namespace standin {
 class Document;
@@ -24,7 +25,8 @@ bool settleChanges(standin::DocumentManager& documents, standin::Document& docum
                    const FileQuestions& files);
 bool settleAllChanges(standin::DocumentManager& documents, const FileQuestions& files);
 
-// Opens a file; an empty drawing that was current and that nobody has touched is closed. Throws OdError.
-void openInPlaceOfUntouched(standin::DocumentManager& documents, const QString& path);
+// Opens a drawing by `open`; an empty one that was current and that nobody has touched is closed. Throws
+// OdError.
+void openInPlaceOfUntouched(standin::DocumentManager& documents, const std::function<void()>& open);
 
 } // namespace workbench

@@ -75,7 +75,9 @@ bool ConsoleLine::event(QEvent* event) {
         event->ignore();
         return false;
     }
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Tab) {
+    const bool isTab =
+        event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Tab;
+    if (isTab && !text().isEmpty()) { // else it goes on to what is next in the window
         completeFirst();
         return true;
     }

@@ -81,6 +81,11 @@ void ConsolePanel::connectSignals() {
     connect(commandLine, &ConsoleLine::escaped, &io, &Console::escape);
 }
 
+void ConsolePanel::showTranscript(bool on) {
+    transcriptView->setVisible(on);
+    setMaximumHeight(on ? QWIDGETSIZE_MAX : inputRow->sizeHint().height());
+}
+
 void ConsolePanel::enter(const QString& typed) { io.enterLine(typed); }
 
 // The view follows its end by itself only while it is there, which a change of the font may end.

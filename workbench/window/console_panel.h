@@ -24,6 +24,7 @@ public:
     ~ConsolePanel() override;
     void apply(const Settings& settings);
     ConsoleLine* line() const { return commandLine; }
+    void showTranscript(bool on); // the command line is always there
     QSize sizeHint() const override;
 
 private:

@@ -12,10 +12,13 @@
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QProgressDialog>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <climits>
+#include <optional>
 
 namespace workbench {
 
@@ -48,7 +51,7 @@ bool isDialog(const QWidget& widget) { return qobject_cast<const QDialog*>(&widg
 
 bool hasSizeOfItsOwn(const QWidget* dialog) {
     return qobject_cast<const QMessageBox*>(dialog) || qobject_cast<const QProgressDialog*>(dialog) ||
-           qobject_cast<const QFileDialog*>(dialog) || qobject_cast<const QColorDialog*>(dialog);
+           qobject_cast<const QColorDialog*>(dialog);
 }
 
 QByteArray keyOf(const QWidget& dialog) {
@@ -56,14 +59,24 @@ QByteArray keyOf(const QWidget& dialog) {
     return name.isEmpty() ? QByteArray(dialog.metaObject()->className()) : name.toUtf8();
 }
 
-// An invalid size where none is kept.
-QSize rememberedSize(const QWidget& dialog) {
+// How a dialog was left: as "800x600", or as "800x600 at 40,30" where its user has put it somewhere.
+struct Left {
+    QSize size;
+    std::optional<QPoint> corner;
+};
+
+std::optional<Left> remembered(const QWidget& dialog) {
+    static const QRegularExpression form("^(\\d+)x(\\d+)(?: at (-?\\d+),(-?\\d+))?$");
     const Ref<IParam> section = openChild(appService<IProfile>().get(), sectionName);
     CXString text;
     if (!readValue(section.get(), keyOf(dialog).constData(), &text))
-        return {};
-    const QList<QByteArray> numbers = QByteArray(text.c_str()).split('x');
-    return numbers.size() == 2 ? QSize(numbers[0].toInt(), numbers[1].toInt()) : QSize();
+        return std::nullopt;
+    const auto found = form.match(QString::fromLatin1(text.c_str()));
+    if (!found.hasMatch())
+        return std::nullopt;
+    const auto number = [&](int group) { return found.captured(group).toInt(); };
+    const bool isPut = !found.captured(3).isEmpty();
+    return Left{{number(1), number(2)}, isPut ? std::optional(QPoint(number(3), number(4))) : std::nullopt};
 }
 
 // A window manager is free to put what has no place; so a place is given, and remembered as ours.
@@ -128,24 +141,41 @@ void DialogPlaces::place(QWidget& dialog) {
     if (dialog.layout() && needed.boundedTo(room) != needed && !dialog.findChild<QScrollArea*>("scrollArea"))
         makeScroll(dialog);
     dialog.setMinimumSize(dialog.minimumSize().boundedTo(room));
-    const QSize kept = hasSizeOfItsOwn(&dialog) ? QSize() : rememberedSize(dialog);
-    const QSize wanted = (kept.isValid() ? kept : dialog.size()).expandedTo(needed);
+    const std::optional<Left> left = hasSizeOfItsOwn(&dialog) ? std::nullopt : remembered(dialog);
+    const QSize wanted = (left ? left->size : dialog.size()).expandedTo(needed);
     dialog.setMaximumSize(
         dialog.maximumSize().expandedTo(needed)); // long texts need more than a size that is fixed
-    const bool isPut = isPutByItsUser(dialog);
-    const QRect over = placeOver(isPut ? dialog.geometry() : window.geometry(), wanted, area);
-    dialog.setGeometry(shown && !isPut ? placeBeside(shown(), over, area) : over);
-    dialog.setProperty(placeProperty, dialog.geometry().topLeft());
+    const bool isPut = isPutByItsUser(dialog), wasPut = !isPut && left && left->corner;
+    const QRect before = wasPut ? QRect(*left->corner, wanted) : dialog.geometry();
+    const QRect over = placeOver(isPut || wasPut ? before : window.geometry(), wanted, area);
+    dialog.setGeometry(shown && !isPut && !wasPut ? placeBeside(shown(), over, area) : over);
+    if (wasPut)
+        dialog.setProperty(placeProperty, QPoint(INT_MIN, INT_MIN)); // it is its user's place again
+    else if (!isPut)
+        dialog.setProperty(placeProperty, dialog.geometry().topLeft());
     if (isDialog(dialog) && dialog.windowHandle() && !dialog.windowHandle()->transientParent())
         dialog.windowHandle()->setTransientParent(window.windowHandle());
+}
+
+void DialogPlaces::keepMarksInSight() {
+    QWidget* const dialog = QApplication::activeModalWidget();
+    if (!dialog || !shown || !isPlaced(*dialog) || !dialog->isVisible() || isPutByItsUser(*dialog))
+        return;
+    const QRect beside = placeBeside(shown(), dialog->geometry(), window.screen()->availableGeometry());
+    if (beside == dialog->geometry())
+        return;
+    dialog->move(dialog->pos() + beside.topLeft() - dialog->geometry().topLeft());
+    dialog->setProperty(placeProperty, dialog->geometry().topLeft());
 }
 
 void DialogPlaces::remember(const QWidget& dialog) const {
     const Ref<IParam> section = openChild(appService<IProfile>().get(), sectionName, 1);
     if (!section)
         return;
-    const QByteArray size = QByteArray::number(dialog.width()) + 'x' + QByteArray::number(dialog.height());
-    writeValue(section.get(), keyOf(dialog).constData(), size.constData());
+    QString left = QStringLiteral("%1x%2").arg(dialog.width()).arg(dialog.height());
+    if (isPutByItsUser(dialog))
+        left += QStringLiteral(" at %1,%2").arg(dialog.geometry().x()).arg(dialog.geometry().y());
+    writeValue(section.get(), keyOf(dialog).constData(), left.toLatin1().constData());
 }
 
 } // namespace workbench

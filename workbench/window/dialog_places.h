@@ -18,15 +18,18 @@ QRect placeOver(const QRect& below, QSize size, const QRect& area);
 // no side has room.
 QRect placeBeside(const QRect& shown, const QRect& place, const QRect& area);
 
-// Watches every dialog and every further window of the application for its lifetime. Sizes are kept in the
-// profile, by the name of the dialog; boxes with a message, progress and the system's dialogs have the size
-// of what they show. A dialog that needs more than the screen has is made to scroll.
+// Watches every dialog and every further window of the application for its lifetime. Sizes, and
+// places that their user gave them, are kept in the profile, by the name of the dialog; boxes with a message,
+// progress and the system's dialogs have the size of what they show. A dialog that needs more than the screen
+// has is made to scroll.
 class DialogPlaces : public QObject {
     Q_OBJECT
 public:
     explicit DialogPlaces(QMainWindow& mainWindow);
     ~DialogPlaces() override;
 
+    // Called when what is shown has changed: the dialog that is open gives way, unless its user has put it.
+    void keepMarksInSight();
     std::function<QRect()> shown; // on the screen; what dialogs leave in sight when there is room
 
 protected:

@@ -68,6 +68,7 @@ void MainWindow::build() {
     dock->setObjectName(QStringLiteral("consoleDock"));
     dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
     dock->setWidget(consolePanel);
+    dock->toggleViewAction()->setVisible(false); // the entry of the View menu keeps the command line
     addDockWidget(Qt::BottomDockWidgetArea, dock);
     cursorLabel = new QLabel(this);
     cursorLabel->setObjectName(QStringLiteral("cursorLabel"));
@@ -80,6 +81,7 @@ void MainWindow::build() {
 void MainWindow::connectSignals() {
     connect(&documents, &DocumentManager::currentChanged, this, &MainWindow::showDrawing);
     connect(&documents, &DocumentManager::documentRenamed, this, &MainWindow::showDrawing);
+    connect(&documents, &DocumentManager::documentClosed, this, &MainWindow::showDrawing);
     connect(&loop, &CommandLoop::commandEnded, this, &MainWindow::showDrawing);
     connect(tabs, &DrawingTabs::chosen, this, &MainWindow::switchTo);
     connect(tabs, &DrawingTabs::closeWanted, this, [this](Document* document) {
@@ -136,9 +138,16 @@ void MainWindow::showWhatCanBeUndone() {
         redo->setEnabled(current && current->database()->hasRedo());
 }
 
+// What was typed for an answer is none for the command that follows.
+void MainWindow::cancelPrompt() {
+    if (io.isWaiting())
+        consolePanel->line()->clear();
+    io.escape();
+}
+
 // What a menu starts takes the place of a command that is waiting for an answer.
 void MainWindow::runCommand(const QString& command) {
-    io.escape();
+    cancelPrompt();
     const QStringList lines = command.split(QLatin1Char('\n'));
     for (const QString& line : documents.currentOne() ? lines : QStringList(lines.first()))
         io.enterLine(line);
@@ -150,7 +159,7 @@ void MainWindow::switchTo(Document* document) {
         return;
     if (!loop.isRunning())
         return documents.activate(document);
-    io.escape();
+    cancelPrompt();
     QTimer::singleShot(0, this, [this, document] { switchTo(document); });
 }
 
@@ -167,7 +176,7 @@ void MainWindow::closeAfterCommand() {
         wish->deleteLater();
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
     });
-    io.escape();
+    cancelPrompt();
 }
 
 // A prompt that is open is cancelled first; the window then closes when its command has ended.

@@ -59,6 +59,7 @@ private:
     void showIcons();
     void showDrawing();
     void showWhatCanBeUndone();
+    void cancelPrompt();
     void closeAfterCommand();
     void buildPartEntries();
     // A prompt that is open is cancelled first.

@@ -4,10 +4,10 @@
 #include "host/qt_ui_core.h"
 #include "standin/documents/document_manager.h"
 #include "standin/themes/style_manager.h"
+#include "workbench/window/console_panel.h"
 #include "workbench/window/drawing_tabs.h"
 
 #include <QActionGroup>
-#include <QDockWidget>
 #include <QMenuBar>
 #include <QToolBar>
 
@@ -79,10 +79,12 @@ void MainWindow::buildThemeEntries() {
 void MainWindow::buildPartEntries() {
     QMenu* view = menus[Menu::View];
     view->addSeparator();
-    QAction* console = findChild<QDockWidget*>(QStringLiteral("consoleDock"))->toggleViewAction();
-    console->setText(tr("&Console"));
+    QAction* console = view->addAction(tr("&Console")); // all of it but the command line
+    console->setObjectName(QStringLiteral("showConsoleAction"));
+    console->setCheckable(true);
+    console->setChecked(true);
     console->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_9));
-    view->addAction(console);
+    connect(console, &QAction::toggled, consolePanel, &ConsolePanel::showTranscript);
     for (const auto& [key, text] :
          {std::pair{"ShowToolBar", tr("&Tool bar")}, {"ShowStatusBar", tr("Status &bar")}}) {
         QAction* action = view->addAction(text);

@@ -9,6 +9,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace workbench {
@@ -19,9 +21,7 @@ StartPage::StartPage(const QStringList& recent, const QStringList& samples, QWid
     setAccessibleName(tr("Start page"));
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
-    column = new QVBoxLayout(this);
-    column->setContentsMargins(20, 16, 20, 16);
-    column->setSpacing(4);
+    buildColumn();
     addHeading(tr("Start"));
     addCommands();
     addDrawings(tr("Recent drawings"), QStringLiteral("recent"), recent);
@@ -32,8 +32,24 @@ StartPage::StartPage(const QStringList& recent, const QStringList& samples, QWid
 
 StartPage::~StartPage() = default;
 
+void StartPage::buildColumn() {
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    body = new QWidget;
+    column = new QVBoxLayout(body);
+    column->setContentsMargins(20, 16, 20, 16);
+    column->setSpacing(4);
+    area->setWidget(body);
+    auto* around = new QVBoxLayout(this);
+    around->setContentsMargins(0, 0, 0, 0);
+    around->addWidget(area);
+}
+
 void StartPage::addHeading(const QString& text) {
-    auto* label = new QLabel(text, this);
+    auto* label = new QLabel(text, body);
     QFont font = label->font();
     font.setBold(true);
     label->setFont(font);
@@ -42,7 +58,7 @@ void StartPage::addHeading(const QString& text) {
 }
 
 QPushButton* StartPage::addEntry(const QString& name, const QString& text) {
-    auto* button = new QPushButton(text, this);
+    auto* button = new QPushButton(text, body);
     button->setObjectName(name);
     button->setFlat(true);
     button->setStyleSheet(QStringLiteral("text-align: left; padding: 4px 10px"));
@@ -54,7 +70,7 @@ void StartPage::addCommands() {
     const std::pair<const char*, QString> entries[] = {{"NEW", tr("&New drawing")},
                                                        {"OPEN", tr("&Open a drawing...")},
                                                        {"QPREF", tr("O&ptions...")},
-                                                       {"GUIDE", tr("User &guide")}};
+                                                       {"GUIDE", tr("&User guide")}};
     for (const auto& [command, text] : entries)
         connect(addEntry(QString::fromLatin1(command).toLower() + QStringLiteral("Button"), text),
                 &QPushButton::clicked, this,
@@ -75,9 +91,12 @@ void StartPage::addDrawings(const QString& heading, const QString& name, const Q
 }
 
 void StartPage::moveToMiddle() {
-    adjustSize();
     const QRect room = parentWidget()->rect();
-    QRect place(QPoint(), size().boundedTo(room.size()));
+    const QSize frame(2 * frameWidth(), 2 * frameWidth());
+    QSize wanted = body->sizeHint() + frame;
+    if (wanted.height() > room.height())
+        wanted.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    QRect place(QPoint(), wanted.boundedTo(room.size()));
     place.moveCenter(room.center());
     setGeometry(place);
 }
@@ -88,6 +107,12 @@ bool StartPage::eventFilter(QObject* watched, QEvent* event) {
     else if (event->type() == QEvent::MouseButtonPress)
         hide();
     return QFrame::eventFilter(watched, event);
+}
+
+// Keys go on where they went before, to the command line.
+void StartPage::hideEvent(QHideEvent* event) {
+    parentWidget()->setFocus();
+    QFrame::hideEvent(event);
 }
 
 void StartPage::keyPressEvent(QKeyEvent* event) {

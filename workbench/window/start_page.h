@@ -22,15 +22,18 @@ signals:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void buildColumn();
     void addHeading(const QString& text);
     QPushButton* addEntry(const QString& name, const QString& text);
     void addCommands();
     void addDrawings(const QString& heading, const QString& name, const QStringList& paths);
     void moveToMiddle();
 
+    QWidget* body = nullptr; // scrolls where the window is too low for it
     QVBoxLayout* column = nullptr;
 };
 
