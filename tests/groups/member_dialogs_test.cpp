@@ -133,6 +133,17 @@ TEST_F(ReorderDialog, WrongPositionsAreRefusedEachWithItsMessage) {
     EXPECT_THAT(members(L"FIVE"), ElementsAre(0, 1, 2, 3, 4));
 }
 
+TEST_F(ReorderDialog, RowOfTheRecordIsInSightWhenItOpens) {
+    for (int i = 0; i < 60; ++i)
+        addGroup((L"G" + std::to_wstring(i + 10)).c_str(), pick({5}));
+    data.name = L"G69";
+    show();
+    dialog->show();
+    const auto& table = in<QTableWidget>(*dialog, "groupTable");
+    const QRect row = table.visualItemRect(table.findItems("G69", Qt::MatchExactly).at(0));
+    EXPECT_TRUE(table.viewport()->rect().contains(row));
+}
+
 TEST_F(ReorderDialog, RefusedFieldGetsTheFocus) {
     dialog->show();
     const std::array<const char*, 4> refused[] = {
