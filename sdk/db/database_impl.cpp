@@ -2,7 +2,6 @@
 #include "sdk/db/database_impl.h"
 
 #include "sdk/db/class_registry.h"
-#include "sdk/db/group.h"
 #include "sdk/db/handle_text.h"
 #include "sdk/db/symbol_table.h"
 #include "sdk/dxf/unfilled_tags.h"
@@ -149,7 +148,7 @@ OdDbObjectPtr OdDbDatabaseImpl::load(OdDbStub& stub) {
         OdDbObjectPtr made = unfilled(*classOf(stub));
         made->content = DxfTagList::parse(stub.bytes(), source, carriageReturns);
         made->ownStub = &stub;
-        if (!sharedHandles.empty() && dynamic_cast<OdDbGroup*>(made.get()))
+        if (!sharedHandles.empty() && typeName(stub) == "GROUP")
             sharedHandles.correctMembers(made->content, handles);
         stub.object = made.get();
         return made;

@@ -1,12 +1,13 @@
+// Who lost a number to another record, and what groups have to say instead of it.
 #include "sdk/db/shared_handles.h"
 
 #include "sdk/db/handle_text.h"
 
 namespace {
 
-constexpr int kMember = 340;
+constexpr int kMember = 340; // of a group
 
-}
+} // namespace
 
 const std::vector<OdDbStub*>& OdDbSharedHandles::losersOf(std::uint64_t number) const {
     static const std::vector<OdDbStub*> none;

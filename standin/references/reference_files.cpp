@@ -1,4 +1,4 @@
-// The three places, in the order in which they count.
+// The places, in the order in which they count.
 #include "standin/references/reference_files.h"
 
 #include "host/text.h"

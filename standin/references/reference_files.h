@@ -8,8 +8,8 @@
 
 namespace standin {
 
-// The folder used last while the program runs; before the first use the folder of the drawing, or that of the
-// user.
+// The folder used last while the program runs; before the first use the folder of the drawing, or of the file
+// that it is a copy of, or that of the user.
 class ReferenceFiles : public CKWUnknownImpl<IReferenceFiles> {
 public:
     CXStringW startFolder(OdDbDatabase* drawing) override;

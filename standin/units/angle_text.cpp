@@ -75,10 +75,7 @@ double withinTurn(double value, double whole, int places) {
 }
 
 QString decimal(double value, double whole, int places) {
-    const QString text = QString::number(withinTurn(value, whole, places), 'f', places);
-    return text.contains(QLatin1Char('.'))
-               ? QString(text).remove(QRegularExpression(QStringLiteral("\\.?0+$")))
-               : text;
+    return withoutZeroTail(QString::number(withinTurn(value, whole, places), 'f', places));
 }
 
 QString minutesAndSeconds(double degrees, int precision) {

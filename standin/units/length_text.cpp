@@ -54,16 +54,6 @@ QString fractionText(double value, int precision) {
     return whole ? QStringLiteral("%1-%2").arg(whole).arg(fraction) : fraction;
 }
 
-QString withoutZeroTail(QString text) {
-    if (!text.contains(QLatin1Char('.')))
-        return text;
-    while (text.endsWith(QLatin1Char('0')))
-        text.chop(1);
-    if (text.endsWith(QLatin1Char('.')))
-        text.chop(1);
-    return text;
-}
-
 // Rounded before it is split, so that twelve inches are the next foot.
 double roundedTo(double value, double parts) { return std::round(value * parts) / parts; }
 
@@ -105,6 +95,16 @@ QString unsignedText(double value, const LengthUnits& units) {
 }
 
 } // namespace
+
+QString withoutZeroTail(QString text) {
+    if (!text.contains(QLatin1Char('.')))
+        return text;
+    while (text.endsWith(QLatin1Char('0')))
+        text.chop(1);
+    if (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    return text;
+}
 
 std::optional<double> lengthFromText(const QString& text, int style) {
     QString rest = text.trimmed();

@@ -26,6 +26,8 @@ struct AngleUnits {
 // 5'2-1/2". Null when the text is no length.
 std::optional<double> lengthFromText(const QString& text, int style);
 QString lengthText(double value, const LengthUnits& units);
+// Without the zeros behind the last decimal that says something.
+QString withoutZeroTail(QString text);
 // The shortest decimal, without an exponent, that reads as this very number.
 QString plainNumberText(double value);
 

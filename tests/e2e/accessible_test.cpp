@@ -243,9 +243,7 @@ int missingHeight(const QWidget* widget) {
                                : qobject_cast<const QAbstractButton*>(widget) ||
                                      qobject_cast<const QComboBox*>(widget) ||
                                      qobject_cast<const QLineEdit*>(widget);
-    return isShown ? std::min(widget->minimumSizeHint().height(), widget->fontMetrics().height()) -
-                         widget->height()
-                   : 0;
+    return isShown ? widget->fontMetrics().height() - widget->height() : 0;
 }
 
 int missingWidth(const QWidget* widget) {

@@ -1,5 +1,9 @@
 // Where dialogs come up, and how large.
+#include "host/documents.h"
 #include "host/selection.h"
+#include "sdk/db/block_table.h"
+#include "sdk/db/curves.h"
+#include "sdk/db/database.h"
 #include "tests/e2e/workbench_fixture.h"
 #include "workbench/canvas/canvas.h"
 #include "workbench/window/dialog_places.h"
@@ -169,10 +173,40 @@ TEST_F(DialogPlacesTest, ADialogGivesWayToWhatIsHighlightedUnlessItsUserHasPutIt
 }
 
 TEST_F(DialogPlacesTest, WhatIsHighlightedWhileADialogIsOpenMovesIt) {
-    int asked = 0;
-    QObject::connect(&bench->window()->drawingArea(), &workbench::Canvas::marksChanged, [&] { ++asked; });
+    const OdDbDatabasePtr drawing = HostDocManager()->currentDocument()->database();
+    const auto space =
+        odrxCast<OdDbBlockTableRecord>(drawing->getModelSpaceId().safeOpenObject(OdDb::kForWrite));
+    OdDbEntityPtr middle;
+    for (const double x : {0.0, 50.0, 100.0}) { // short lines, so that the one in the middle covers little
+        const OdDbLinePtr line(new OdDbLine);
+        line->setStartPoint({x, 0, 0});
+        line->setEndPoint({x + 1, 1, 0});
+        space->appendOdDbEntity(line.get());
+        if (x == 50)
+            middle = line;
+    }
+    enter({"ZOOM", "Extents"});
+    const workbench::Canvas& canvas = bench->window()->drawingArea();
+    QDialog dialog(bench->window());
+    dialog.setModal(true);
+    dialog.resize(200, 150);
+    dialog.show();
+    dialog.move(canvas.mapToGlobal(canvas.rect().center()) - QPoint(100, 75));
+    dialog.setProperty("placeOfDialog", dialog.geometry().topLeft()); // as if it had come up there
+    const QRect before = dialog.geometry();
+    middle->highlight(true);
     HostUpdateDisplay();
-    EXPECT_EQ(asked, 1);
+    ASSERT_TRUE(before.intersects(canvas.placeOfMarks())) << "else there is nothing to make room for";
+    EXPECT_FALSE(dialog.geometry().intersects(canvas.placeOfMarks()));
+}
+
+TEST_F(DialogPlacesTest, APlaceThatNobodyGaveIsNotRemembered) {
+    QByteArray key;
+    with("DWGPROPS", [&](QDialog& dialog) { key = dialog.objectName().toUtf8(); });
+    CXString left;
+    ASSERT_TRUE(readValue(openChild(appService<IProfile>().get(), "Dialogs").get(), key.constData(), &left))
+        << key.constData();
+    EXPECT_FALSE(QString(left.c_str()).contains("at")) << left.c_str();
 }
 
 TEST_F(DialogPlacesTest, SizesAreRememberedForEachDialogOverARestart) {

@@ -17,7 +17,6 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <QWindow>
-#include <climits>
 #include <optional>
 
 namespace workbench {
@@ -149,10 +148,8 @@ void DialogPlaces::place(QWidget& dialog) {
     const QRect before = wasPut ? QRect(*left->corner, wanted) : dialog.geometry();
     const QRect over = placeOver(isPut || wasPut ? before : window.geometry(), wanted, area);
     dialog.setGeometry(shown && !isPut && !wasPut ? placeBeside(shown(), over, area) : over);
-    if (wasPut)
-        dialog.setProperty(placeProperty, QPoint(INT_MIN, INT_MIN)); // it is its user's place again
-    else if (!isPut)
-        dialog.setProperty(placeProperty, dialog.geometry().topLeft());
+    if (!isPut) // a place that its user gave it is not ours
+        dialog.setProperty(placeProperty, wasPut ? QVariant() : QVariant(dialog.geometry().topLeft()));
     if (isDialog(dialog) && dialog.windowHandle() && !dialog.windowHandle()->transientParent())
         dialog.windowHandle()->setTransientParent(window.windowHandle());
 }
